@@ -1,0 +1,55 @@
+#pragma once
+
+#include "document/editable_path.h"
+#include "document/image_layer_source.h"
+#include "document/layer.h"
+
+namespace zm {
+
+/// How painting may change the pixel surface of a layer. Expanding marks a paint layer, whose surface grows as strokes
+/// leave it.
+enum class RasterSurfacePolicy : qint32 { Fixed = 0, Expanding = 1 };
+
+/// A layer that holds pixels or an SVG picture.
+class ImageLayer : public Layer
+{
+public:
+    ImageLayer(const QImage &image, const QString &name, const QUuid &id = {});
+    ImageLayer(const ImageLayerSource &source, const QString &name, const QUuid &id = {});
+
+    LayerType layerType() const override { return LayerType::Image; }
+    /// A raster's own pixels, not copied; an SVG drawn at its logical resolution, transparent where it does not load.
+    RenderedContent renderContent(const RenderServices *services) const override;
+
+    const ImageLayerSource &source() const { return m_source; }
+    bool isRaster() const { return rasterSource() != nullptr; }
+    /// Null for an SVG.
+    const RasterImageSource *rasterSource() const { return std::get_if<RasterImageSource>(&m_source); }
+    /// Null for a raster.
+    const SvgImageSource *svgSource() const { return std::get_if<SvgImageSource>(&m_source); }
+    /// The stored pixels, or an SVG as drawn.
+    QImage rasterImage() const;
+    QSizeF layerSize() const { return logicalSize(m_source); }
+    QSize pixelSize() const { return zm::pixelSize(m_source); }
+
+    const std::optional<EditablePath> &rasterSelection() const { return m_rasterSelection; }
+    bool hasRasterSelection() const { return m_rasterSelection.has_value(); }
+    RasterSurfacePolicy rasterSurfacePolicy() const { return m_rasterSurfacePolicy; }
+
+    // Setters return whether something changed.
+    bool setSource(const ImageLayerSource &source);
+    bool setRasterImage(const QImage &image);
+    /// In layer-local pixels. The path becomes odd-even and is clamped into the layer; one that keeps no node, and any
+    /// path on an empty layer, is no selection.
+    bool setRasterSelection(const std::optional<EditablePath> &selection);
+    bool setRasterSurfacePolicy(RasterSurfacePolicy policy);
+
+    qint64 memoryBytes() const override;
+
+private:
+    ImageLayerSource m_source;
+    std::optional<EditablePath> m_rasterSelection;
+    RasterSurfacePolicy m_rasterSurfacePolicy = RasterSurfacePolicy::Fixed;
+};
+
+} // namespace zm

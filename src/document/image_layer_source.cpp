@@ -1,0 +1,91 @@
+#include "document/image_layer_source.h"
+
+#include "base/fuzzy.h"
+
+#include <QSvgRenderer>
+
+#include <algorithm>
+#include <cmath>
+
+namespace zm {
+
+namespace {
+
+QSizeF atLeastOne(const QSizeF &size)
+{
+    return size.expandedTo(QSizeF(1.0, 1.0));
+}
+
+} // namespace
+
+ImageLayerSource normalizedSource(ImageLayerSource source)
+{
+    if (auto *raster = std::get_if<RasterImageSource>(&source)) {
+        if (!raster->image.isNull() && raster->image.format() != QImage::Format_RGBA8888)
+            raster->image = std::move(raster->image).convertToFormat(QImage::Format_RGBA8888);
+    } else {
+        auto &svg = std::get<SvgImageSource>(source);
+        svg.size = atLeastOne(svg.size);
+    }
+    return source;
+}
+
+bool sameSource(const ImageLayerSource &a, const ImageLayerSource &b)
+{
+    if (a.index() != b.index())
+        return false;
+    if (const auto *raster = std::get_if<RasterImageSource>(&a))
+        return raster->image == std::get<RasterImageSource>(b).image;
+    const auto &first = std::get<SvgImageSource>(a);
+    const auto &second = std::get<SvgImageSource>(b);
+    return first.data == second.data && fuzzyEqual(first.size, second.size);
+}
+
+QSizeF logicalSize(const ImageLayerSource &source)
+{
+    if (const auto *raster = std::get_if<RasterImageSource>(&source))
+        return raster->image.size();
+    return std::get<SvgImageSource>(source).size;
+}
+
+QSize pixelSize(const ImageLayerSource &source)
+{
+    if (const auto *raster = std::get_if<RasterImageSource>(&source))
+        return raster->image.size();
+    const QSizeF size = atLeastOne(std::get<SvgImageSource>(source).size);
+    return {int(std::ceil(size.width())), int(std::ceil(size.height()))};
+}
+
+qint64 memoryBytes(const ImageLayerSource &source)
+{
+    if (const auto *raster = std::get_if<RasterImageSource>(&source))
+        return raster->image.sizeInBytes();
+    return std::get<SvgImageSource>(source).data.size();
+}
+
+std::optional<QSizeF> svgDefaultSize(const QByteArray &data)
+{
+    QSvgRenderer renderer;
+    renderer.setAnimationEnabled(false);
+    if (!renderer.load(data) || !renderer.isValid())
+        return std::nullopt;
+    const QSize defaultSize = renderer.defaultSize();
+    if (!defaultSize.isEmpty())
+        return QSizeF(defaultSize);
+    const QRectF viewBox = renderer.viewBoxF();
+    if (!viewBox.isEmpty())
+        return viewBox.size();
+    return std::nullopt;
+}
+
+std::optional<SvgImageSource> svgSourceFromData(const QByteArray &data, const QSizeF &size)
+{
+    if (data.isEmpty())
+        return std::nullopt;
+    const std::optional<QSizeF> defaultSize = svgDefaultSize(data);
+    if (!defaultSize)
+        return std::nullopt;
+    return SvgImageSource{data, atLeastOne(size.isEmpty() ? *defaultSize : size)};
+}
+
+} // namespace zm
