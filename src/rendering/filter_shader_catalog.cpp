@@ -1,0 +1,59 @@
+#include "rendering/filter_shader_catalog.h"
+
+#include <QCoreApplication>
+
+#include <algorithm>
+
+using namespace Qt::StringLiterals;
+
+namespace zm {
+
+namespace {
+
+/// A row of the utilities, which all read the one sampler u_input.
+FilterShaderDescriptor utility(const QString &id, const char *label, const QString &resourceName,
+                               const QList<QByteArray> &uniformBlockNames, const QList<QByteArray> &uniforms)
+{
+    return {
+        .id = id,
+        .label = QCoreApplication::translate("FilterShaderCatalog", label),
+        .fragmentResource = u":/zelmoraatelier/shaders/filter-utils/%1.frag.qsb"_s.arg(resourceName),
+        .samplers = {"u_input"},
+        .uniformBlockNames = uniformBlockNames,
+        .uniforms = uniforms,
+    };
+}
+
+QList<FilterShaderDescriptor> utilities()
+{
+    return {
+        utility(u"boxBlur"_s, QT_TRANSLATE_NOOP("FilterShaderCatalog", "Box blur"), u"util_box_blur"_s,
+                {"BoxBlurUniforms"}, {"u_dirTexelSizeRadius", "u_radius"}),
+        utility(u"gaussianBlur"_s, QT_TRANSLATE_NOOP("FilterShaderCatalog", "Gaussian blur"), u"util_gaussian_blur"_s,
+                {"GaussianBlurUniforms"}, {"u_dirTexelSize", "u_sigmaRadius"}),
+        utility(u"textureCopy"_s, QT_TRANSLATE_NOOP("FilterShaderCatalog", "Texture copy"), u"util_texture_copy"_s,
+                {}, {}),
+    };
+}
+
+} // namespace
+
+FilterShaderCatalog::FilterShaderCatalog(const QList<FilterShaderDescriptor> &descriptors)
+    : m_descriptors(descriptors)
+{
+}
+
+const FilterShaderCatalog &FilterShaderCatalog::instance()
+{
+    static const FilterShaderCatalog catalog(utilities());
+    return catalog;
+}
+
+const FilterShaderDescriptor *FilterShaderCatalog::find(const QString &id) const
+{
+    const auto found = std::find_if(m_descriptors.cbegin(), m_descriptors.cend(),
+                                    [&id](const FilterShaderDescriptor &descriptor) { return descriptor.id == id; });
+    return found == m_descriptors.cend() ? nullptr : &*found;
+}
+
+} // namespace zm
