@@ -1,0 +1,207 @@
+#include "document/scene_renderer.h"
+
+#include "document/blend_modes.h"
+#include "rendering/filter_utility_renderer.h"
+#include "rendering/render_services.h"
+#include "rendering/shader_texture_renderer.h"
+
+#include <QPainter>
+#include <QSemaphore>
+#include <QThread>
+#include <QThreadPool>
+
+#include <atomic>
+#include <cmath>
+#include <functional>
+#include <limits>
+
+namespace zm {
+
+namespace {
+
+// Few enough rows that QPainter does not cut the band up for threads of its own.
+constexpr int kBandRows = 64;
+// Handing a smaller picture to a second thread costs more than it saves.
+constexpr qint64 kParallelPixels = 256 * 1024;
+
+/// What one picture shows, and how.
+struct View
+{
+    const SceneSnapshot &snapshot;
+    /// From document units to the picture's pixels.
+    QTransform toPixels;
+    double scale;
+    bool fixedBounds;
+    bool smooth;
+    bool showBounds;
+};
+
+double cleanScale(double scale)
+{
+    return scale >= kMinimumRenderScale ? scale : kMinimumRenderScale; // NaN, too
+}
+
+QRectF cleanRect(const SceneSnapshot &snapshot, const QRectF &rect)
+{
+    const QRectF normalized = rect.normalized();
+    return normalized.isEmpty() ? documentRect(snapshot) : normalized;
+}
+
+int wholePixels(double length)
+{
+    return int(std::clamp(std::ceil(length), 1.0, double(std::numeric_limits<int>::max())));
+}
+
+void drawDocumentOutline(QPainter &painter, const View &view)
+{
+    QColor color = view.fixedBounds ? QColor(22, 24, 27) : QColor(124, 131, 141);
+    color.setAlpha(128);
+    const double width = 1.0 / view.scale;
+    QPen pen(color, width, Qt::CustomDashLine, Qt::FlatCap, Qt::MiterJoin);
+    pen.setDashPattern({12.0, 8.0});
+    painter.setPen(pen);
+    painter.setBrush(Qt::NoBrush);
+    const double half = width / 2.0;
+    painter.drawRect(documentRect(view.snapshot).adjusted(-half, -half, half, half));
+}
+
+void drawItem(QPainter &painter, const SceneRenderItem &item)
+{
+    painter.save();
+    painter.setCompositionMode(compositionMode(item.blendMode));
+    painter.setOpacity(item.opacity);
+    painter.setTransform(itemMatrix(item), true);
+    painter.drawImage(imageRect(item), item.image);
+    painter.restore();
+}
+
+/// Paints the rows of the band and no others. The painter's coordinates are those of the whole picture, so that bands
+/// join without a seam.
+void paintBand(const View &view, QImage &picture, const QRect &band)
+{
+    QImage rows(picture.scanLine(band.top()), band.width(), band.height(), picture.bytesPerLine(), picture.format());
+    rows.fill(view.fixedBounds ? QColor(Qt::transparent) : view.snapshot.backgroundColor);
+    QPainter painter(&picture);
+    painter.setClipRect(band);
+    painter.setRenderHints(QPainter::Antialiasing | QPainter::TextAntialiasing);
+    painter.setRenderHint(QPainter::SmoothPixmapTransform, view.smooth);
+    painter.setTransform(view.toPixels);
+    if (view.fixedBounds) {
+        painter.setClipRect(documentRect(view.snapshot), Qt::IntersectClip);
+        painter.fillRect(documentRect(view.snapshot), view.snapshot.backgroundColor);
+    }
+    if (view.showBounds)
+        drawDocumentOutline(painter, view);
+    // A pixel of room for the soft edge of an item.
+    const QRectF touched = QRectF(band).adjusted(-1.0, -1.0, 1.0, 1.0);
+    for (const SceneRenderItem &item : view.snapshot.items) {
+        if (view.toPixels.mapRect(itemBounds(item)).intersects(touched))
+            drawItem(painter, item);
+    }
+}
+
+/// Calls work(0) to work(count - 1), on this thread and on those of the global pool that are free at once. It never
+/// waits for a thread to become free, so it can itself be called from the pool.
+void spread(int count, const std::function<void(int)> &work)
+{
+    std::atomic<int> next = 0;
+    const auto takeTurns = [&] {
+        for (int i = next++; i < count; i = next++)
+            work(i);
+    };
+    const int wanted = std::min(count, QThread::idealThreadCount()) - 1;
+    QSemaphore finished;
+    int helpers = 0;
+    while (helpers < wanted && QThreadPool::globalInstance()->tryStart([&] {
+        takeTurns();
+        finished.release();
+    }))
+        ++helpers;
+    takeTurns();
+    finished.acquire(helpers);
+}
+
+QImage renderPicture(const View &view, const QSize &size)
+{
+    QImage picture(size, QImage::Format_RGBA8888);
+    if (picture.isNull())
+        return {};
+    if (qint64(size.width()) * size.height() < kParallelPixels) {
+        paintBand(view, picture, picture.rect());
+        return picture;
+    }
+    uchar *const pixels = picture.bits();
+    const qsizetype stride = picture.bytesPerLine();
+    spread((size.height() + kBandRows - 1) / kBandRows, [&](int index) {
+        QImage shared(pixels, size.width(), size.height(), stride, QImage::Format_RGBA8888);
+        const QRect band(0, index * kBandRows, size.width(), kBandRows);
+        paintBand(view, shared, band & shared.rect());
+    });
+    return picture;
+}
+
+} // namespace
+
+int maxTileSize(const RenderServices *services)
+{
+    int side = services && services->textureRenderer ? services->textureRenderer->maximumTextureSize() : 0;
+    if (side <= 0 && services && services->filterRenderer)
+        side = services->filterRenderer->maximumTextureSize();
+    return side > 0 ? std::min(side, kMaximumTileSide) : kMaximumTileSide;
+}
+
+QImage renderSceneTile(const SceneSnapshot &snapshot, const QRectF &rect, bool fixedBounds, double scale, bool smooth,
+                       bool showBounds)
+{
+    const QRectF source = cleanRect(snapshot, rect);
+    const double s = cleanScale(scale);
+    const QTransform toPixels = QTransform::fromScale(s, s).translate(-source.left(), -source.top());
+    return renderPicture({snapshot, toPixels, s, fixedBounds, smooth, showBounds},
+                         {wholePixels(source.width() * s), wholePixels(source.height() * s)});
+}
+
+QList<SceneTile> renderSceneTiles(const SceneSnapshot &snapshot, const QRectF &rect, bool fixedBounds, double scale,
+                                  int maxTile, bool showBounds)
+{
+    const QRectF source = cleanRect(snapshot, rect);
+    const double s = cleanScale(scale);
+    const int side = std::max(maxTile, 1);
+    const bool smooth = s <= 1.0;
+
+    // Counted in whole pixels throughout: divided and multiplied by the scale again, a side could come out one longer.
+    const double firstColumn = std::floor(source.left() * s);
+    const double firstRow = std::floor(source.top() * s);
+    const int width = wholePixels(std::ceil(source.right() * s) - firstColumn);
+    const int height = wholePixels(std::ceil(source.bottom() * s) - firstRow);
+    const QPointF topLeft(firstColumn / s, firstRow / s);
+    const QPointF bottomRight(std::ceil(source.right() * s) / s, std::ceil(source.bottom() * s) / s);
+
+    QList<SceneTile> tiles;
+    for (qint64 y = 0; y < height; y += side) {
+        for (qint64 x = 0; x < width; x += side) {
+            const QSize pixels(int(std::min<qint64>(side, width - x)), int(std::min<qint64>(side, height - y)));
+            const qint64 endX = x + pixels.width();
+            const qint64 endY = y + pixels.height();
+            const QPointF tileTopLeft(topLeft.x() + double(x) / s, topLeft.y() + double(y) / s);
+            const QPointF tileBottomRight(endX == width ? bottomRight.x() : topLeft.x() + double(endX) / s,
+                                          endY == height ? bottomRight.y() : topLeft.y() + double(endY) / s);
+            const QTransform toPixels = QTransform::fromTranslate(-firstColumn - double(x), -firstRow - double(y))
+                                            .scale(s, s);
+            tiles.append({QRectF(tileTopLeft, tileBottomRight), s,
+                          renderPicture({snapshot, toPixels, s, fixedBounds, smooth, showBounds}, pixels)});
+        }
+    }
+    return tiles;
+}
+
+QImage renderDocumentImage(const SceneSnapshot &snapshot, double scale)
+{
+    return renderSceneTile(snapshot, documentRect(snapshot), true, scale, true, false);
+}
+
+QImage renderSceneRegion(const SceneSnapshot &snapshot, const QRectF &rect, double scale)
+{
+    return renderSceneTile(snapshot, rect, false, scale, true, false);
+}
+
+} // namespace zm
