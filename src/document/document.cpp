@@ -134,7 +134,7 @@ bool Document::replaceContents(const QSizeF &size, const QColor &backgroundColor
 
 bool Document::setSize(const QSizeF &size)
 {
-    const QSizeF clean(cleanSide(size.width()), cleanSide(size.height()));
+    const QSizeF clean = cleanDocumentSize(size);
     if (fuzzyEqual(m_size, clean))
         return false;
     m_size = clean;
@@ -144,7 +144,7 @@ bool Document::setSize(const QSizeF &size)
 
 bool Document::setBackgroundColor(const QColor &color)
 {
-    const QColor clean = color.isValid() ? color : QColor(Qt::white);
+    const QColor clean = cleanBackgroundColor(color);
     if (m_backgroundColor == clean)
         return false;
     m_backgroundColor = clean;
@@ -249,6 +249,16 @@ bool Document::setImageLayerRasterSelection(const QUuid &id, const std::optional
         return false;
     emit imageLayerChanged(target->id());
     return true;
+}
+
+QSizeF cleanDocumentSize(const QSizeF &size)
+{
+    return {cleanSide(size.width()), cleanSide(size.height())};
+}
+
+QColor cleanBackgroundColor(const QColor &color)
+{
+    return color.isValid() ? color : QColor(Qt::white);
 }
 
 } // namespace zm

@@ -96,4 +96,10 @@ private:
     QColor m_backgroundColor = Qt::white;
 };
 
+/// The size that the document stores for a given one: each side at least 1, and 1 where it is not a finite number.
+QSizeF cleanDocumentSize(const QSizeF &size);
+
+/// The background that the document stores for a given one: white for an invalid colour.
+QColor cleanBackgroundColor(const QColor &color);
+
 } // namespace zm

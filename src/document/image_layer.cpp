@@ -1,5 +1,7 @@
 #include "document/image_layer.h"
 
+#include "base/pixel_limits.h"
+
 #include <QPainter>
 #include <QSvgRenderer>
 
@@ -54,7 +56,12 @@ RenderedContent ImageLayer::renderContent(const RenderServices *) const
 {
     if (const RasterImageSource *raster = rasterSource())
         return {raster->image, layerSize()};
-    QImage image(pixelSize(), QImage::Format_RGBA8888);
+    // An SVG may ask for any size; one that no raster may have is not drawn.
+    QImage image;
+    if (isAllocatableRasterSize(pixelSize()))
+        image = QImage(pixelSize(), QImage::Format_RGBA8888);
+    if (image.isNull())
+        return {image, layerSize()};
     image.fill(Qt::transparent);
     QSvgRenderer renderer;
     renderer.setAnimationEnabled(false);

@@ -18,7 +18,8 @@ public:
     ImageLayer(const ImageLayerSource &source, const QString &name, const QUuid &id = {});
 
     LayerType layerType() const override { return LayerType::Image; }
-    /// A raster's own pixels, not copied; an SVG drawn at its logical resolution, transparent where it does not load.
+    /// A raster's own pixels, not copied; an SVG drawn at its logical resolution. Transparent for an SVG that does not
+    /// load, and null for one whose size is beyond what a raster may have.
     RenderedContent renderContent(const RenderServices *services) const override;
 
     const ImageLayerSource &source() const { return m_source; }

@@ -6,6 +6,7 @@
 
 #include <algorithm>
 #include <cmath>
+#include <limits>
 
 namespace zm {
 
@@ -13,7 +14,13 @@ namespace {
 
 QSizeF atLeastOne(const QSizeF &size)
 {
-    return size.expandedTo(QSizeF(1.0, 1.0));
+    const auto clean = [](double side) { return std::isfinite(side) ? std::max(side, 1.0) : 1.0; };
+    return {clean(size.width()), clean(size.height())};
+}
+
+int roundedUp(double side)
+{
+    return int(std::min(std::ceil(side), double(std::numeric_limits<int>::max())));
 }
 
 } // namespace
@@ -23,6 +30,7 @@ ImageLayerSource normalizedSource(ImageLayerSource source)
     if (auto *raster = std::get_if<RasterImageSource>(&source)) {
         if (!raster->image.isNull() && raster->image.format() != QImage::Format_RGBA8888)
             raster->image = std::move(raster->image).convertToFormat(QImage::Format_RGBA8888);
+        raster->image.setDevicePixelRatio(1.0); // readers set it for names such as "a@2x.png"; a pixel is a pixel here
     } else {
         auto &svg = std::get<SvgImageSource>(source);
         svg.size = atLeastOne(svg.size);
@@ -53,7 +61,7 @@ QSize pixelSize(const ImageLayerSource &source)
     if (const auto *raster = std::get_if<RasterImageSource>(&source))
         return raster->image.size();
     const QSizeF size = atLeastOne(std::get<SvgImageSource>(source).size);
-    return {int(std::ceil(size.width())), int(std::ceil(size.height()))};
+    return {roundedUp(size.width()), roundedUp(size.height())};
 }
 
 qint64 memoryBytes(const ImageLayerSource &source)
