@@ -91,7 +91,7 @@ ReplaceSceneObjectCommand::ReplaceSceneObjectCommand(Document *document, const Q
 void ReplaceSceneObjectCommand::swap()
 {
     qsizetype index = -1;
-    std::unique_ptr<SceneObject> taken = m_held ? m_document->takeObject(m_id, &index) : nullptr;
+    std::unique_ptr<SceneObject> taken = isObsolete() ? nullptr : m_document->takeObject(m_id, &index);
     if (!taken) {
         setObsolete(true);
         return;
@@ -132,7 +132,7 @@ bool CollapseLayerDownCommand::areNeighbours() const
 
 void CollapseLayerDownCommand::redo()
 {
-    if (!m_merged || !areNeighbours()) {
+    if (isObsolete() || !areNeighbours()) {
         setObsolete(true);
         return;
     }
@@ -146,6 +146,8 @@ void CollapseLayerDownCommand::redo()
 
 void CollapseLayerDownCommand::undo()
 {
+    if (isObsolete())
+        return;
     m_merged = m_document->takeObject(m_lowerId);
     if (!m_merged || !m_document->insertObject(std::move(m_lower), m_index)
         || !m_document->insertObject(std::move(m_upper), m_index + 1)) {
