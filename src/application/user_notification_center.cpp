@@ -3,6 +3,8 @@
 #include <QCoreApplication>
 #include <QThread>
 
+#include <algorithm>
+
 namespace zm {
 
 UserNotificationCenter &UserNotificationCenter::instance()

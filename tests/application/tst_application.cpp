@@ -1,0 +1,294 @@
+#include "application/application.h"
+#include "application/application_info_controller.h"
+#include "application/application_log.h"
+#include "application/application_settings.h"
+#include "application/application_theme_controller.h"
+#include "application/process_start.h"
+#include "application/theme_palettes.h"
+
+#include <QDesktopServices>
+#include <QDir>
+#include <QFile>
+#include <QFileOpenEvent>
+#include <QIcon>
+#include <QSignalSpy>
+#include <QStyleHints>
+#include <QTemporaryDir>
+#include <QTest>
+
+#include <private/qguiapplication_p.h>
+#include <qpa/qplatformtheme.h>
+#include <qpa/qwindowsysteminterface.h>
+
+using namespace Qt::StringLiterals;
+using namespace zm;
+
+namespace {
+
+/// A desktop with a colour scheme that its user can change and a program can override for itself, as the plug-ins of
+/// real desktops do it: either is reported at once.
+class Desktop : public QPlatformTheme
+{
+public:
+    Qt::ColorScheme colorScheme() const override
+    {
+        return m_requested == Qt::ColorScheme::Unknown ? m_chosen : m_requested;
+    }
+    void requestColorScheme(Qt::ColorScheme scheme) override { report(m_requested, scheme); }
+    void choose(Qt::ColorScheme scheme) { report(m_chosen, scheme); }
+
+private:
+    void report(Qt::ColorScheme &target, Qt::ColorScheme scheme)
+    {
+        target = scheme;
+        QWindowSystemInterface::handleThemeChange<QWindowSystemInterface::SynchronousDelivery>();
+    }
+
+    Qt::ColorScheme m_chosen = Qt::ColorScheme::Unknown;
+    Qt::ColorScheme m_requested = Qt::ColorScheme::Unknown;
+};
+
+} // namespace
+
+class TestApplication : public QObject
+{
+    Q_OBJECT
+
+public:
+    explicit TestApplication(Application &application)
+        : m_application(application)
+        , m_platformTheme(std::exchange(QGuiApplicationPrivate::platform_theme, &m_desktop))
+    {
+    }
+    ~TestApplication() override { QGuiApplicationPrivate::platform_theme = m_platformTheme; }
+
+public slots:
+    void receiveUrl(const QUrl &url) { m_openedUrl = url; }
+
+private slots:
+    void cleanup()
+    {
+        while (!m_application.takePendingFileOpenRequest().isEmpty()) { }
+        ApplicationSettings().setThemeMode(u"system"_s);
+    }
+
+    void namesItselfAndFindsItsIcons()
+    {
+        QCOMPARE(QCoreApplication::applicationName(), u"ZelmoraAtelier"_s);
+        QCOMPARE(QGuiApplication::applicationDisplayName(), u"Zelmora Atelier"_s);
+        QCOMPARE(QGuiApplication::windowIcon().availableSizes(), QList<QSize>{QSize(256, 256)});
+        QVERIFY(!QIcon::fromTheme(u"open"_s).pixmap(24, 24).isNull());
+        QVERIFY(QIcon::fromTheme(u"no such icon"_s).isNull());
+
+        const ApplicationInfoController info;
+        QCOMPARE(info.version(), u"1.2.1"_s);
+        QVERIFY(info.copyrightNotice().startsWith(u"© 2"_s) && info.copyrightNotice().endsWith(u" Zelmora"_s));
+        QDesktopServices::setUrlHandler(u"file"_s, this, "receiveUrl");
+        QVERIFY(info.openLogFolder());
+        QDesktopServices::unsetUrlHandler(u"file"_s);
+        QVERIFY(QFile::exists(m_openedUrl.toLocalFile() + u"/info.log"_s));
+    }
+
+    void platformNameIsCompleted_data()
+    {
+        QTest::addColumn<QByteArray>("given");
+        QTest::addColumn<QByteArray>("expected");
+        const auto row = [](const char *given, const char *expected) {
+            QTest::newRow(*given ? given : "unset") << QByteArray(given) << QByteArray(expected);
+        };
+        row("", "windows:darkmode=1");
+        row("windows", "windows:darkmode=1");
+        row("windows:fontengine=freetype", "windows:fontengine=freetype:darkmode=1");
+        row("windows:darkmode=0", "windows:darkmode=0");
+        row("windows:darkmode=2:fontengine=freetype", "windows:darkmode=2:fontengine=freetype");
+        row("offscreen", "offscreen");
+        row("xcb", "xcb");
+    }
+
+    void platformNameIsCompleted()
+    {
+        QFETCH(const QByteArray, given);
+        QTEST(completedPlatformName(given), "expected");
+    }
+
+    void firstArgumentThatIsAFileIsOpened_data()
+    {
+        QTest::addColumn<QStringList>("arguments");
+        QTest::addColumn<QString>("expected"); // empty: none
+        const QString here = QDir::currentPath() + u'/';
+        QTest::newRow("none") << QStringList{u"program"_s} << QString();
+        QTest::newRow("only options") << QStringList{u"program"_s, u"-x"_s, u" --y"_s, u"  "_s} << QString();
+        QTest::newRow("option, blank, two files")
+            << QStringList{u"program"_s, u"-x"_s, QString(), u"picture.png"_s, u"other.png"_s}
+            << here + u"picture.png"_s;
+        QTest::newRow("blanks around") << QStringList{u"program"_s, u" /tmp/a b.png\t"_s} << u"/tmp/a b.png"_s;
+        QTest::newRow("file URL") << QStringList{u"program"_s, u"file:///tmp/a%20b.png"_s} << u"/tmp/a b.png"_s;
+        QTest::newRow("characters of URLs") << QStringList{u"program"_s, u"50%25#1?.png"_s} << here + u"50%25#1?.png"_s;
+        QTest::newRow("like a scheme") << QStringList{u"program"_s, u"a:b.png"_s} << here + u"a:b.png"_s;
+        QTest::newRow("no arguments at all") << QStringList() << QString();
+    }
+
+    void firstArgumentThatIsAFileIsOpened()
+    {
+        QFETCH(const QStringList, arguments);
+        QTEST(fileArgument(arguments).toLocalFile(), "expected");
+    }
+
+    void fileRequestsWaitInOrder()
+    {
+        QSignalSpy spy(&m_application, &Application::pendingFileOpenRequestAvailable);
+        m_application.addFileOpenRequest(QUrl::fromLocalFile(u"relative.png"_s));
+        m_application.addFileOpenRequest(QUrl::fromLocalFile(u"/b.png"_s));
+        m_application.addFileOpenRequest(QUrl::fromLocalFile(QDir::currentPath() + u"/relative.png"_s));
+        m_application.addFileOpenRequest(QUrl(u"https://host/c.png"_s));
+        m_application.addFileOpenRequest(QUrl(u"file:"_s));
+        m_application.addFileOpenRequest(QUrl());
+        QCOMPARE(spy.size(), 2);
+        QCOMPARE(m_application.takePendingFileOpenRequest().toLocalFile(), QDir::currentPath() + u"/relative.png"_s);
+        QCOMPARE(m_application.takePendingFileOpenRequest().toLocalFile(), u"/b.png"_s);
+        QVERIFY(m_application.takePendingFileOpenRequest().isEmpty());
+    }
+
+    void systemRequestsReachTheQueueOnce()
+    {
+        QSignalSpy spy(&m_application, &Application::pendingFileOpenRequestAvailable);
+        QFileOpenEvent first(u"/tmp/picture.png"_s);
+        first.ignore();
+        QVERIFY(QCoreApplication::sendEvent(&m_application, &first));
+        QVERIFY(first.isAccepted());
+        QFileOpenEvent again(QUrl::fromLocalFile(u"/tmp/picture.png"_s));
+        QVERIFY(QCoreApplication::sendEvent(&m_application, &again));
+        QFileOpenEvent remote(QUrl(u"https://host/picture.png"_s));
+        QVERIFY(!QCoreApplication::sendEvent(&m_application, &remote));
+        QCOMPARE(spy.size(), 1);
+        QCOMPARE(m_application.takePendingFileOpenRequest(), QUrl::fromLocalFile(u"/tmp/picture.png"_s));
+        QVERIFY(m_application.takePendingFileOpenRequest().isEmpty());
+    }
+
+    void languageWithoutCatalogueFallsBack()
+    {
+        m_application.applyLanguage(u"en"_s);
+        QCOMPARE(QLocale().language(), QLocale::English);
+        QLocale::setDefault(QLocale(u"de"_s));
+        QTest::ignoreMessage(QtWarningMsg, "No translation catalog for language xx");
+        m_application.applyLanguage(u"xx"_s);
+        QCOMPARE(QLocale().language(), QLocale::English);
+    }
+
+    void paletteHasTheThemesColors_data()
+    {
+        QTest::addColumn<bool>("dark");
+        QTest::addColumn<QColor>("systemHighlight");
+        QTest::addColumn<QPalette::ColorRole>("role");
+        QTest::addColumn<QColor>("active");
+        QTest::addColumn<QColor>("disabled");
+        const QColor mid(0, 103, 192);
+        const QColor darkBlue(0, 0, 128);  // lightness 0.25
+        const QColor paleBlue(200, 200, 255); // lightness 0.89
+        const auto row = [](const char *name, bool dark, const QColor &highlight, QPalette::ColorRole role,
+                            const QColor &active, const QColor &disabled) {
+            QTest::newRow(name) << dark << highlight << role << active << disabled;
+        };
+        row("dark window", true, mid, QPalette::Window, QColor(32, 33, 36), QColor(32, 33, 36));
+        row("dark text", true, mid, QPalette::ButtonText, QColor(241, 243, 244), QColor(123, 128, 135));
+        row("dark tool tip text", true, mid, QPalette::ToolTipText, QColor(241, 243, 244), QColor(241, 243, 244));
+        row("dark link", true, mid, QPalette::Link, QColor(138, 180, 248), QColor(138, 180, 248));
+        row("dark accent, too dark", true, darkBlue, QPalette::Highlight, QColor(0, 0, 186), QColor(58, 61, 66));
+        row("dark accent, pale", true, paleBlue, QPalette::Highlight, paleBlue, QColor(58, 61, 66));
+        row("dark accent, invalid", true, QColor(), QPalette::Highlight, QColor(76, 139, 245), QColor(58, 61, 66));
+        row("light window", false, mid, QPalette::Window, QColor(243, 243, 243), QColor(243, 243, 243));
+        row("light placeholder", false, mid, QPalette::PlaceholderText, QColor(114, 114, 114), QColor(154, 154, 154));
+        row("light accent", false, mid, QPalette::Highlight, mid, QColor(208, 208, 208));
+        row("light accent, dark", false, darkBlue, QPalette::Highlight, darkBlue, QColor(208, 208, 208));
+        row("light accent, too pale", false, paleBlue, QPalette::Link, QColor(154, 154, 196), QColor(154, 154, 196));
+        row("light accent, invalid", false, QColor(), QPalette::Link, QColor(0, 103, 192), QColor(0, 103, 192));
+        row("role that no theme names", false, mid, QPalette::Accent, Qt::magenta, Qt::magenta);
+    }
+
+    void paletteHasTheThemesColors()
+    {
+        QFETCH(const bool, dark);
+        QFETCH(const QColor, systemHighlight);
+        QFETCH(const QPalette::ColorRole, role);
+        QFETCH(const QColor, active);
+        QFETCH(const QColor, disabled);
+        QPalette system;
+        system.setColor(QPalette::Accent, Qt::magenta);
+        system.setColor(QPalette::Active, QPalette::Highlight, systemHighlight);
+        const QPalette palette = dark ? darkThemePalette(system) : lightThemePalette(system);
+        const auto sameColor = [&](QPalette::ColorGroup group, const QColor &expected) {
+            const QRgb got = palette.color(group, role).rgba();
+            // `lighter` and `darker` go through HSV, which may round by one.
+            return qAbs(qRed(got) - expected.red()) <= 1 && qAbs(qGreen(got) - expected.green()) <= 1
+                && qAbs(qBlue(got) - expected.blue()) <= 1;
+        };
+        QVERIFY(sameColor(QPalette::Active, active));
+        QVERIFY(sameColor(QPalette::Inactive, active));
+        QVERIFY(sameColor(QPalette::Disabled, disabled));
+    }
+
+    void themeFollowsSettingsAndDesktop()
+    {
+        const QColor dark(32, 33, 36);
+        const QColor light(243, 243, 243);
+        ApplicationSettings settings;
+        settings.setThemeMode(u"light"_s);
+        ApplicationThemeController theme(settings);
+        QSignalSpy spy(&theme, &ApplicationThemeController::paletteChanged);
+        theme.applyTheme();
+        QCOMPARE(QGuiApplication::palette().color(QPalette::Window), light);
+
+        settings.setThemeMode(u"dark"_s);
+        QCOMPARE(QGuiApplication::palette().color(QPalette::Window), dark);
+        QCOMPARE(theme.palette().color(QPalette::Window), dark);
+        QCOMPARE(spy.size(), 2);
+        m_desktop.choose(Qt::ColorScheme::Light);
+        QCOMPARE(QGuiApplication::palette().color(QPalette::Window), dark);
+
+        settings.setThemeMode(u"system"_s);
+        for (const auto &[scheme, window] : {std::pair(Qt::ColorScheme::Light, light),
+                                             std::pair(Qt::ColorScheme::Dark, dark),
+                                             std::pair(Qt::ColorScheme::Unknown, light)}) {
+            m_desktop.choose(scheme);
+            QCOMPARE(QGuiApplication::palette().color(QPalette::Window), window);
+        }
+    }
+
+    void slotsOfTheThemeDoNotEnterItAgain()
+    {
+        ApplicationSettings settings;
+        ApplicationThemeController theme(settings);
+        int depth = 0;
+        int deepest = 0;
+        int emitted = 0;
+        connect(&theme, &ApplicationThemeController::paletteChanged, this, [&] {
+            deepest = std::max(deepest, ++depth);
+            if (++emitted < 10) // an unguarded theme would come here for ever
+                m_desktop.choose(emitted % 2 ? Qt::ColorScheme::Dark : Qt::ColorScheme::Light);
+            --depth;
+        });
+        theme.applyTheme();
+        QCOMPARE(deepest, 1);
+        QCOMPARE(emitted, 1);
+    }
+
+private:
+    Application &m_application;
+    Desktop m_desktop;
+    QPlatformTheme *m_platformTheme;
+    QUrl m_openedUrl;
+};
+
+int main(int argc, char **argv)
+{
+    const QTemporaryDir home;
+    for (const char *variable : {"HOME", "XDG_DATA_HOME", "XDG_CONFIG_HOME"})
+        qputenv(variable, home.path().toLocal8Bit());
+    if (!qEnvironmentVariableIsSet("DISPLAY"))
+        qputenv("QT_QPA_PLATFORM", "offscreen"); // nothing here needs a real screen
+    Application application(argc, argv);
+    TestApplication test(application);
+    return QTest::qExec(&test, argc, argv);
+}
+
+#include "tst_application.moc"
