@@ -89,49 +89,33 @@ private slots:
         QVERIFY(QFile::exists(m_openedUrl.toLocalFile() + u"/info.log"_s));
     }
 
-    void platformNameIsCompleted_data()
-    {
-        QTest::addColumn<QByteArray>("given");
-        QTest::addColumn<QByteArray>("expected");
-        const auto row = [](const char *given, const char *expected) {
-            QTest::newRow(*given ? given : "unset") << QByteArray(given) << QByteArray(expected);
-        };
-        row("", "windows:darkmode=1");
-        row("windows", "windows:darkmode=1");
-        row("windows:fontengine=freetype", "windows:fontengine=freetype:darkmode=1");
-        row("windows:darkmode=0", "windows:darkmode=0");
-        row("windows:darkmode=2:fontengine=freetype", "windows:darkmode=2:fontengine=freetype");
-        row("offscreen", "offscreen");
-        row("xcb", "xcb");
-    }
-
     void platformNameIsCompleted()
     {
-        QFETCH(const QByteArray, given);
-        QTEST(completedPlatformName(given), "expected");
-    }
-
-    void firstArgumentThatIsAFileIsOpened_data()
-    {
-        QTest::addColumn<QStringList>("arguments");
-        QTest::addColumn<QString>("expected"); // empty: none
-        const QString here = QDir::currentPath() + u'/';
-        QTest::newRow("none") << QStringList{u"program"_s} << QString();
-        QTest::newRow("only options") << QStringList{u"program"_s, u"-x"_s, u" --y"_s, u"  "_s} << QString();
-        QTest::newRow("option, blank, two files")
-            << QStringList{u"program"_s, u"-x"_s, QString(), u"picture.png"_s, u"other.png"_s}
-            << here + u"picture.png"_s;
-        QTest::newRow("blanks around") << QStringList{u"program"_s, u" /tmp/a b.png\t"_s} << u"/tmp/a b.png"_s;
-        QTest::newRow("file URL") << QStringList{u"program"_s, u"file:///tmp/a%20b.png"_s} << u"/tmp/a b.png"_s;
-        QTest::newRow("characters of URLs") << QStringList{u"program"_s, u"50%25#1?.png"_s} << here + u"50%25#1?.png"_s;
-        QTest::newRow("like a scheme") << QStringList{u"program"_s, u"a:b.png"_s} << here + u"a:b.png"_s;
-        QTest::newRow("no arguments at all") << QStringList() << QString();
+        const QList<std::pair<QByteArray, QByteArray>> cases{
+            {"", "windows:darkmode=1"},
+            {"windows", "windows:darkmode=1"},
+            {"windows:fontengine=freetype", "windows:fontengine=freetype:darkmode=1"},
+            {"windows:darkmode=0", "windows:darkmode=0"},
+            {"offscreen", "offscreen"},
+        };
+        for (const auto &[given, expected] : cases)
+            QCOMPARE(completedPlatformName(given), expected);
     }
 
     void firstArgumentThatIsAFileIsOpened()
     {
-        QFETCH(const QStringList, arguments);
-        QTEST(fileArgument(arguments).toLocalFile(), "expected");
+        const QString here = QDir::currentPath() + u'/';
+        const QList<std::pair<QStringList, QString>> cases{
+            {{}, {}},
+            {{u"program"_s, u"-x"_s, u" --y"_s, u"  "_s}, {}},
+            {{u"program"_s, u"-x"_s, QString(), u"picture.png"_s, u"other.png"_s}, here + u"picture.png"_s},
+            {{u"program"_s, u" /tmp/a b.png\t"_s}, u"/tmp/a b.png"_s},
+            {{u"program"_s, u"file:///tmp/a%20b.png"_s}, u"/tmp/a b.png"_s},
+            {{u"program"_s, u"50%25#1?.png"_s}, here + u"50%25#1?.png"_s},
+            {{u"program"_s, u"a:b.png"_s}, here + u"a:b.png"_s},
+        };
+        for (const auto &[arguments, expected] : cases)
+            QCOMPARE(fileArgument(arguments).toLocalFile(), expected);
     }
 
     void fileRequestsWaitInOrder()
@@ -175,56 +159,45 @@ private slots:
         QCOMPARE(QLocale().language(), QLocale::English);
     }
 
-    void paletteHasTheThemesColors_data()
-    {
-        QTest::addColumn<bool>("dark");
-        QTest::addColumn<QColor>("systemHighlight");
-        QTest::addColumn<QPalette::ColorRole>("role");
-        QTest::addColumn<QColor>("active");
-        QTest::addColumn<QColor>("disabled");
-        const QColor mid(0, 103, 192);
-        const QColor darkBlue(0, 0, 128);  // lightness 0.25
-        const QColor paleBlue(200, 200, 255); // lightness 0.89
-        const auto row = [](const char *name, bool dark, const QColor &highlight, QPalette::ColorRole role,
-                            const QColor &active, const QColor &disabled) {
-            QTest::newRow(name) << dark << highlight << role << active << disabled;
-        };
-        row("dark window", true, mid, QPalette::Window, QColor(32, 33, 36), QColor(32, 33, 36));
-        row("dark text", true, mid, QPalette::ButtonText, QColor(241, 243, 244), QColor(123, 128, 135));
-        row("dark tool tip text", true, mid, QPalette::ToolTipText, QColor(241, 243, 244), QColor(241, 243, 244));
-        row("dark link", true, mid, QPalette::Link, QColor(138, 180, 248), QColor(138, 180, 248));
-        row("dark accent, too dark", true, darkBlue, QPalette::Highlight, QColor(0, 0, 186), QColor(58, 61, 66));
-        row("dark accent, pale", true, paleBlue, QPalette::Highlight, paleBlue, QColor(58, 61, 66));
-        row("dark accent, invalid", true, QColor(), QPalette::Highlight, QColor(76, 139, 245), QColor(58, 61, 66));
-        row("light window", false, mid, QPalette::Window, QColor(243, 243, 243), QColor(243, 243, 243));
-        row("light placeholder", false, mid, QPalette::PlaceholderText, QColor(114, 114, 114), QColor(154, 154, 154));
-        row("light accent", false, mid, QPalette::Highlight, mid, QColor(208, 208, 208));
-        row("light accent, dark", false, darkBlue, QPalette::Highlight, darkBlue, QColor(208, 208, 208));
-        row("light accent, too pale", false, paleBlue, QPalette::Link, QColor(154, 154, 196), QColor(154, 154, 196));
-        row("light accent, invalid", false, QColor(), QPalette::Link, QColor(0, 103, 192), QColor(0, 103, 192));
-        row("role that no theme names", false, mid, QPalette::Accent, Qt::magenta, Qt::magenta);
-    }
-
     void paletteHasTheThemesColors()
     {
-        QFETCH(const bool, dark);
-        QFETCH(const QColor, systemHighlight);
-        QFETCH(const QPalette::ColorRole, role);
-        QFETCH(const QColor, active);
-        QFETCH(const QColor, disabled);
-        QPalette system;
-        system.setColor(QPalette::Accent, Qt::magenta);
-        system.setColor(QPalette::Active, QPalette::Highlight, systemHighlight);
-        const QPalette palette = dark ? darkThemePalette(system) : lightThemePalette(system);
-        const auto sameColor = [&](QPalette::ColorGroup group, const QColor &expected) {
-            const QRgb got = palette.color(group, role).rgba();
-            // `lighter` and `darker` go through HSV, which may round by one.
-            return qAbs(qRed(got) - expected.red()) <= 1 && qAbs(qGreen(got) - expected.green()) <= 1
-                && qAbs(qBlue(got) - expected.blue()) <= 1;
+        struct Case
+        {
+            bool dark;
+            QColor systemHighlight;
+            QPalette::ColorRole role;
+            QColor active;
+            QColor disabled;
         };
-        QVERIFY(sameColor(QPalette::Active, active));
-        QVERIFY(sameColor(QPalette::Inactive, active));
-        QVERIFY(sameColor(QPalette::Disabled, disabled));
+        const QColor plain(0, 103, 192);
+        const QColor darkBlue(0, 0, 128);     // lightness 0.25
+        const QColor paleBlue(200, 200, 255); // lightness 0.89
+        const QList<Case> cases{
+            {true, plain, QPalette::ButtonText, QColor(241, 243, 244), QColor(123, 128, 135)},
+            {true, plain, QPalette::ToolTipText, QColor(241, 243, 244), QColor(241, 243, 244)},
+            {true, plain, QPalette::Link, QColor(138, 180, 248), QColor(138, 180, 248)},
+            {true, darkBlue, QPalette::Highlight, QColor(0, 0, 186), QColor(58, 61, 66)},
+            {true, paleBlue, QPalette::Highlight, paleBlue, QColor(58, 61, 66)},
+            {true, QColor(), QPalette::Highlight, QColor(76, 139, 245), QColor(58, 61, 66)},
+            {false, plain, QPalette::PlaceholderText, QColor(114, 114, 114), QColor(154, 154, 154)},
+            {false, darkBlue, QPalette::Highlight, darkBlue, QColor(208, 208, 208)},
+            {false, paleBlue, QPalette::Link, QColor(154, 154, 196), QColor(154, 154, 196)},
+            {false, QColor(), QPalette::Link, QColor(0, 103, 192), QColor(0, 103, 192)},
+            {false, plain, QPalette::Accent, Qt::magenta, Qt::magenta}, // in no table: the system's
+        };
+        // `lighter` and `darker` go through HSV, which may round by one.
+        const auto isNear = [](const QColor &a, const QColor &b) {
+            return qAbs(a.red() - b.red()) <= 1 && qAbs(a.green() - b.green()) <= 1 && qAbs(a.blue() - b.blue()) <= 1;
+        };
+        for (const auto &[dark, systemHighlight, role, active, disabled] : cases) {
+            QPalette system;
+            system.setColor(QPalette::Accent, Qt::magenta);
+            system.setColor(QPalette::Active, QPalette::Highlight, systemHighlight);
+            const QPalette palette = dark ? darkThemePalette(system) : lightThemePalette(system);
+            QVERIFY(isNear(palette.color(QPalette::Active, role), active));
+            QVERIFY(isNear(palette.color(QPalette::Inactive, role), active));
+            QVERIFY(isNear(palette.color(QPalette::Disabled, role), disabled));
+        }
     }
 
     void themeFollowsSettingsAndDesktop()

@@ -1,0 +1,35 @@
+#include "application/application_context.h"
+
+#include "application/application.h"
+#include "application/user_notification_center.h"
+
+#include <QQmlContext>
+
+using namespace Qt::StringLiterals;
+
+namespace zm {
+
+namespace {
+
+#ifdef QT_NO_DEBUG
+constexpr bool kDebugBuild = false;
+#else
+constexpr bool kDebugBuild = true;
+#endif
+
+} // namespace
+
+ApplicationContext::ApplicationContext() = default;
+
+void setContextProperties(QQmlContext &qmlContext, Application &application, ApplicationContext &context)
+{
+    qmlContext.setContextProperty(u"debugBuild"_s, kDebugBuild);
+    qmlContext.setContextProperty(u"applicationFileOpenRequests"_s, &application);
+    qmlContext.setContextProperty(u"runtimeFlags"_s, &context.runtimeFlags);
+    qmlContext.setContextProperty(u"applicationInfoController"_s, &context.applicationInfoController);
+    qmlContext.setContextProperty(u"applicationSettings"_s, &context.applicationSettings);
+    qmlContext.setContextProperty(u"applicationTheme"_s, &context.applicationTheme);
+    qmlContext.setContextProperty(u"userNotifications"_s, &UserNotificationCenter::instance());
+}
+
+} // namespace zm

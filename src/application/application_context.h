@@ -1,0 +1,32 @@
+#pragma once
+
+#include "application/application_info_controller.h"
+#include "application/application_settings.h"
+#include "application/application_theme_controller.h"
+#include "application/runtime_flags.h"
+#include "document/document.h"
+
+class QQmlContext;
+
+namespace zm {
+
+class Application;
+
+/// Every long-lived object of the editor, made in the order of declaration and destroyed in reverse: nothing else
+/// lives long, and nothing is made on demand. All belong to the main thread.
+struct ApplicationContext
+{
+    ApplicationContext();
+    Q_DISABLE_COPY_MOVE(ApplicationContext)
+
+    Document document; // 800 by 600, white, empty
+    ApplicationInfoController applicationInfoController;
+    ApplicationSettings applicationSettings;
+    ApplicationThemeController applicationTheme{applicationSettings};
+    RuntimeFlags runtimeFlags;
+};
+
+/// Makes the objects known to the interface by their names.
+void setContextProperties(QQmlContext &qmlContext, Application &application, ApplicationContext &context);
+
+} // namespace zm
