@@ -13,8 +13,7 @@ inline constexpr qint64 kBytesPerPixel = 4;
 /// True for at least 1 x 1 and at most kMaximumRasterPixels pixels.
 inline bool isAllocatableRasterSize(const QSize &size)
 {
-    return size.width() >= 1 && size.height() >= 1
-        && qint64(size.width()) * size.height() <= kMaximumRasterPixels;
+    return size.width() >= 1 && size.height() >= 1 && qint64(size.width()) * size.height() <= kMaximumRasterPixels;
 }
 
 /// Makes room in Qt's own reader for a picture of kMaximumRasterPixels at up to eight bytes a pixel, which deep
