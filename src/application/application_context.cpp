@@ -19,7 +19,10 @@ constexpr bool kDebugBuild = true;
 
 } // namespace
 
-ApplicationContext::ApplicationContext() = default;
+ApplicationContext::ApplicationContext()
+{
+    scenePresentationModel.setRenderServices(&renderServices);
+}
 
 void setContextProperties(QQmlContext &qmlContext, Application &application, ApplicationContext &context)
 {
@@ -29,6 +32,8 @@ void setContextProperties(QQmlContext &qmlContext, Application &application, App
     qmlContext.setContextProperty(u"applicationInfoController"_s, &context.applicationInfoController);
     qmlContext.setContextProperty(u"applicationSettings"_s, &context.applicationSettings);
     qmlContext.setContextProperty(u"applicationTheme"_s, &context.applicationTheme);
+    qmlContext.setContextProperty(u"commandHistory"_s, &context.commandHistory);
+    qmlContext.setContextProperty(u"scenePresentationModel"_s, &context.scenePresentationModel);
     qmlContext.setContextProperty(u"userNotifications"_s, &UserNotificationCenter::instance());
 }
 

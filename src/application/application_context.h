@@ -4,7 +4,11 @@
 #include "application/application_settings.h"
 #include "application/application_theme_controller.h"
 #include "application/runtime_flags.h"
+#include "commands/command_history.h"
 #include "document/document.h"
+#include "document/scene_presentation_model.h"
+#include "rendering/opengl_texture_renderer.h"
+#include "rendering/render_services.h"
 
 class QQmlContext;
 
@@ -20,9 +24,13 @@ struct ApplicationContext
     Q_DISABLE_COPY_MOVE(ApplicationContext)
 
     Document document; // 800 by 600, white, empty
+    CommandHistory commandHistory{&document};
     ApplicationInfoController applicationInfoController;
     ApplicationSettings applicationSettings;
     ApplicationThemeController applicationTheme{applicationSettings};
+    OpenGLTextureRenderer textureRenderer;
+    RenderServices renderServices{&textureRenderer, &textureRenderer};
+    ScenePresentationModel scenePresentationModel{&document};
     RuntimeFlags runtimeFlags;
 };
 
