@@ -40,8 +40,8 @@ QSize pixelSize(const ImageLayerSource &source);
 /// The bytes that an undo step holding the source answers for.
 qint64 memoryBytes(const ImageLayerSource &source);
 
-/// The size that an SVG text asks for: its width and height, else its view box; nothing when it has neither or cannot
-/// be read.
+/// The size that an SVG text asks for: its width and height, else its view box, else the bounds of what it draws.
+/// Nothing for a text that gives none of them or cannot be read.
 std::optional<QSizeF> svgDefaultSize(const QByteArray &data);
 
 /// A source of SVG text, at its default size when size is empty. Nothing for text without a default size.

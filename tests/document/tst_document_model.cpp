@@ -92,7 +92,7 @@ private slots:
         QVERIFY(!document.selectedObject());
         QVERIFY(!document.object(QUuid()));
         QVERIFY(!document.objectAt(-1));
-        QVERIFY(!document.objectAt(0));
+        QVERIFY(!SceneObject(u"x"_s).id().isNull());
     }
 
     void cleansSizeAndBackground()
@@ -234,10 +234,11 @@ private slots:
             {u"objectNameChanged #1"_s, [&](const QUuid &to) { return document.setObjectName(to, u"x"_s); }},
             {u"objectVisibilityChanged #1"_s, [&](const QUuid &to) { return document.setObjectVisible(to, false); }},
             {u"objectOpacityChanged #1"_s, [&](const QUuid &to) { return document.setObjectOpacity(to, -1.0); }},
-            {u"objectBlendModeChanged #1"_s, [&](const QUuid &to) { return document.setObjectBlendMode(to, u"screen"_s); }},
+            {u"objectBlendModeChanged #1"_s, [&](const QUuid &to) { return document.setObjectBlendMode(to, u"x"_s); }},
             {u"objectTransformChanged #1"_s, [&](const QUuid &to) { return document.setObjectTransform(to, moved); }},
             {u"layerFiltersChanged #1"_s, [&](const QUuid &to) { return document.setLayerFilters(to, {filter}); }},
-            {u"imageLayerChanged #1"_s, [&](const QUuid &to) { return document.setImageLayerRasterSelection(to, selection); }},
+            {u"imageLayerChanged #1"_s,
+             [&](const QUuid &to) { return document.setImageLayerRasterSelection(to, selection); }},
         };
         DocumentLog log(document);
         for (const auto &[signal, set] : setters) {
@@ -314,14 +315,6 @@ private slots:
         QCOMPARE(layer->contentRevision(), content);
     }
 
-    void nullIdsAreReplacedAndOthersKept()
-    {
-        const SceneObject named(u"a"_s, testId(1));
-        const SceneObject fresh(u"b"_s);
-        QCOMPARE(named.id(), testId(1));
-        QVERIFY(!fresh.id().isNull());
-    }
-
     void transformSettersClean()
     {
         ObjectTransform transform;
@@ -365,13 +358,16 @@ private slots:
         const QPointF none(0, 0);
         const QPointF one(1, 1);
         const QPointF centre(0.5, 0.5);
-        QTest::newRow("position only") << QPointF(3, 4) << one << none << centre << 0.0 << QPointF(1, 2) << QPointF(4, 6);
+        QTest::newRow("position only") << QPointF(3, 4) << one << none << centre << 0.0
+            << QPointF(1, 2) << QPointF(4, 6);
         // (0, 0) - (5, 10) = (-5, -10), doubled (-10, -30 for 3), + (5, 10).
-        QTest::newRow("scale about the anchor") << none << QPointF(2, 3) << none << centre << 0.0 << none << QPointF(-5, -20);
+        QTest::newRow("scale about the anchor") << none << QPointF(2, 3) << none << centre << 0.0
+            << none << QPointF(-5, -20);
         QTest::newRow("mirrored") << none << QPointF(-1, 1) << none << centre << 0.0 << QPointF(1, 2) << QPointF(9, 2);
         // Clockwise on a y-down canvas: (5, 0) turns to (0, 5).
         QTest::newRow("quarter turn") << none << one << none << centre << 90.0 << QPointF(10, 10) << QPointF(5, 15);
-        QTest::newRow("turn about a corner") << QPointF(100, 0) << one << none << none << 90.0 << QPointF(10, 0) << QPointF(100, 10);
+        QTest::newRow("turn about a corner") << QPointF(100, 0) << one << none << none << 90.0
+            << QPointF(10, 0) << QPointF(100, 10);
         // tan 45 = 1: x grows by y.
         QTest::newRow("shear x") << none << one << QPointF(45, 0) << none << 0.0 << QPointF(1, 2) << QPointF(3, 2);
         QTest::newRow("shear y") << none << one << QPointF(0, 45) << none << 0.0 << QPointF(1, 2) << QPointF(1, 3);
@@ -471,19 +467,23 @@ private slots:
     void svgDefaultSizes_data()
     {
         QTest::addColumn<QByteArray>("attributes");
+        QTest::addColumn<QByteArray>("content");
         QTest::addColumn<QSizeF>("size");
-        QTest::newRow("width and height") << QByteArray(R"(width="30" height="20" viewBox="0 0 3 2")") << QSizeF(30, 20);
-        QTest::newRow("view box alone") << QByteArray(R"(viewBox="0 0 12 7")") << QSizeF(12, 7);
-        QTest::newRow("nothing") << QByteArray() << QSizeF();
+        const QByteArray rectangle = R"(<rect x="2" width="7" height="5"/>)";
+        QTest::newRow("width and height") << QByteArray(R"(width="30" height="20" viewBox="0 0 3 2")") << rectangle
+                                          << QSizeF(30, 20);
+        QTest::newRow("view box alone") << QByteArray(R"(viewBox="0 0 12 7")") << QByteArray() << QSizeF(12, 7);
+        QTest::newRow("a drawing without a size") << QByteArray() << rectangle << QSizeF(7, 5);
+        QTest::newRow("nothing") << QByteArray() << QByteArray() << QSizeF();
     }
 
     void svgDefaultSizes()
     {
         QFETCH(QByteArray, attributes);
+        QFETCH(QByteArray, content);
         QFETCH(QSizeF, size);
-        const QByteArray data = "<svg xmlns=\"http://www.w3.org/2000/svg\" " + attributes + "></svg>";
-        const std::optional<QSizeF> found = svgDefaultSize(data);
-        QCOMPARE(found.value_or(QSizeF()), size);
+        const QByteArray data = "<svg xmlns=\"http://www.w3.org/2000/svg\" " + attributes + ">" + content + "</svg>";
+        QCOMPARE(svgDefaultSize(data).value_or(QSizeF()), size);
         QCOMPARE(svgSourceFromData(data).has_value(), size.isValid());
         QCOMPARE(svgSourceFromData(data, QSizeF(5, 5)).has_value(), size.isValid());
     }
