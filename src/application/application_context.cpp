@@ -21,6 +21,7 @@ constexpr bool kDebugBuild = true;
 
 ApplicationContext::ApplicationContext()
 {
+    documentFileController.setRuntimeFlags(&runtimeFlags);
     scenePresentationModel.setRenderServices(&renderServices);
 }
 
@@ -34,6 +35,7 @@ void setContextProperties(QQmlContext &qmlContext, Application &application, App
     qmlContext.setContextProperty(u"applicationTheme"_s, &context.applicationTheme);
     qmlContext.setContextProperty(u"commandHistory"_s, &context.commandHistory);
     qmlContext.setContextProperty(u"scenePresentationModel"_s, &context.scenePresentationModel);
+    qmlContext.setContextProperty(u"documentFileController"_s, &context.documentFileController);
     qmlContext.setContextProperty(u"userNotifications"_s, &UserNotificationCenter::instance());
 }
 

@@ -7,6 +7,7 @@
 #include "commands/command_history.h"
 #include "document/document.h"
 #include "document/scene_presentation_model.h"
+#include "editor/document_file_controller.h"
 #include "rendering/opengl_texture_renderer.h"
 #include "rendering/render_services.h"
 
@@ -32,6 +33,7 @@ struct ApplicationContext
     RenderServices renderServices{&textureRenderer, &textureRenderer};
     ScenePresentationModel scenePresentationModel{&document};
     RuntimeFlags runtimeFlags;
+    DocumentFileController documentFileController{&document, &commandHistory};
 };
 
 /// Makes the objects known to the interface by their names.

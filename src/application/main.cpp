@@ -1,6 +1,7 @@
 #include "application/application.h"
 #include "application/application_context.h"
 #include "application/process_start.h"
+#include "base/memory_tuning.h"
 #include "base/pixel_limits.h"
 
 #include <QDebug>
@@ -66,6 +67,7 @@ int main(int argc, char **argv)
 #ifdef Q_OS_WIN
     qputenv("QT_QPA_PLATFORM", zm::completedPlatformName(qgetenv("QT_QPA_PLATFORM")));
 #endif
+    zm::keepFreedMemoryWarm();
     zm::raiseImageAllocationLimit();
     QQuickWindow::setGraphicsApi(QSGRendererInterface::OpenGL);
     QQuickWindow::setTextRenderType(QQuickWindow::NativeTextRendering);

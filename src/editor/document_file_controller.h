@@ -1,0 +1,81 @@
+#pragma once
+
+#include <QColor>
+#include <QObject>
+#include <QUrl>
+
+namespace zm {
+
+class CommandHistory;
+class Document;
+class RuntimeFlags;
+
+/// Which file the document is, for the interface: opens pictures as documents and starts blank ones. A failure leaves
+/// the document as it was and its sentence in lastError.
+class DocumentFileController : public QObject
+{
+    Q_OBJECT
+    Q_PROPERTY(QUrl documentUrl READ documentUrl NOTIFY documentUrlChanged)
+    Q_PROPERTY(QUrl pairedImageUrl READ pairedImageUrl NOTIFY pairedImageUrlChanged)
+    Q_PROPERTY(bool hasDocumentUrl READ hasDocumentUrl NOTIFY documentUrlChanged)
+    Q_PROPERTY(QString displayName READ displayName NOTIFY displayNameChanged)
+    Q_PROPERTY(QString lastError READ lastError NOTIFY lastErrorChanged)
+    Q_PROPERTY(bool lastErrorOffersHeifInstallHelp READ lastErrorOffersHeifInstallHelp NOTIFY lastErrorChanged)
+    Q_PROPERTY(QString supportedImageFilePatterns READ supportedImageFilePatterns CONSTANT)
+
+public:
+    /// The sides of a blank document, in document units.
+    static constexpr double kMinimumDocumentSide = 1.0;
+    static constexpr double kMaximumDocumentSide = 10'000.0;
+
+    DocumentFileController(Document *document, CommandHistory *commandHistory, QObject *parent = nullptr);
+
+    /// The flags are not owned; without them every one counts as not set.
+    void setRuntimeFlags(const RuntimeFlags *flags) { m_runtimeFlags = flags; }
+
+    /// Empty while the document was never saved.
+    QUrl documentUrl() const { return m_documentUrl; }
+    bool hasDocumentUrl() const { return !m_documentUrl.isEmpty(); }
+    /// The picture that the document belongs to; empty if none.
+    QUrl pairedImageUrl() const { return m_pairedImageUrl; }
+    QString displayName() const;
+    /// Empty after a success.
+    QString lastError() const { return m_lastError; }
+    bool lastErrorOffersHeifInstallHelp() const { return m_lastErrorOffersHeifInstallHelp; }
+    /// Patterns such as "*.png", sorted and joined with blanks, for the filters of file dialogs.
+    QString supportedImageFilePatterns() const;
+
+    /// Starts a blank document with a clean history. Sides are rounded to whole units; an invalid colour becomes white.
+    Q_INVOKABLE bool resetDocument(double width, double height, const QColor &backgroundColor);
+    /// Opens a local picture as a document with one layer and a clean history.
+    Q_INVOKABLE bool load(const QUrl &url);
+
+    /// A local URL as a native path.
+    Q_INVOKABLE QString displayPath(const QUrl &url) const;
+    /// The last component of the path.
+    Q_INVOKABLE QString displayFileName(const QUrl &url) const;
+
+signals:
+    void documentUrlChanged();
+    void pairedImageUrlChanged();
+    void displayNameChanged();
+    void documentReplaced();
+    void lastErrorChanged();
+
+private:
+    bool importImage(const QString &path);
+    bool isPristine() const;
+    bool fail(const QString &message, bool offersHeifInstallHelp = false);
+    void finishReplacement(const QUrl &documentUrl, const QUrl &pairedImageUrl);
+    void setError(const QString &message, bool offersHeifInstallHelp);
+
+    Document *m_document;
+    CommandHistory *m_commandHistory;
+    const RuntimeFlags *m_runtimeFlags = nullptr;
+    QUrl m_documentUrl;
+    QUrl m_pairedImageUrl;
+    QString m_lastError;
+    bool m_lastErrorOffersHeifInstallHelp = false;
+};
+
+} // namespace zm
