@@ -1,4 +1,5 @@
 #include "base/pixel_limits.h"
+#include "document/paint_layer.h"
 #include "support/document_log.h"
 #include "support/pictures.h"
 
@@ -548,6 +549,40 @@ private slots:
         QVERIFY(!layer.setRasterSelection(std::nullopt));
         ImageLayer empty(QImage(), u"b"_s);
         QVERIFY(!empty.setRasterSelection(outside));
+    }
+
+    void paintLayersBeginWithRoomAroundTheView_data()
+    {
+        QTest::addColumn<QRectF>("viewport");
+        QTest::addColumn<QRectF>("surface"); // null: none
+        QTest::newRow("no viewport") << QRectF() << QRectF(-178, -153, 356, 306);
+        QTest::newRow("part of the document") << QRectF(0, 0, 5, 5) << QRectF(-178, -153, 356, 306);
+        QTest::newRow("beside the document") << QRectF(100.5, 0, 10, 10) << QRectF(-28, -128, 267, 266);
+        QTest::newRow("a sliver") << QRectF(100, 100, 0.5, 50) << QRectF();
+        QTest::newRow("not a number") << QRectF(kNaN, 0, 10, 10) << QRectF();
+        QTest::newRow("endless") << QRectF(0, 0, kInfinity, 10) << QRectF();
+    }
+
+    void paintLayersBeginWithRoomAroundTheView()
+    {
+        QFETCH(const QRectF, viewport);
+        QFETCH(const QRectF, surface);
+        const std::optional<QRectF> found = initialPaintSurface(viewport, QRectF(-50, -25, 100, 50));
+        QCOMPARE(found.value_or(QRectF()), surface);
+        if (!found)
+            return;
+        const std::unique_ptr<ImageLayer> layer = makePaintLayer(surface);
+        QCOMPARE(layer->rasterImage(), plainPicture(int(surface.width()), int(surface.height()), Qt::transparent));
+        QCOMPARE(layer->transform().position(), surface.topLeft());
+        QCOMPARE(layer->rasterSurfacePolicy(), RasterSurfacePolicy::Expanding);
+        QCOMPARE(layer->name(), u"Paint"_s);
+    }
+
+    void paintLayersKeepThePixelLimit()
+    {
+        QVERIFY(makePaintLayer(QRectF(0, 0, 10'000, 10'000)));
+        QVERIFY(!makePaintLayer(QRectF(0, 0, 10'001, 10'000)));
+        QVERIFY(!makePaintLayer(QRectF(0, 0, 1e12, 1e12)));
     }
 
     void memoryFollowsContentAndSelection()
