@@ -6,23 +6,14 @@
 #include "rendering/shader_texture_renderer.h"
 
 #include <QPainter>
-#include <QSemaphore>
-#include <QThread>
-#include <QThreadPool>
 
-#include <atomic>
+#include <algorithm>
 #include <cmath>
-#include <functional>
 #include <limits>
 
 namespace zm {
 
 namespace {
-
-// Few enough rows that QPainter does not cut the band up for threads of its own.
-constexpr int kBandRows = 64;
-// Handing a smaller picture to a second thread costs more than it saves.
-constexpr qint64 kParallelPixels = 256 * 1024;
 
 /// What one picture shows, and how.
 struct View
@@ -75,68 +66,30 @@ void drawItem(QPainter &painter, const SceneRenderItem &item)
     painter.restore();
 }
 
-/// Paints the rows of the band and no others. The painter's coordinates are those of the whole picture, so that bands
-/// join without a seam.
-void paintBand(const View &view, QImage &picture, const QRect &band)
-{
-    QImage rows(picture.scanLine(band.top()), band.width(), band.height(), picture.bytesPerLine(), picture.format());
-    rows.fill(view.fixedBounds ? QColor(Qt::transparent) : view.snapshot.backgroundColor);
-    QPainter painter(&picture);
-    painter.setClipRect(band);
-    painter.setRenderHints(QPainter::Antialiasing | QPainter::TextAntialiasing);
-    painter.setRenderHint(QPainter::SmoothPixmapTransform, view.smooth);
-    painter.setTransform(view.toPixels);
-    if (view.fixedBounds) {
-        painter.setClipRect(documentRect(view.snapshot), Qt::IntersectClip);
-        painter.fillRect(documentRect(view.snapshot), view.snapshot.backgroundColor);
-    }
-    if (view.showBounds)
-        drawDocumentOutline(painter, view);
-    // A pixel of room for the soft edge of an item.
-    const QRectF touched = QRectF(band).adjusted(-1.0, -1.0, 1.0, 1.0);
-    for (const SceneRenderItem &item : view.snapshot.items) {
-        if (view.toPixels.mapRect(itemBounds(item)).intersects(touched))
-            drawItem(painter, item);
-    }
-}
-
-/// Calls work(0) to work(count - 1), on this thread and on those of the global pool that are free at once. It never
-/// waits for a thread to become free, so it can itself be called from the pool.
-void spread(int count, const std::function<void(int)> &work)
-{
-    std::atomic<int> next = 0;
-    const auto takeTurns = [&] {
-        for (int i = next++; i < count; i = next++)
-            work(i);
-    };
-    const int wanted = std::min(count, QThread::idealThreadCount()) - 1;
-    QSemaphore finished;
-    int helpers = 0;
-    while (helpers < wanted && QThreadPool::globalInstance()->tryStart([&] {
-        takeTurns();
-        finished.release();
-    }))
-        ++helpers;
-    takeTurns();
-    finished.acquire(helpers);
-}
-
+/// QPainter spreads the pixels of a large picture over the processor's cores by itself, so nothing is divided here: a
+/// picture painted in bands would come out otherwise by a level where a layer's soft edge crosses a border.
 QImage renderPicture(const View &view, const QSize &size)
 {
     QImage picture(size, QImage::Format_RGBA8888);
     if (picture.isNull())
         return {};
-    if (qint64(size.width()) * size.height() < kParallelPixels) {
-        paintBand(view, picture, picture.rect());
-        return picture;
+    picture.fill(view.fixedBounds ? QColor(Qt::transparent) : view.snapshot.backgroundColor);
+    QPainter painter(&picture);
+    painter.setRenderHints(QPainter::Antialiasing | QPainter::TextAntialiasing);
+    painter.setRenderHint(QPainter::SmoothPixmapTransform, view.smooth);
+    painter.setTransform(view.toPixels);
+    if (view.fixedBounds) {
+        painter.setClipRect(documentRect(view.snapshot), Qt::ReplaceClip);
+        painter.fillRect(documentRect(view.snapshot), view.snapshot.backgroundColor);
     }
-    uchar *const pixels = picture.bits();
-    const qsizetype stride = picture.bytesPerLine();
-    spread((size.height() + kBandRows - 1) / kBandRows, [&](int index) {
-        QImage shared(pixels, size.width(), size.height(), stride, QImage::Format_RGBA8888);
-        const QRect band(0, index * kBandRows, size.width(), kBandRows);
-        paintBand(view, shared, band & shared.rect());
-    });
+    if (view.showBounds)
+        drawDocumentOutline(painter, view);
+    // A pixel of room for the soft edge of an item.
+    const QRectF touched = QRectF(picture.rect()).adjusted(-1.0, -1.0, 1.0, 1.0);
+    for (const SceneRenderItem &item : view.snapshot.items) {
+        if (view.toPixels.mapRect(itemBounds(item)).intersects(touched))
+            drawItem(painter, item);
+    }
     return picture;
 }
 
