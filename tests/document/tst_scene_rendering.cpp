@@ -2,7 +2,6 @@
 #include "document/scene_renderer.h"
 #include "support/pictures.h"
 
-#include <QtConcurrentRun>
 #include <QtTest>
 
 using namespace Qt::StringLiterals;
@@ -72,48 +71,6 @@ QImage joined(const QList<SceneTile> &tiles, const QSize &size, int maxTile)
     return whole;
 }
 
-/// Every blend mode, with transparency, rotation and mirroring; some layers lie outside the view.
-SceneSnapshot busyScene()
-{
-    QImage soft = gradientPicture(300, 240).convertToFormat(QImage::Format_RGBA8888);
-    for (int y = 0; y < soft.height(); ++y)
-        for (int x = 0; x < soft.width(); ++x)
-            soft.scanLine(y)[x * 4 + 3] = uchar(x * 5 + y);
-    SceneSnapshot scene{{900.0, 700.0}, kBackground, {}};
-    double x = -460.0;
-    for (const BlendMode &mode : blendModes()) {
-        scene.items += item(gradientPicture(420, 600), at(x, -330.4), mode.key);
-        scene.items += item(soft, at(x + 20.0, -90.0, x / 9.0, {-0.7, 1.3}), mode.key, 0.8);
-        x += 41.3;
-    }
-    return scene;
-}
-
-/// The scene painted layer by layer with nothing left out.
-QImage paintedAtOnce(const SceneSnapshot &scene, const QRectF &rect, bool fixedBounds, double scale, bool smooth)
-{
-    QImage image(int(std::ceil(rect.width() * scale)), int(std::ceil(rect.height() * scale)), QImage::Format_RGBA8888);
-    image.fill(fixedBounds ? QColor(Qt::transparent) : scene.backgroundColor);
-    QPainter painter(&image);
-    painter.setRenderHints(QPainter::Antialiasing | QPainter::TextAntialiasing);
-    painter.setRenderHint(QPainter::SmoothPixmapTransform, smooth);
-    painter.scale(scale, scale);
-    painter.translate(-rect.topLeft());
-    if (fixedBounds) {
-        painter.setClipRect(documentRect(scene), Qt::ReplaceClip);
-        painter.fillRect(documentRect(scene), scene.backgroundColor);
-    }
-    for (const SceneRenderItem &item : scene.items) {
-        painter.save();
-        painter.setCompositionMode(compositionMode(item.blendMode));
-        painter.setOpacity(item.opacity);
-        painter.setTransform(itemMatrix(item), true);
-        painter.drawImage(imageRect(item), item.image);
-        painter.restore();
-    }
-    return image;
-}
-
 // The blend functions of the W3C recommendation "Compositing and Blending Level 1" for opaque colours: b is the
 // backdrop, s the source, both 0..1.
 using BlendFunction = double (*)(double b, double s);
@@ -145,9 +102,6 @@ private slots:
     void cutsTiles();
     void tilesJoinWithoutSeam_data();
     void tilesJoinWithoutSeam();
-    void composesStepByStep_data();
-    void composesStepByStep();
-    void rendersOnWorkers();
     void interpolatesUpToScaleOne();
 };
 
@@ -316,58 +270,22 @@ void TestSceneRendering::cutsTiles()
 void TestSceneRendering::tilesJoinWithoutSeam_data()
 {
     QTest::addColumn<double>("scale");
-    QTest::addColumn<int>("tolerance");
+    // Where a pixel is a power of two of units: elsewhere QPainter steps through a picture in rounded steps from the
+    // left edge of the tile.
     for (const double scale : {0.25, 0.5, 1.0, 2.0})
-        QTest::addRow("scale %g", scale) << scale << 0;
+        QTest::addRow("scale %g", scale) << scale;
 }
 
 void TestSceneRendering::tilesJoinWithoutSeam()
 {
     QFETCH(double, scale);
-    QFETCH(int, tolerance);
     SceneSnapshot scene{{64.0, 48.0}, kBackground, {item(gradientPicture(60, 50), at(-31.0, -23.0)),
                                                     item(gradientPicture(40, 40), at(-20, -10), u"screen"_s, 0.6)}};
     const QRectF view(-40.0, -30.0, 80.0, 60.0);
     const SceneTile whole = renderSceneTiles(scene, view, true, scale, 8192, true).constFirst();
     const QList<SceneTile> tiles = renderSceneTiles(scene, view, true, scale, 7, true);
     QCOMPARE_GT(tiles.size(), 1);
-    QCOMPARE_LE(maximumDifference(joined(tiles, whole.image.size(), 7), whole.image), tolerance);
-}
-
-void TestSceneRendering::composesStepByStep_data()
-{
-    QTest::addColumn<double>("scale");
-    QTest::addColumn<bool>("fixedBounds");
-    QTest::addColumn<QColor>("background");
-    const QColor translucent(90, 160, 40, 77);
-    QTest::newRow("reduced, unlimited") << 0.7 << false << kBackground;
-    QTest::newRow("reduced, clipped") << 0.83 << true << kBackground;
-    QTest::newRow("actual size, translucent") << 1.0 << true << translucent;
-    QTest::newRow("enlarged, translucent, unlimited") << 2.5 << false << translucent;
-}
-
-void TestSceneRendering::composesStepByStep()
-{
-    QFETCH(double, scale);
-    QFETCH(bool, fixedBounds);
-    QFETCH(QColor, background);
-    SceneSnapshot scene = busyScene();
-    scene.backgroundColor = background;
-    const QRectF view(-500.0, -400.0, 640.0, 500.0);
-    const bool smooth = scale <= 1.0;
-    QCOMPARE(renderSceneTile(scene, view, fixedBounds, scale, smooth, false),
-             paintedAtOnce(scene, view, fixedBounds, scale, smooth));
-}
-
-void TestSceneRendering::rendersOnWorkers()
-{
-    const SceneSnapshot scene = busyScene();
-    const QImage expected = renderDocumentImage(scene, 1.0);
-    QList<QFuture<QImage>> pictures;
-    for (int i = 0; i < 2 * QThreadPool::globalInstance()->maxThreadCount(); ++i)
-        pictures += QtConcurrent::run(renderDocumentImage, scene, 1.0);
-    for (QFuture<QImage> &picture : pictures)
-        QCOMPARE(picture.result(), expected);
+    QCOMPARE(joined(tiles, whole.image.size(), 7), whole.image);
 }
 
 void TestSceneRendering::interpolatesUpToScaleOne()
