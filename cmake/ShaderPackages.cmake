@@ -18,6 +18,7 @@ function(atelier_add_shaders target)
             COMMAND Qt6::qsb --glsl "300 es,330" --depfile "${package}.d" -o "${package}"
                     "${arg_BASE}/${source}"
             COMMAND Qt6::qsb -s -e spirv,100 "${package}"
+            COMMAND "${CMAKE_COMMAND}" "-DFILE=${package}.d" -P "${PROJECT_SOURCE_DIR}/cmake/EscapeDepfile.cmake"
             DEPENDS "${arg_BASE}/${source}" Qt6::qsb
             DEPFILE "${package}.d"
             COMMENT "Baking shader ${source}"
