@@ -1,0 +1,57 @@
+#include "cli/arguments.h"
+
+using namespace Qt::StringLiterals;
+
+namespace zm::cli {
+
+Arguments::Arguments(const QStringList &words, const QList<OptionRule> &rules)
+{
+    bool optionsEnded = false;
+    for (qsizetype i = 0; i < words.size(); ++i) {
+        const QString &word = words[i];
+        if (optionsEnded || word == "-"_L1 || !word.startsWith(u'-')) {
+            m_files.append(word);
+            continue;
+        }
+        if (word == "--"_L1) {
+            optionsEnded = true;
+            continue;
+        }
+        const qsizetype equals = word.indexOf(u'=');
+        const QString name = equals < 0 ? word : word.first(equals);
+        const auto rule = std::find_if(rules.begin(), rules.end(),
+                                       [&](const OptionRule &known) { return known.name == name; });
+        if (rule == rules.end())
+            note(u"unknown option %1"_s.arg(name));
+        else if (!rule->takesValue && equals >= 0)
+            note(u"%1 takes no value"_s.arg(name));
+        else if (!rule->takesValue)
+            m_options.insert(name, {});
+        else if (equals >= 0)
+            m_options.insert(name, word.sliced(equals + 1));
+        else if (i + 1 < words.size())
+            m_options.insert(name, words[++i]);
+        else
+            note(u"%1 needs a value"_s.arg(name));
+    }
+}
+
+int Arguments::number(const QString &option, int fallback, int minimum, int maximum)
+{
+    if (!has(option))
+        return fallback;
+    bool isNumber = false;
+    const int number = value(option).toInt(&isNumber);
+    if (isNumber && number >= minimum && number <= maximum)
+        return number;
+    note(u"%1 takes a whole number from %2 to %3"_s.arg(option).arg(minimum).arg(maximum));
+    return fallback;
+}
+
+void Arguments::note(const QString &problem)
+{
+    if (m_problem.isEmpty())
+        m_problem = problem;
+}
+
+} // namespace zm::cli

@@ -1,0 +1,39 @@
+#pragma once
+
+#include <QHash>
+#include <QList>
+#include <QString>
+
+namespace zm::cli {
+
+/// An option "--name", or "--name VALUE" and "--name=VALUE" when it takes one.
+struct OptionRule
+{
+    QString name;
+    bool takesValue = false;
+};
+
+/// What a command was given: options in any order, then or among them the files. "--" ends the options.
+class Arguments
+{
+public:
+    Arguments(const QStringList &words, const QList<OptionRule> &rules);
+
+    /// Empty when the words keep to the rules; else the first thing wrong.
+    QString problem() const { return m_problem; }
+    const QStringList &files() const { return m_files; }
+    bool has(const QString &option) const { return m_options.contains(option); }
+    QString value(const QString &option) const { return m_options.value(option); }
+
+    /// The option's whole number, or fallback when it was not given; a number out of range becomes a problem.
+    int number(const QString &option, int fallback, int minimum, int maximum);
+
+private:
+    void note(const QString &problem);
+
+    QHash<QString, QString> m_options;
+    QStringList m_files;
+    QString m_problem;
+};
+
+} // namespace zm::cli

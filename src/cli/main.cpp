@@ -1,0 +1,97 @@
+// zelmora: the editor's core without a window, for scripts and batches.
+
+#include "base/pixel_limits.h"
+#include "cli/commands.h"
+#include "cli/platform.h"
+#include "cli/quiet_libraries.h"
+
+#include <QFile>
+#include <QGuiApplication>
+
+#include <cstdio>
+#include <optional>
+
+using namespace Qt::StringLiterals;
+
+namespace {
+
+using namespace zm::cli;
+
+QList<Command> commands()
+{
+    return {
+        {u"info"_s, u"zelmora info [--json] [--no-digest] FILE..."_s, u"Tells what files hold."_s, runInfo},
+        {u"export"_s,
+         u"zelmora export [--quality N] [--width N] [--height N] [--max-side N] [--transparent] [--unclipped] "
+         "INPUT OUTPUT\n"
+         "       zelmora export [options] --into DIR [--format jpeg|webp|webpTransparent|png|pngTransparent] "
+         "INPUT..."_s,
+         u"Writes flattened pictures; an output's suffix (jpg, webp, png) gives its format."_s, runExport},
+    };
+}
+
+QString overview()
+{
+    QString text = u"zelmora: Zelmora Atelier without a window\n\n"_s;
+    const QList<Command> all = commands();
+    for (const Command &command : all)
+        text += u"       %1\n           %2\n"_s.arg(command.usage, command.summary);
+    return text + u"       zelmora --version | --help"_s;
+}
+
+/// Standard error belongs to the program's own lines; what Qt's plug-ins remark there helps nobody in a script.
+void keepFatalMessagesOnly(QtMsgType type, const QMessageLogContext &, const QString &message)
+{
+    if (type == QtFatalMsg)
+        std::fprintf(stderr, "zelmora: %s\n", qPrintable(message));
+}
+
+/// Pictures are composed on the processor; the effects of a document need OpenGL.
+bool mayUseOpenGL(int argc, char **argv)
+{
+    for (int i = 1; i < argc; ++i) {
+        if (QByteArrayView(argv[i]).endsWith(".zelmora"))
+            return true;
+    }
+    return false;
+}
+
+ExitStatus run(const QStringList &words)
+{
+    const QString shortUsage = u"zelmora info|export ... (zelmora --help tells more)"_s;
+    if (words.isEmpty())
+        return wrongUsage(u"no command is given"_s, shortUsage);
+    Console console;
+    if (words.contains(u"--help"_s) && !words.contains(u"--"_s)) {
+        console.print(overview());
+        return console.finish();
+    }
+    if (words.first() == "--version"_L1) {
+        console.print(u"zelmora "_s + QLatin1StringView(ZELMORA_VERSION));
+        return console.finish();
+    }
+    const QList<Command> all = commands();
+    for (const Command &command : all) {
+        if (command.name == words.first())
+            return command.run(words.sliced(1), command.usage);
+    }
+    return wrongUsage(u"unknown command %1"_s.arg(words.first()), shortUsage);
+}
+
+} // namespace
+
+int main(int argc, char **argv)
+{
+    qInstallMessageHandler(keepFatalMessagesOnly);
+    std::optional<QuietLibraries> quiet(std::in_place);
+    choosePlatform(mayUseOpenGL(argc, argv));
+    zm::raiseImageAllocationLimit();
+    // Qt must not take words such as "-platform" out of the command line, so it sees the program's name alone.
+    int visibleArguments = 1;
+    const QGuiApplication application(visibleArguments, argv);
+    quiet.reset();
+    QStringList words;
+    for (int i = 1; i < argc; ++i)
+        words.append(QFile::decodeName(argv[i]));
+    return run(words);
+}

@@ -1,0 +1,76 @@
+#pragma once
+
+#include "document/scene_snapshot.h"
+
+#include <QByteArray>
+#include <QList>
+#include <QSize>
+#include <QString>
+
+#include <atomic>
+
+namespace zm {
+
+/// One way to write a flattened picture.
+struct ExportFormat
+{
+    QString key;
+    QByteArray writerFormat;
+    QString suffix;
+    bool transparent;
+    /// For file dialogs, in the user's language.
+    QString filterText;
+};
+
+QList<ExportFormat> exportFormats();
+/// An unknown key gives the first format, JPEG.
+ExportFormat exportFormat(const QString &key);
+bool isExportFormatKey(const QString &key);
+/// The format that a file name asks for by its suffix, in any case; an empty key when there is none.
+QString exportFormatKeyForFile(const QString &path, bool transparent);
+/// JPEG takes "jpg" and "jpeg", every other format the suffix of its row; in any case.
+bool acceptsSuffix(const ExportFormat &format, const QString &suffix);
+
+/// The lowest side of an exported picture, pixels.
+inline constexpr int kMinimumExportSide = 16;
+/// The highest side when no GPU tells a lower one, pixels.
+inline constexpr int kMaximumExportSide = 8192;
+inline constexpr int kDefaultExportQuality = 92;
+
+/// What an export shows, in document units with whole sides: the document, or with clip off all layers that are
+/// visible. Sides grow to whole pixels counted from the document's top left corner, so that a picture of odd size keeps
+/// its pixels.
+QRectF exportRectangle(const SceneSnapshot &snapshot, bool clipToDocument);
+
+/// The size of rectangle, scaled down to fit maximumSide and never up, each side at least kMinimumExportSide.
+QSize defaultExportSize(const QRectF &rectangle, int maximumSide = kMaximumExportSide);
+/// The size with this width, and the height that keeps the rectangle's proportions; both are scaled to fit maximumSide.
+QSize exportSizeForWidth(const QRectF &rectangle, int width, int maximumSide = kMaximumExportSide);
+QSize exportSizeForHeight(const QRectF &rectangle, int height, int maximumSide = kMaximumExportSide);
+
+struct ExportSettings
+{
+    QString formatKey;
+    /// 0..100; without effect on PNG.
+    int quality = kDefaultExportQuality;
+    /// Pixels.
+    QSize size;
+    bool clipToDocument = true;
+};
+
+/// The bytes of a finished file, or a sentence that tells why there are none; neither when it was cancelled.
+struct ExportResult
+{
+    QByteArray bytes;
+    QString error;
+    bool cancelled = false;
+};
+
+/// Renders, scales, encodes and tags. May run on any thread; stops between two steps once cancelled is set.
+ExportResult exportImage(const SceneSnapshot &snapshot, const ExportSettings &settings,
+                         const std::atomic_bool *cancelled = nullptr);
+
+/// Puts the bytes into the file, all or nothing: a failure leaves what was there, and a sentence in error.
+bool writeExportedImage(const QString &path, const QByteArray &bytes, QString *error);
+
+} // namespace zm
