@@ -57,18 +57,38 @@ struct Outcome
     QString message;
 };
 
-Outcome exportFile(const Job &job, const ExportWish &wish)
+ExportResult exportDocument(const Document &document, const ExportWish &wish)
 {
-    const QuietLibraries quiet;
-    ImageImportResult imported = importImageLayer(job.input);
+    const SceneSnapshot snapshot = buildSceneSnapshot(document, {}, nullptr);
+    const QSize size = wishedSize(exportRectangle(snapshot, wish.clipToDocument), wish.size);
+    return exportImage(snapshot, {wish.formatKey, wish.quality, size, wish.clipToDocument});
+}
+
+/// A picture is a document of one layer, but need not become one when that changes nothing.
+ExportResult exportPicture(DecodedPicture picture, const QString &name, const ExportWish &wish)
+{
+    if (const auto *raster = std::get_if<RasterImageSource>(&picture.source)) {
+        const QSize size = wishedSize(QRectF(QPointF(), raster->image.size()), wish.size);
+        const ExportSettings settings{wish.formatKey, wish.quality, size, wish.clipToDocument};
+        if (isExportedAsDecoded(raster->image, settings))
+            return exportAsDecoded(raster->image, settings);
+    }
     Document document;
+    ImageImportResult imported = imageLayerFrom(std::move(picture), name);
     if (imported.layer)
         imported.error = replaceWithImage(document, std::move(imported.layer));
     if (imported.error != ImageImportError::None)
-        return {job.input, importErrorText(imported.error)};
-    const SceneSnapshot snapshot = buildSceneSnapshot(document, {}, nullptr);
-    const QSize size = wishedSize(exportRectangle(snapshot, wish.clipToDocument), wish.size);
-    const ExportResult result = exportImage(snapshot, {wish.formatKey, wish.quality, size, wish.clipToDocument});
+        return {{}, importErrorText(imported.error)};
+    return exportDocument(document, wish);
+}
+
+Outcome exportFile(const Job &job, const ExportWish &wish)
+{
+    const QuietLibraries quiet;
+    DecodedPicture picture = decodePicture(job.input);
+    if (picture.error != ImageImportError::None)
+        return {job.input, importErrorText(picture.error)};
+    const ExportResult result = exportPicture(std::move(picture), imageLayerName(job.input), wish);
     if (!result.error.isEmpty())
         return {job.input, result.error};
     QString error;

@@ -1,5 +1,6 @@
 // zelmora: the editor's core without a window, for scripts and batches.
 
+#include "base/memory_tuning.h"
 #include "base/pixel_limits.h"
 #include "cli/commands.h"
 #include "cli/platform.h"
@@ -85,6 +86,7 @@ int main(int argc, char **argv)
     qInstallMessageHandler(keepFatalMessagesOnly);
     std::optional<QuietLibraries> quiet(std::in_place);
     choosePlatform(mayUseOpenGL(argc, argv));
+    zm::keepFreedMemoryWarm();
     zm::raiseImageAllocationLimit();
     // Qt must not take words such as "-platform" out of the command line, so it sees the program's name alone.
     int visibleArguments = 1;

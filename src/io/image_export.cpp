@@ -64,8 +64,7 @@ ExportResult encode(const QImage &image, const ExportFormat &format, int quality
         writer.setCompression(100);
     else
         writer.setQuality(std::clamp(quality, 0, 100));
-    // Alpha is dropped, and its colour kept, where the format does not ask for it.
-    if (!writer.write(format.transparent ? image : pixelsReadAs(image, QImage::Format_RGBX8888))) {
+    if (!writer.write(image)) {
         return {{}, exportText(QT_TRANSLATE_NOOP("zm::ExportController", "Could not encode the saved image: %1"))
                         .arg(writer.errorString())};
     }
@@ -177,8 +176,22 @@ ExportResult exportImage(const SceneSnapshot &snapshot, const ExportSettings &se
         image = image.scaled(settings.size, Qt::IgnoreAspectRatio, Qt::SmoothTransformation);
     if (isCancelled())
         return stopped;
+    // Alpha is dropped, and its colour kept, where the format does not ask for it.
+    if (!format.transparent)
+        image = pixelsReadAs(image, QImage::Format_RGBX8888);
     ExportResult result = encode(image, format, settings.quality);
     return isCancelled() ? stopped : result;
+}
+
+bool isExportedAsDecoded(const QImage &picture, const ExportSettings &settings)
+{
+    return picture.format() == QImage::Format_RGB32 && picture.size() == settings.size
+        && !exportFormat(settings.formatKey).transparent;
+}
+
+ExportResult exportAsDecoded(const QImage &picture, const ExportSettings &settings)
+{
+    return encode(pixelsReadAs(picture, picture.format()), exportFormat(settings.formatKey), settings.quality);
 }
 
 bool writeExportedImage(const QString &path, const QByteArray &bytes, QString *error)

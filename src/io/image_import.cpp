@@ -81,9 +81,8 @@ public:
             return ImageImportError::CannotDecode;
         // The reader takes a name such as "photo@2x.png" for a density; a layer's pixels are document units.
         decoded.setDevicePixelRatio(1.0);
-        // Converted while nobody else holds the pixels, which 32-bit formats allow without a second buffer.
-        *image = std::move(decoded).convertToFormat(QImage::Format_RGBA8888);
-        return image->isNull() ? ImageImportError::CannotDecode : ImageImportError::None;
+        *image = std::move(decoded);
+        return ImageImportError::None;
     }
 
 private:
@@ -129,26 +128,41 @@ QString importErrorText(ImageImportError error)
     return {};
 }
 
-ImageImportResult importImageLayer(const QString &path, bool noHevcCodec)
+DecodedPicture decodePicture(const QString &path, bool noHevcCodec)
 {
     const QFileInfo info(path);
     if (!info.isFile())
-        return {nullptr, ImageImportError::NotAFile};
-    ImageLayerSource source;
-    ImageImportError error = ImageImportError::None;
+        return {{}, ImageImportError::NotAFile};
+    DecodedPicture picture;
     if (hasSvgSuffix(info)) {
-        error = readSvg(info, &source.emplace<SvgImageSource>());
+        picture.error = readSvg(info, &picture.source.emplace<SvgImageSource>());
     } else {
         RasterFile file(info, noHevcCodec);
-        error = file.check();
-        if (error == ImageImportError::None)
-            error = file.decode(&source.emplace<RasterImageSource>().image);
+        picture.error = file.check();
+        if (picture.error == ImageImportError::None)
+            picture.error = file.decode(&picture.source.emplace<RasterImageSource>().image);
     }
-    if (error == ImageImportError::None && logicalSize(source).isEmpty())
-        error = ImageImportError::EmptySize;
-    if (error != ImageImportError::None)
-        return {nullptr, error};
-    return {std::make_unique<ImageLayer>(source, imageLayerName(path)), ImageImportError::None};
+    if (picture.error == ImageImportError::None && logicalSize(picture.source).isEmpty())
+        picture.error = ImageImportError::EmptySize;
+    return picture;
+}
+
+ImageImportResult imageLayerFrom(DecodedPicture picture, const QString &name)
+{
+    if (picture.error != ImageImportError::None)
+        return {nullptr, picture.error};
+    if (auto *raster = std::get_if<RasterImageSource>(&picture.source)) {
+        // Converted while nobody else holds the pixels, which 32-bit formats allow without a second buffer.
+        raster->image = std::move(raster->image).convertToFormat(QImage::Format_RGBA8888);
+        if (raster->image.isNull())
+            return {nullptr, ImageImportError::CannotDecode};
+    }
+    return {std::make_unique<ImageLayer>(picture.source, name), ImageImportError::None};
+}
+
+ImageImportResult importImageLayer(const QString &path, bool noHevcCodec)
+{
+    return imageLayerFrom(decodePicture(path, noHevcCodec), imageLayerName(path));
 }
 
 std::optional<ImageFileHeader> readImageFileHeader(const QString &path, ImageImportError *error)

@@ -42,9 +42,22 @@ struct ImageFileHeader
     QSizeF size;      ///< logical size; of a raster after its orientation is applied
 };
 
-/// Reads a picture into a layer: a file whose suffix is "svg" keeps its text, any other is recognised by its content and
-/// decoded to RGBA8888 with its orientation applied. A picture of more than kMaximumRasterPixels is refused before it
-/// is decoded. With noHevcCodec every HEIC and HEIF file fails as if its decoder were missing.
+/// A picture file's content; a raster still has the pixel format of its reader.
+struct DecodedPicture
+{
+    ImageLayerSource source;
+    ImageImportError error = ImageImportError::None;
+};
+
+/// Reads a picture: a file whose suffix is "svg" keeps its text, any other is recognised by its content and decoded with
+/// its orientation applied. A picture of more than kMaximumRasterPixels is refused before it is decoded. With
+/// noHevcCodec every HEIC and HEIF file fails as if its decoder were missing.
+DecodedPicture decodePicture(const QString &path, bool noHevcCodec = false);
+
+/// A layer of what was decoded, converted to RGBA8888; hand the picture over, and no second buffer is needed.
+ImageImportResult imageLayerFrom(DecodedPicture picture, const QString &name);
+
+/// Both at once, with the name that the file gives.
 ImageImportResult importImageLayer(const QString &path, bool noHevcCodec = false);
 
 /// The same checks without decoding. Nothing when they fail, with the reason in error. A raster format that does not
