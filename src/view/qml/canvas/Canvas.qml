@@ -1,0 +1,305 @@
+import QtQuick
+import QtQuick.Controls
+
+// The editing surface: shows the scene at a zoom around a point of the document and turns pointer, wheel and keys into
+// changes of that view. "View" is in this item's pixels, "document" in document units with the origin in the middle.
+Pane {
+    id: root
+
+    required property ScenePresentationModel sceneModel
+    property real zoom: 1.0
+    property bool fixedDocumentBounds: false
+    property bool documentBoundsVisible: false
+    // The document point in the middle of the view, before fixed bounds hold it back.
+    property point boardCenter: Qt.point(0, 0)
+
+    readonly property real minimumZoom: 0.05
+    readonly property real maximumZoom: 48.0
+    readonly property rect visibleDocumentRect: alignedToPixels(documentViewportRect())
+    readonly property rect addLayerViewportRect: paddedVisibleDocumentRect(fitPadding)
+    // Document point at the view's (0, 0), and pixels of the view for one document unit: what overlays draw with.
+    readonly property point viewOrigin: sceneModel ? Qt.point(sceneModel.sceneRect.x, sceneModel.sceneRect.y)
+                                                   : Qt.point(visibleDocumentRect.x, visibleDocumentRect.y)
+    readonly property real viewScale: zoom
+
+    readonly property real fitPadding: 40       // screen pixels, both sides together
+    readonly property real wheelZoomStep: 1.1
+    readonly property real dragThreshold: 3
+    readonly property real pixelRatio: Screen.devicePixelRatio
+
+    signal filesDropped(list<url> fileUrls)
+
+    function setZoom(value) {
+        if (isFinite(value))
+            zoom = Math.min(Math.max(value, minimumZoom), maximumZoom)
+    }
+
+    function forceCanvasFocus() {
+        viewport.forceActiveFocus()
+    }
+
+    function panBoardFromViewportDelta(startCenter, deltaX, deltaY, panHorizontal, panVertical) {
+        if (!isFinite(deltaX) || !isFinite(deltaY))
+            return
+        boardCenter = Qt.point(panHorizontal ? startCenter.x - deltaX / zoom : boardCenter.x,
+                               panVertical ? startCenter.y - deltaY / zoom : boardCenter.y)
+    }
+
+    function handleSceneObjectAdded(focusBounds, fitViewToBounds) {
+        if (fitViewToBounds)
+            fitDocumentRect(focusBounds)
+        forceCanvasFocus()
+        Qt.callLater(forceCanvasFocus)
+    }
+
+    // Shows the whole of `bounds`, never above 100 %. False for bounds that are missing or not finite.
+    function fitDocumentRect(bounds) {
+        if (!isFiniteRect(bounds))
+            return false
+        showDocumentRect(bounds, 1.0)
+        return true
+    }
+
+    // Zooms out and centres only if `bounds` are not in view yet; true if the view changed.
+    function ensureDocumentRectVisible(bounds) {
+        if (!isFiniteRect(bounds))
+            return false
+        const visible = paddedVisibleDocumentRect(fitPadding)
+        if (bounds.x >= visible.x && bounds.x + bounds.width <= visible.x + visible.width
+                && bounds.y >= visible.y && bounds.y + bounds.height <= visible.y + visible.height)
+            return false
+        showDocumentRect(bounds, zoom)
+        return true
+    }
+
+    // What the view covers, in document units. With fixed bounds the view stays on the document.
+    function documentViewportRect() {
+        const width = Math.max(1, viewport.width) / zoom
+        const height = Math.max(1, viewport.height) / zoom
+        let x = boardCenter.x - width / 2
+        let y = boardCenter.y - height / 2
+        if (fixedDocumentBounds && sceneModel) {
+            const bounds = sceneModel.documentRect
+            x = heldWithin(x, width, bounds.x, bounds.width)
+            y = heldWithin(y, height, bounds.y, bounds.height)
+        }
+        return Qt.rect(x, y, width, height)
+    }
+
+    function paddedVisibleDocumentRect(totalScreenPadding) {
+        const padding = Math.max(0, totalScreenPadding) / Math.max(zoom, minimumZoom)
+        const visible = visibleDocumentRect
+        const insetX = Math.min(padding / 2, Math.max(0, visible.width - 1) / 2)
+        const insetY = Math.min(padding / 2, Math.max(0, visible.height - 1) / 2)
+        return Qt.rect(visible.x + insetX, visible.y + insetY,
+                       Math.max(1, visible.width - 2 * insetX), Math.max(1, visible.height - 2 * insetY))
+    }
+
+    function documentToView(point) {
+        return Qt.point((point.x - viewOrigin.x) * viewScale, (point.y - viewOrigin.y) * viewScale)
+    }
+
+    function viewToDocument(point) {
+        return Qt.point(viewOrigin.x + point.x / viewScale, viewOrigin.y + point.y / viewScale)
+    }
+
+    function resetFixedDocumentView() {
+        if (!fixedDocumentBounds || !sceneModel)
+            return
+        const bounds = sceneModel.documentRect
+        boardCenter = Qt.point(bounds.x + bounds.width / 2, bounds.y + bounds.height / 2)
+    }
+
+    function isFiniteRect(bounds) {
+        return bounds !== undefined && bounds !== null && isFinite(bounds.x) && isFinite(bounds.y)
+                && isFinite(bounds.width) && isFinite(bounds.height)
+    }
+
+    function heldWithin(position, length, boundsPosition, boundsLength) {
+        if (length >= boundsLength)
+            return boundsPosition + (boundsLength - length) / 2
+        return Math.min(Math.max(position, boundsPosition), boundsPosition + boundsLength - length)
+    }
+
+    // The tiles lie on the grid of device pixels; a view between two pixels would show them blurred.
+    function alignedToPixels(rect) {
+        const scale = zoom * pixelRatio
+        return Qt.rect(Math.round(rect.x * scale) / scale, Math.round(rect.y * scale) / scale, rect.width, rect.height)
+    }
+
+    function showDocumentRect(bounds, zoomLimit) {
+        sceneUpdates.held = true
+        setZoom(Math.min(zoomLimit, (viewport.width - fitPadding) / Math.max(1, bounds.width),
+                         (viewport.height - fitPadding) / Math.max(1, bounds.height)))
+        boardCenter = Qt.point(bounds.x + bounds.width / 2, bounds.y + bounds.height / 2)
+        sceneUpdates.held = false
+        sceneUpdates.apply()
+    }
+
+    padding: 0
+    background: Rectangle {
+        color: root.fixedDocumentBounds ? "#30343b" : "white"
+    }
+
+    onVisibleDocumentRectChanged: sceneUpdates.apply()
+    onZoomChanged: sceneUpdates.apply()
+    onPixelRatioChanged: sceneUpdates.apply()
+    onSceneModelChanged: sceneUpdates.apply()
+    onFixedDocumentBoundsChanged: resetFixedDocumentView()
+    Component.onCompleted: {
+        resetFixedDocumentView()
+        sceneUpdates.held = false
+        sceneUpdates.apply()
+    }
+
+    // Gives the scene its rectangle and its scale. Each setter composes at once, so the one that makes the picture
+    // smaller goes first: a large rectangle at a large scale in between would be gigabytes. For the same reason both
+    // come from the zoom itself and not from bindings, which change one after the other.
+    QtObject {
+        id: sceneUpdates
+
+        property bool held: true
+
+        function apply() {
+            if (held || !root.sceneModel)
+                return
+            const rect = root.alignedToPixels(root.documentViewportRect())
+            const scale = root.zoom * root.pixelRatio
+            if (scale < root.sceneModel.renderScale) {
+                root.sceneModel.renderScale = scale
+                root.sceneModel.viewportRect = rect
+            } else {
+                root.sceneModel.viewportRect = rect
+                root.sceneModel.renderScale = scale
+            }
+        }
+    }
+
+    Binding {
+        target: root.sceneModel
+        property: "fixedDocumentBounds"
+        value: root.fixedDocumentBounds
+    }
+
+    Binding {
+        target: root.sceneModel
+        property: "documentBoundsVisible"
+        value: root.documentBoundsVisible
+    }
+
+    contentItem: Item {
+        id: viewport
+
+        property bool spaceHeld: false
+        property point panStart
+
+        // A drag starts from the point that is really in the middle, so that fixed bounds leave no dead way.
+        function startPan() {
+            const rect = root.documentViewportRect()
+            panStart = Qt.point(rect.x + rect.width / 2, rect.y + rect.height / 2)
+            root.forceCanvasFocus()
+        }
+
+        function pan(deltaX, deltaY) {
+            root.panBoardFromViewportDelta(panStart, deltaX, deltaY, true, true)
+        }
+
+        focus: true
+        clip: true
+        Accessible.role: Accessible.Graphic
+        Accessible.name: qsTr("Canvas")
+        Accessible.description: qsTr("The document. Drag to move the view, turn the wheel to zoom.")
+
+        Keys.onPressed: event => {
+            if (event.key !== Qt.Key_Space || event.modifiers !== Qt.NoModifier)
+                return
+            spaceHeld = true
+            event.accepted = true
+        }
+        Keys.onReleased: event => {
+            if (event.key !== Qt.Key_Space || event.isAutoRepeat)
+                return
+            spaceHeld = false
+            event.accepted = true
+        }
+        onActiveFocusChanged: spaceHeld = false
+
+        PanArea {
+            id: boardPanArea
+
+            onDragStarted: viewport.startPan()
+            onDragged: (deltaX, deltaY) => viewport.pan(deltaX, deltaY)
+            z: -1
+            anchors.fill: parent
+            acceptedButtons: Qt.MiddleButton
+            cursorShape: dragging ? Qt.ClosedHandCursor : Qt.ArrowCursor
+
+            // With Alt held some platforms turn the wheel's axis.
+            onWheel: wheel => {
+                const alongAlt = wheel.angleDelta.y === 0 && (wheel.modifiers & Qt.AltModifier)
+                const delta = alongAlt ? wheel.angleDelta.x : wheel.angleDelta.y
+                root.setZoom(delta > 0 ? root.zoom * root.wheelZoomStep : root.zoom / root.wheelZoomStep)
+                wheel.accepted = true
+            }
+        }
+
+        EditorCanvasItem {
+            anchors.fill: parent
+            sceneModel: root.sceneModel
+            viewScale: root.viewScale
+        }
+
+        PanArea {
+            id: layerInteractionArea
+
+            onDragStarted: viewport.startPan()
+            onDragged: (deltaX, deltaY) => viewport.pan(deltaX, deltaY)
+            anchors.fill: parent
+            acceptedButtons: Qt.LeftButton
+            threshold: root.dragThreshold
+            cursorShape: dragging || boardPanArea.dragging ? Qt.ClosedHandCursor : Qt.ArrowCursor
+        }
+
+        PanArea {
+            onDragStarted: viewport.startPan()
+            onDragged: (deltaX, deltaY) => viewport.pan(deltaX, deltaY)
+            z: 190
+            anchors.fill: parent
+            visible: viewport.spaceHeld || dragging
+            acceptedButtons: Qt.LeftButton
+            cursorShape: dragging ? Qt.ClosedHandCursor : Qt.OpenHandCursor
+        }
+
+        ToastOverlay {
+            z: 200
+            anchors.top: parent.top
+            anchors.topMargin: 12
+            anchors.horizontalCenter: parent.horizontalCenter
+            maximumWidth: Math.max(56, parent.width - 32)
+        }
+
+        // Importing must never make the source move its file, so only a copy is accepted.
+        DropArea {
+            function offersCopies(drag) {
+                return drag.hasUrls && (drag.supportedActions & Qt.CopyAction)
+            }
+
+            z: 300
+            anchors.fill: parent
+            onEntered: drag => {
+                if (offersCopies(drag))
+                    drag.accept(Qt.CopyAction)
+                else
+                    drag.accepted = false
+            }
+            onDropped: drop => {
+                if (!offersCopies(drop)) {
+                    drop.accepted = false
+                    return
+                }
+                drop.accept(Qt.CopyAction)
+                root.filesDropped(drop.urls)
+            }
+        }
+    }
+}

@@ -1,0 +1,34 @@
+pragma Singleton
+
+import QtQuick
+
+// Where any part of the interface asks for a toast; the canvas shows it.
+QtObject {
+    id: root
+
+    readonly property int defaultDurationMs: 750
+
+    readonly property Connections notificationConnections: Connections {
+        target: typeof userNotifications === "undefined" ? null : userNotifications
+
+        function onToastRequested(message, hint, delayMs, durationMs, persistent) {
+            root.show(message, { hint, delayMs, durationMs, persistent })
+        }
+    }
+
+    signal showRequested(string message, string hint, int delayMs, int durationMs, bool persistent, var clickHandler)
+    signal hideRequested()
+
+    // In the place of the hint: an object with any of hint, delayMs, durationMs, persistent (stays until hidden or
+    // clicked) and clickHandler, a function.
+    function show(message, hint, options) {
+        const settings = (typeof hint === "object" ? hint : options) ?? {}
+        const hintText = typeof hint === "string" ? hint : settings.hint ?? ""
+        showRequested(message, hintText, settings.delayMs ?? 0, settings.durationMs ?? defaultDurationMs,
+                      settings.persistent ?? false, settings.clickHandler ?? null)
+    }
+
+    function hide() {
+        hideRequested()
+    }
+}

@@ -1,0 +1,125 @@
+import QtQuick
+import QtQuick.Layouts
+import QtQuick.Controls
+
+// Shows what Toast asks for, one message at a time; a new one takes the place of the old. Without a click handler it
+// lets the pointer through, unless it is persistent: then a click puts it away.
+Item {
+    id: root
+
+    property real maximumWidth: 480
+    readonly property alias message: messageLabel.text
+    readonly property alias hint: hintLabel.text
+    readonly property bool shown: state.shown
+    readonly property real spacing: 12
+
+    implicitWidth: Math.min(maximumWidth, row.implicitWidth + 2 * spacing)
+    implicitHeight: row.implicitHeight + spacing
+    opacity: shown ? 1 : 0
+    visible: opacity > 0
+    Accessible.role: Accessible.AlertMessage
+    Accessible.name: hint ? message + " " + hint : message
+
+    Behavior on opacity {
+        NumberAnimation { duration: 120 }
+    }
+
+    QtObject {
+        id: state
+
+        property bool shown: false
+        property int durationMs: 0
+        property bool persistent: false
+        property var clickHandler: null
+
+        function show() {
+            shown = true
+            if (!persistent)
+                hideTimer.restart()
+        }
+    }
+
+    Connections {
+        target: Toast
+
+        function onShowRequested(message, hint, delayMs, durationMs, persistent, clickHandler) {
+            hideTimer.stop()
+            delayTimer.stop()
+            state.shown = false
+            messageLabel.text = message
+            hintLabel.text = hint
+            state.durationMs = durationMs
+            state.persistent = persistent
+            state.clickHandler = clickHandler
+            if (delayMs > 0) {
+                delayTimer.interval = delayMs
+                delayTimer.start()
+            } else {
+                state.show()
+            }
+        }
+
+        function onHideRequested() {
+            delayTimer.stop()
+            hideTimer.stop()
+            state.shown = false
+        }
+    }
+
+    Timer {
+        id: delayTimer
+        onTriggered: state.show()
+    }
+
+    Timer {
+        id: hideTimer
+        interval: state.durationMs
+        onTriggered: state.shown = false
+    }
+
+    Rectangle {
+        anchors.fill: parent
+        radius: 6
+        color: root.palette.toolTipBase
+        border.color: root.palette.mid
+        border.width: 1
+    }
+
+    RowLayout {
+        id: row
+
+        anchors.fill: parent
+        anchors.leftMargin: root.spacing
+        anchors.rightMargin: root.spacing
+        spacing: root.spacing
+
+        Label {
+            id: messageLabel
+
+            Layout.fillWidth: true
+            color: palette.toolTipText
+            wrapMode: Text.Wrap
+            textFormat: Text.PlainText
+        }
+
+        Label {
+            id: hintLabel
+
+            visible: text.length > 0
+            color: state.clickHandler ? palette.link : palette.placeholderText
+            textFormat: Text.PlainText
+        }
+    }
+
+    MouseArea {
+        anchors.fill: parent
+        enabled: root.shown && (state.clickHandler !== null || state.persistent)
+        cursorShape: state.clickHandler ? Qt.PointingHandCursor : Qt.ArrowCursor
+        onClicked: {
+            const handler = state.clickHandler
+            Toast.hide()
+            if (handler)
+                handler()
+        }
+    }
+}
