@@ -186,7 +186,7 @@ ApplicationWindow {
 
         title: qsTr("Open Image")
         nameFilters: [
-            qsTr("All image files (%1)").arg(documentFileController.supportedImageFilePatterns.join(" ")),
+            qsTr("All image files (%1)").arg(documentFileController.supportedImageFilePatterns),
             qsTr("All files (*)")
         ]
         currentFolder: applicationSettings.imageImportFolderUrl
