@@ -1,5 +1,6 @@
 #include "bench.h"
 #include "blur_bench.h"
+#include "export_bench.h"
 #include "scene_bench.h"
 
 #include "base/memory_tuning.h"
@@ -23,6 +24,7 @@ struct BenchGroup
 constexpr BenchGroup kGroups[] = {
     {"scene"_L1, zm::bench::benchScene},
     {"blur"_L1, zm::bench::benchBlur},
+    {"export"_L1, zm::bench::benchExport},
 };
 
 void print(const QList<zm::bench::BenchRow> &rows)
