@@ -54,6 +54,7 @@ void raiseAfterFirstFrame(QObject *created)
     QObject::connect(
         window, &QQuickWindow::frameSwapped, window,
         [window] {
+            qInfo() << "First frame shown";
             window->raise();
             window->requestActivate();
         },

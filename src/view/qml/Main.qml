@@ -15,6 +15,7 @@ ApplicationWindow {
     readonly property bool applicationFileOpenUiBlocked: documentOpenDialog.visible || documentFileErrorDialog.visible
 
     readonly property bool fullScreen: visibility === Window.FullScreen
+    property int visibilityBeforeFullScreen: Window.Maximized
 
     function requestOpenDocument() {
         documentOpenDialog.open()
@@ -39,7 +40,11 @@ ApplicationWindow {
     }
 
     function fitLoadedDocumentToView() {
-        Qt.callLater(() => canvas.fitDocumentRect(scenePresentationModel.documentRect))
+        Qt.callLater(window.fitDocument)
+    }
+
+    function fitDocument() {
+        canvas.fitDocumentRect(scenePresentationModel.documentRect)
     }
 
     // Takes the oldest request, if nothing stands in the way. Whatever ends a request calls this again.
@@ -49,7 +54,8 @@ ApplicationWindow {
         const url = applicationFileOpenRequests.takePendingFileOpenRequest()
         if (!url.toString())
             return
-        window.show()
+        if (visibility === Window.Hidden || visibility === Window.Minimized)
+            showMaximized()     // show() would take the maximised state away
         window.raise()
         window.requestActivate()
         applicationFileOpenActive = true
@@ -70,10 +76,12 @@ ApplicationWindow {
     }
 
     function toggleFullScreen() {
-        if (fullScreen)
-            showMaximized()
-        else
+        if (fullScreen) {
+            visibility = visibilityBeforeFullScreen
+        } else {
+            visibilityBeforeFullScreen = visibility
             showFullScreen()
+        }
     }
 
     width: 1280
@@ -99,6 +107,19 @@ ApplicationWindow {
 
         function onPendingFileOpenRequestAvailable() {
             Qt.callLater(window.processPendingApplicationFileOpenRequest)
+        }
+    }
+
+    // A window has its real size only with its first frame, which a file named at the start does not wait for.
+    Connections {
+        id: firstFrame
+
+        target: window
+
+        function onFrameSwapped() {
+            firstFrame.enabled = false
+            if (scenePresentationModel.hasSelection)
+                window.fitDocument()
         }
     }
 

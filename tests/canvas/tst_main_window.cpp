@@ -1,0 +1,338 @@
+#include "application/application.h"
+#include "application/application_settings.h"
+#include "application/application_theme_controller.h"
+#include "application/user_notification_center.h"
+#include "commands/command_history.h"
+#include "document/document.h"
+#include "document/image_layer.h"
+#include "document/scene_presentation_model.h"
+#include "support/pictures.h"
+
+#include <QDropEvent>
+#include <QMimeData>
+#include <QOpenGLContext>
+#include <QQmlApplicationEngine>
+#include <QQmlContext>
+#include <QQuickItem>
+#include <QQuickWindow>
+#include <QTemporaryDir>
+#include <QTest>
+#include <QUndoCommand>
+#include <QtQml/qqmlextensionplugin.h>
+
+Q_IMPORT_QML_PLUGIN(ZelmoraAtelierPlugin)
+
+using namespace Qt::StringLiterals;
+using namespace zm;
+
+namespace {
+
+/// Opens every file that is not called "bad" as a picture of 2000 x 1000 pixels, so that the window's road of a file is
+/// tested without files.
+class FileOpener : public QObject
+{
+    Q_OBJECT
+    Q_PROPERTY(QString displayName MEMBER m_displayName NOTIFY changed)
+    Q_PROPERTY(QString lastError MEMBER m_lastError NOTIFY changed)
+    Q_PROPERTY(QStringList supportedImageFilePatterns MEMBER m_patterns CONSTANT)
+
+public:
+    explicit FileOpener(Document &document) : m_document(document) {}
+
+    Q_INVOKABLE bool load(const QUrl &url)
+    {
+        asked.append(url.fileName());
+        const bool bad = url.fileName().startsWith("bad"_L1);
+        m_lastError = bad ? u"No picture in %1."_s.arg(url.fileName()) : QString();
+        if (!bad) {
+            m_displayName = url.fileName();
+            std::vector<std::unique_ptr<SceneObject>> objects;
+            objects.push_back(std::make_unique<ImageLayer>(test::plainPicture(2000, 1000, Qt::red), u"Photo"_s));
+            const QUuid id = objects.front()->id();
+            m_document.replaceContents({2000, 1000}, Qt::white, std::move(objects));
+            m_document.selectObject(id);
+        }
+        emit changed();
+        return !bad;
+    }
+
+    QStringList asked;
+
+signals:
+    void changed();
+
+private:
+    Document &m_document;
+    QString m_displayName = u"Untitled"_s;
+    QString m_lastError;
+    QStringList m_patterns{u"*.png"_s};
+};
+
+QUrl fileUrl(const QString &name)
+{
+    return QUrl::fromLocalFile(u"/pictures/"_s + name);
+}
+
+QQuickItem *findItem(QQuickItem *root, const std::function<bool(QQuickItem *)> &matches)
+{
+    if (matches(root))
+        return root;
+    for (QQuickItem *child : root->childItems()) {
+        if (QQuickItem *found = findItem(child, matches))
+            return found;
+    }
+    return nullptr;
+}
+
+} // namespace
+
+class TestMainWindow : public QObject
+{
+    Q_OBJECT
+
+public:
+    explicit TestMainWindow(Application &application) : m_application(application) {}
+
+private slots:
+    void initTestCase()
+    {
+        if (!QOpenGLContext().create())
+            QSKIP("No OpenGL context can be created here.");
+    }
+
+    void init()
+    {
+        m_settings.setThemeMode(u"light"_s);
+        m_settings.setCanvasClipMode(false);
+        m_settings.setDocumentBoundsVisible(false);
+        m_document = std::make_unique<Document>();
+        m_history = std::make_unique<CommandHistory>(m_document.get());
+        m_scene = std::make_unique<ScenePresentationModel>(m_document.get());
+        m_files = std::make_unique<FileOpener>(*m_document);
+        m_warnings.clear();
+    }
+
+    void cleanup()
+    {
+        m_engine.reset();
+        while (!m_application.takePendingFileOpenRequest().isEmpty()) {
+        }
+        QCOMPARE(m_warnings, QStringList());
+    }
+
+    void startsOnAnEmptyDocument()
+    {
+        openWindow();
+        QCOMPARE(m_window->title(), u"Untitled - Zelmora Atelier"_s);
+        QCOMPARE(m_window->minimumSize(), QSize(800, 520));
+        QVERIFY(m_window->isVisible());
+        QVERIFY(itemWithText(u"No layer selected"_s));
+        QVERIFY(itemOfType("Canvas_QMLTYPE")->hasFocus());
+        QTRY_COMPARE(itemOfType("StatusBar_QMLTYPE")->height(), 34.0);
+    }
+
+    void requestsAreOpenedOneAfterTheOther()
+    {
+        m_application.addFileOpenRequest(fileUrl(u"a.png"_s));
+        m_application.addFileOpenRequest(fileUrl(u"b.png"_s));
+        openWindow();
+        QTRY_COMPARE(m_files->asked, QStringList({u"a.png"_s, u"b.png"_s}));
+        m_application.addFileOpenRequest(fileUrl(u"c.png"_s));
+        QTRY_COMPARE(m_files->asked.size(), 3);
+        QCOMPARE(m_window->title(), u"c.png - Zelmora Atelier"_s);
+        QVERIFY(itemWithText(u"Layer: 2000 × 1000 px"_s));
+        QTRY_COMPARE(zoom(), std::min({1.0, (canvas()->width() - 40) / 2000, (canvas()->height() - 40) / 1000}));
+    }
+
+    void failedRequestIsToldBeforeTheNextIsOpened()
+    {
+        m_application.addFileOpenRequest(fileUrl(u"bad.png"_s));
+        m_application.addFileOpenRequest(fileUrl(u"b.png"_s));
+        openWindow();
+        QTRY_VERIFY(itemWithText(u"No picture in bad.png."_s));
+        QTest::qWait(100);
+        QCOMPARE(m_files->asked, QStringList(u"bad.png"_s));
+        QTest::keyClick(m_window, Qt::Key_Return);
+        QTRY_COMPARE(m_files->asked, QStringList({u"bad.png"_s, u"b.png"_s}));
+    }
+
+    void droppedFileIsOpened()
+    {
+        openWindow();
+        QMimeData data;
+        data.setUrls({fileUrl(u"drop.png"_s)});
+        const QPoint middle = canvas()->mapToScene({50, 50}).toPoint();
+        QDragEnterEvent enter(middle, Qt::CopyAction, &data, Qt::LeftButton, Qt::NoModifier);
+        QCoreApplication::sendEvent(m_window, &enter);
+        QDropEvent drop(middle, Qt::CopyAction, &data, Qt::LeftButton, Qt::NoModifier);
+        QCoreApplication::sendEvent(m_window, &drop);
+        QTRY_COMPARE(m_files->asked, QStringList(u"drop.png"_s));
+    }
+
+    void titleMarksUnsavedChanges()
+    {
+        openWindow();
+        m_history->push(std::make_unique<QUndoCommand>(u"Change"_s));
+        QCOMPARE(m_window->title(), u"Untitled* - Zelmora Atelier"_s);
+        m_history->undo();
+        QCOMPARE(m_window->title(), u"Untitled - Zelmora Atelier"_s);
+    }
+
+    void viewKeys_data()
+    {
+        QTest::addColumn<int>("key");
+        QTest::addColumn<double>("zoom");
+        QTest::newRow("in") << int(Qt::Key_Plus) << 2.5;
+        QTest::newRow("in, without Shift") << int(Qt::Key_Equal) << 2.5;
+        QTest::newRow("out") << int(Qt::Key_Minus) << 1.6;
+        QTest::newRow("fit") << int(Qt::Key_0) << 1.0;
+        QTest::newRow("actual size") << int(Qt::Key_1) << 1.0;
+    }
+
+    void viewKeys()
+    {
+        QFETCH(int, key);
+        QFETCH(double, zoom);
+        m_document->setSize({400, 300});
+        openWindow();
+        QMetaObject::invokeMethod(canvas(), "setZoom", Q_ARG(QVariant, 2.0));
+        QTest::keyClick(m_window, Qt::Key(key), Qt::ControlModifier);
+        QCOMPARE(this->zoom(), zoom);
+    }
+
+    void fullScreenComesAndGoes()
+    {
+        openWindow();
+        QTest::keyClick(m_window, Qt::Key_F11);
+        QTRY_COMPARE(m_window->visibility(), QWindow::FullScreen);
+        QTest::keyClick(m_window, Qt::Key_F11);
+        QTRY_VERIFY(m_window->visibility() != QWindow::FullScreen);
+    }
+
+    void statusBarZooms()
+    {
+        openWindow();
+        click(u"+"_s);
+        QCOMPARE(zoom(), 1.25);
+        click(u"+"_s);
+        click(u"156%"_s);
+        QCOMPARE(zoom(), 1.0);
+        click(u"-"_s);
+        QCOMPARE(zoom(), 0.8);
+        QMetaObject::invokeMethod(canvas(), "setZoom", Q_ARG(QVariant, 48.0));
+        QVERIFY(itemWithText(u"4800%"_s));
+        QVERIFY(!itemWithText(u"+"_s)->isEnabled());
+        QMetaObject::invokeMethod(canvas(), "setZoom", Q_ARG(QVariant, 0.05));
+        QVERIFY(!itemWithText(u"-"_s)->isEnabled());
+        QVERIFY(itemWithText(u"+"_s)->isEnabled());
+    }
+
+    void menuChangesTheSettings()
+    {
+        openWindow();
+        chooseFromViewMenu({Qt::Key_L});
+        QTRY_VERIFY(m_settings.canvasClipMode());
+        QVERIFY(m_scene->fixedDocumentBounds());
+        chooseFromViewMenu({Qt::Key_C});
+        QTRY_VERIFY(!m_settings.canvasClipMode());
+        chooseFromViewMenu({Qt::Key_B});
+        QTRY_VERIFY(m_settings.documentBoundsVisible());
+        QVERIFY(m_scene->documentBoundsVisible());
+        chooseFromViewMenu({Qt::Key_T, Qt::Key_D});
+        QTRY_COMPARE(m_settings.themeMode(), u"dark"_s);
+        QCOMPARE(m_window->property("palette").value<QObject *>()->property("window").value<QColor>(),
+                 QColor(32, 33, 36));
+    }
+
+    void notificationAppearsOverTheCanvas()
+    {
+        openWindow();
+        UserNotificationCenter::post(u"Shader error"_s, u"Mosaic"_s, 0, 200);
+        QTRY_VERIFY(itemWithText(u"Shader error"_s)->isVisible());
+        QTRY_VERIFY(!itemWithText(u"Shader error"_s)->isVisible());
+    }
+
+private:
+    void openWindow()
+    {
+        m_engine = std::make_unique<QQmlApplicationEngine>();
+        m_engine->setOutputWarningsToStandardError(false);
+        connect(m_engine.get(), &QQmlEngine::warnings, this, [this](const QList<QQmlError> &warnings) {
+            for (const QQmlError &warning : warnings)
+                m_warnings.append(warning.toString());
+        });
+        QQmlContext *context = m_engine->rootContext();
+        context->setContextProperty(u"applicationFileOpenRequests"_s, &m_application);
+        context->setContextProperty(u"applicationSettings"_s, &m_settings);
+        context->setContextProperty(u"applicationTheme"_s, &m_theme);
+        context->setContextProperty(u"commandHistory"_s, m_history.get());
+        context->setContextProperty(u"scenePresentationModel"_s, m_scene.get());
+        context->setContextProperty(u"documentFileController"_s, m_files.get());
+        context->setContextProperty(u"userNotifications"_s, &UserNotificationCenter::instance());
+        m_engine->loadFromModule("ZelmoraAtelier"_L1, "Main"_L1);
+        m_window = qobject_cast<QQuickWindow *>(m_engine->rootObjects().value(0));
+        QVERIFY(m_window);
+        QVERIFY(QTest::qWaitForWindowExposed(m_window));
+        m_window->requestActivate(); // as the program does once there is something to see
+        QVERIFY(QTest::qWaitForWindowActive(m_window));
+    }
+
+    QQuickItem *itemOfType(const char *type)
+    {
+        return findItem(m_window->contentItem(),
+                        [type](QQuickItem *item) { return QByteArray(item->metaObject()->className()).startsWith(type); });
+    }
+
+    /// The control or label that says text.
+    QQuickItem *itemWithText(const QString &text)
+    {
+        return findItem(m_window->contentItem(),
+                        [&text](QQuickItem *item) { return item->property("text").toString() == text; });
+    }
+
+    QQuickItem *canvas() { return itemOfType("Canvas_QMLTYPE"); }
+    double zoom() { return canvas()->property("zoom").toDouble(); }
+
+    void click(const QString &text)
+    {
+        QQuickItem *item = itemWithText(text);
+        QVERIFY2(item, qPrintable(text));
+        QTest::mouseClick(m_window, Qt::LeftButton, Qt::NoModifier,
+                          item->mapToScene({item->width() / 2, item->height() / 2}).toPoint());
+    }
+
+    void chooseFromViewMenu(const QList<Qt::Key> &mnemonics)
+    {
+        QTest::keyClick(m_window, Qt::Key_V, Qt::AltModifier);
+        QTRY_VERIFY(itemWithText(u"Show Document &Bounds"_s)); // the open menu
+        for (Qt::Key key : mnemonics) {
+            QTest::qWait(50); // a submenu opens
+            QTest::keyClick(m_window, key);
+        }
+        QTRY_VERIFY(!itemWithText(u"Show Document &Bounds"_s));
+    }
+
+    Application &m_application;
+    ApplicationSettings m_settings;
+    ApplicationThemeController m_theme{m_settings};
+    std::unique_ptr<Document> m_document;
+    std::unique_ptr<CommandHistory> m_history;
+    std::unique_ptr<ScenePresentationModel> m_scene;
+    std::unique_ptr<FileOpener> m_files;
+    std::unique_ptr<QQmlApplicationEngine> m_engine;
+    QQuickWindow *m_window = nullptr;
+    QStringList m_warnings;
+};
+
+int main(int argc, char **argv)
+{
+    const QTemporaryDir home; // neither the user's settings nor the user's log
+    qputenv("XDG_CONFIG_HOME", home.path().toLocal8Bit());
+    qputenv("XDG_DATA_HOME", home.path().toLocal8Bit());
+    QQuickWindow::setGraphicsApi(QSGRendererInterface::OpenGL);
+    Application application(argc, argv);
+    TestMainWindow test(application);
+    return QTest::qExec(&test, argc, argv);
+}
+
+#include "tst_main_window.moc"
