@@ -2,6 +2,7 @@
 #include "blur_bench.h"
 #include "export_bench.h"
 #include "scene_bench.h"
+#include "startup_bench.h"
 
 #include "base/memory_tuning.h"
 #include "base/pixel_limits.h"
@@ -25,6 +26,7 @@ constexpr BenchGroup kGroups[] = {
     {"scene"_L1, zm::bench::benchScene},
     {"blur"_L1, zm::bench::benchBlur},
     {"export"_L1, zm::bench::benchExport},
+    {"start"_L1, zm::bench::benchStartup},
 };
 
 void print(const QList<zm::bench::BenchRow> &rows)

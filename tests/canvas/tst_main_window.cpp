@@ -4,11 +4,12 @@
 #include "application/user_notification_center.h"
 #include "commands/command_history.h"
 #include "document/document.h"
-#include "document/image_layer.h"
 #include "document/scene_presentation_model.h"
+#include "editor/document_file_controller.h"
 #include "support/pictures.h"
 
 #include <QDropEvent>
+#include <QFile>
 #include <QMimeData>
 #include <QOpenGLContext>
 #include <QQmlApplicationEngine>
@@ -26,52 +27,6 @@ using namespace Qt::StringLiterals;
 using namespace zm;
 
 namespace {
-
-/// Opens every file that is not called "bad" as a picture of 2000 x 1000 pixels, so that the window's road of a file is
-/// tested without files.
-class FileOpener : public QObject
-{
-    Q_OBJECT
-    Q_PROPERTY(QString displayName MEMBER m_displayName NOTIFY changed)
-    Q_PROPERTY(QString lastError MEMBER m_lastError NOTIFY changed)
-    Q_PROPERTY(QStringList supportedImageFilePatterns MEMBER m_patterns CONSTANT)
-
-public:
-    explicit FileOpener(Document &document) : m_document(document) {}
-
-    Q_INVOKABLE bool load(const QUrl &url)
-    {
-        asked.append(url.fileName());
-        const bool bad = url.fileName().startsWith("bad"_L1);
-        m_lastError = bad ? u"No picture in %1."_s.arg(url.fileName()) : QString();
-        if (!bad) {
-            m_displayName = url.fileName();
-            std::vector<std::unique_ptr<SceneObject>> objects;
-            objects.push_back(std::make_unique<ImageLayer>(test::plainPicture(2000, 1000, Qt::red), u"Photo"_s));
-            const QUuid id = objects.front()->id();
-            m_document.replaceContents({2000, 1000}, Qt::white, std::move(objects));
-            m_document.selectObject(id);
-        }
-        emit changed();
-        return !bad;
-    }
-
-    QStringList asked;
-
-signals:
-    void changed();
-
-private:
-    Document &m_document;
-    QString m_displayName = u"Untitled"_s;
-    QString m_lastError;
-    QStringList m_patterns{u"*.png"_s};
-};
-
-QUrl fileUrl(const QString &name)
-{
-    return QUrl::fromLocalFile(u"/pictures/"_s + name);
-}
 
 QQuickItem *findItem(QQuickItem *root, const std::function<bool(QQuickItem *)> &matches)
 {
@@ -98,6 +53,11 @@ private slots:
     {
         if (!QOpenGLContext().create())
             QSKIP("No OpenGL context can be created here.");
+        const QImage photo = test::plainPicture(2000, 1000, Qt::red);
+        for (const QString &name : {u"a.png"_s, u"b.png"_s, u"c.png"_s})
+            QVERIFY(photo.save(m_folder.filePath(name)));
+        QFile bad(m_folder.filePath(u"bad.png"_s));
+        QVERIFY(bad.open(QIODevice::WriteOnly) && bad.write("no picture") > 0);
     }
 
     void init()
@@ -108,7 +68,10 @@ private slots:
         m_document = std::make_unique<Document>();
         m_history = std::make_unique<CommandHistory>(m_document.get());
         m_scene = std::make_unique<ScenePresentationModel>(m_document.get());
-        m_files = std::make_unique<FileOpener>(*m_document);
+        m_files = std::make_unique<DocumentFileController>(m_document.get(), m_history.get());
+        m_opened.clear();
+        connect(m_files.get(), &DocumentFileController::documentReplaced, this,
+                [this] { m_opened.append(m_document->objectAt(0)->name()); });
         m_warnings.clear();
     }
 
@@ -133,40 +96,40 @@ private slots:
 
     void requestsAreOpenedOneAfterTheOther()
     {
-        m_application.addFileOpenRequest(fileUrl(u"a.png"_s));
-        m_application.addFileOpenRequest(fileUrl(u"b.png"_s));
+        m_application.addFileOpenRequest(file(u"a.png"_s));
+        m_application.addFileOpenRequest(file(u"b.png"_s));
         openWindow();
-        QTRY_COMPARE(m_files->asked, QStringList({u"a.png"_s, u"b.png"_s}));
-        m_application.addFileOpenRequest(fileUrl(u"c.png"_s));
-        QTRY_COMPARE(m_files->asked.size(), 3);
-        QCOMPARE(m_window->title(), u"c.png - Zelmora Atelier"_s);
+        QTRY_COMPARE(m_opened, QStringList({u"a"_s, u"b"_s}));
+        m_application.addFileOpenRequest(file(u"c.png"_s));
+        QTRY_COMPARE(m_opened.size(), 3);
         QVERIFY(itemWithText(u"Layer: 2000 × 1000 px"_s));
         QTRY_COMPARE(zoom(), std::min({1.0, (canvas()->width() - 40) / 2000, (canvas()->height() - 40) / 1000}));
     }
 
     void failedRequestIsToldBeforeTheNextIsOpened()
     {
-        m_application.addFileOpenRequest(fileUrl(u"bad.png"_s));
-        m_application.addFileOpenRequest(fileUrl(u"b.png"_s));
+        m_application.addFileOpenRequest(file(u"bad.png"_s));
+        m_application.addFileOpenRequest(file(u"b.png"_s));
         openWindow();
-        QTRY_VERIFY(itemWithText(u"No picture in bad.png."_s));
+        QTRY_VERIFY(itemWithText(u"Could not load the selected image file."_s));
         QTest::qWait(100);
-        QCOMPARE(m_files->asked, QStringList(u"bad.png"_s));
+        QCOMPARE(m_opened, QStringList());
         QTest::keyClick(m_window, Qt::Key_Return);
-        QTRY_COMPARE(m_files->asked, QStringList({u"bad.png"_s, u"b.png"_s}));
+        QTRY_COMPARE(m_opened, QStringList(u"b"_s));
+        QCOMPARE(m_window->title(), u"b.png - Zelmora Atelier"_s);
     }
 
     void droppedFileIsOpened()
     {
         openWindow();
         QMimeData data;
-        data.setUrls({fileUrl(u"drop.png"_s)});
+        data.setUrls({file(u"c.png"_s)});
         const QPoint middle = canvas()->mapToScene({50, 50}).toPoint();
         QDragEnterEvent enter(middle, Qt::CopyAction, &data, Qt::LeftButton, Qt::NoModifier);
         QCoreApplication::sendEvent(m_window, &enter);
         QDropEvent drop(middle, Qt::CopyAction, &data, Qt::LeftButton, Qt::NoModifier);
         QCoreApplication::sendEvent(m_window, &drop);
-        QTRY_COMPARE(m_files->asked, QStringList(u"drop.png"_s));
+        QTRY_COMPARE(m_opened, QStringList(u"c"_s));
     }
 
     void titleMarksUnsavedChanges()
@@ -312,13 +275,17 @@ private:
         QTRY_VERIFY(!itemWithText(u"Show Document &Bounds"_s));
     }
 
+    QUrl file(const QString &name) const { return QUrl::fromLocalFile(m_folder.filePath(name)); }
+
     Application &m_application;
+    QTemporaryDir m_folder;
+    QStringList m_opened;
     ApplicationSettings m_settings;
     ApplicationThemeController m_theme{m_settings};
     std::unique_ptr<Document> m_document;
     std::unique_ptr<CommandHistory> m_history;
     std::unique_ptr<ScenePresentationModel> m_scene;
-    std::unique_ptr<FileOpener> m_files;
+    std::unique_ptr<DocumentFileController> m_files;
     std::unique_ptr<QQmlApplicationEngine> m_engine;
     QQuickWindow *m_window = nullptr;
     QStringList m_warnings;
