@@ -1,8 +1,6 @@
 #include "canvas/editor_canvas_item.h"
 #include "document/document.h"
-#include "document/image_layer.h"
 #include "document/scene_presentation_model.h"
-#include "support/pictures.h"
 
 #include <QOpenGLContext>
 #include <QQuickWindow>
@@ -134,31 +132,6 @@ private slots:
         QCOMPARE(m_item->tiles[1].textureSize, QSize(808, 4));
         QCOMPARE(m_item->tiles[0].rect, QRectF(0, 0, 1024, 0.5));
         QCOMPARE(m_item->tiles[1].rect, QRectF(1024, 0, 101, 0.5));
-    }
-
-    void windowShowsThePixelsOfTheDocument()
-    {
-        Document document;
-        document.replaceContents({320, 240}, Qt::green, {});
-        QImage picture(2, 1, QImage::Format_RGBA8888);
-        picture.setPixelColor(0, 0, Qt::red);
-        picture.setPixelColor(1, 0, QColor(0, 0, 255, 128));
-        document.insertObject(std::make_unique<ImageLayer>(picture, u"Two"_s));
-        ScenePresentationModel model(&document);
-        model.setViewportRect({-10, -10, 40, 30});
-        model.setRenderScale(8.0);
-        m_item->setSceneModel(&model);
-        m_item->setViewScale(8.0);
-        const QImage shot = m_window->grabWindow();
-
-        const double ratio = m_window->effectiveDevicePixelRatio();
-        const auto pixel = [&](double x, double y) { return shot.pixelColor(int(x * ratio), int(y * ratio)); };
-        QCOMPARE(pixel(79, 84), QColor(Qt::green));
-        QCOMPARE(pixel(80, 80), QColor(Qt::red));
-        QCOMPARE(pixel(87, 87), QColor(Qt::red));
-        const QColor mixed = pixel(88, 84); // half blue over green, one rounding each in composing and blending
-        QVERIFY(qAbs(mixed.blue() - 128) <= 2 && qAbs(mixed.green() - 127) <= 2 && mixed.red() == 0);
-        QCOMPARE(pixel(96, 84), QColor(Qt::green));
     }
 
     void nodeIsKeptUntilTheTilesOrTheScaleChange()

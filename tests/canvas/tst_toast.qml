@@ -81,11 +81,5 @@ Item {
             mouseClick(overlay)
             compare(clicks, 1)
         }
-
-        function test_longTextWrapsWithinTheWidth() {
-            Toast.show("word ".repeat(40), { durationMs: 5000 })
-            tryVerify(() => overlay.height > 60)
-            verify(overlay.width <= 200)
-        }
     }
 }
