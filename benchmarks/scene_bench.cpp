@@ -111,8 +111,7 @@ void viewRows(QList<BenchRow> &rows)
     document.insertObject(std::move(owned));
     ScenePresentationModel model(&document);
     double zoom = 0.25;
-    model.setRenderScale(zoom);
-    model.setViewportRect(viewAt(zoom));
+    model.setView(viewAt(zoom), zoom);
 
     const int drawsBefore = layer->draws;
     const qint64 pixelsBefore = model.snapshot().items.constFirst().image.cacheKey();
@@ -128,8 +127,7 @@ void viewRows(QList<BenchRow> &rows)
     // A step of the wheel moves both, and each composes.
     append(u"zoom step, 24 MP layer"_s, medianMilliseconds(kRuns, [&] {
                zoom = zoom > 0.3 ? 0.25 : zoom * 1.1;
-               model.setViewportRect(viewAt(zoom));
-               model.setRenderScale(zoom);
+               model.setView(viewAt(zoom), zoom);
            }));
 }
 

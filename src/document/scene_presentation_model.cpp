@@ -19,6 +19,18 @@ bool isFinite(const QRectF &rect)
         && std::isfinite(rect.height());
 }
 
+/// Empty, which stands for no viewport, unless it is finite and at least 1 by 1.
+QRectF cleanViewport(const QRectF &rect)
+{
+    const QRectF normalized = rect.normalized();
+    return isFinite(normalized) && normalized.width() >= 1.0 && normalized.height() >= 1.0 ? normalized : QRectF();
+}
+
+double cleanRenderScale(double scale)
+{
+    return std::isnan(scale) ? 1.0 : std::clamp(scale, kMinimumRenderScale, ScenePresentationModel::kMaximumRenderScale);
+}
+
 double nonNegative(double side)
 {
     return std::isfinite(side) ? std::max(side, 0.0) : 0.0;
@@ -184,24 +196,31 @@ void ScenePresentationModel::setMinimumSceneSize(const QSizeF &size)
 
 void ScenePresentationModel::setRenderScale(double scale)
 {
-    const double clean = std::isnan(scale) ? 1.0 : std::clamp(scale, kMinimumRenderScale, kMaximumRenderScale);
-    if (fuzzyEqual(clean, m_renderScale))
-        return;
-    m_renderScale = clean;
-    renderScene();
-    emit renderScaleChanged();
+    setView(m_viewportRect, scale);
 }
 
 void ScenePresentationModel::setViewportRect(const QRectF &rect)
 {
-    QRectF clean = rect.normalized();
-    if (!isFinite(clean) || clean.width() < 1.0 || clean.height() < 1.0)
-        clean = {};
-    if (fuzzyEqual(clean, m_viewportRect))
+    setView(rect, m_renderScale);
+}
+
+void ScenePresentationModel::setView(const QRectF &viewportRect, double renderScale)
+{
+    const QRectF rect = cleanViewport(viewportRect);
+    const double scale = cleanRenderScale(renderScale);
+    const bool rectChanges = !fuzzyEqual(rect, m_viewportRect);
+    const bool scaleChanges = !fuzzyEqual(scale, m_renderScale);
+    if (!rectChanges && !scaleChanges)
         return;
-    m_viewportRect = clean;
+    if (rectChanges)
+        m_viewportRect = rect;
+    if (scaleChanges)
+        m_renderScale = scale;
     renderScene();
-    emit viewportRectChanged();
+    if (rectChanges)
+        emit viewportRectChanged();
+    if (scaleChanges)
+        emit renderScaleChanged();
 }
 
 } // namespace zm

@@ -78,6 +78,8 @@ public:
     void setRenderScale(double scale);
     /// A rectangle under 1 in width or height, or not finite, becomes empty.
     void setViewportRect(const QRectF &rect);
+    /// Both as one change, which composes once: a zoom step, which needs the two, is as cheap as a pan step.
+    Q_INVOKABLE void setView(const QRectF &viewportRect, double renderScale);
 
 signals:
     void documentSizeChanged();

@@ -142,6 +142,8 @@ void TestScenePresentationModel::rendersThenSignals_data()
     row("least scene", [](Stage &s) { s.model.setMinimumSceneSize({300, 0}); },
         {u"sceneRect"_s, u"image"_s, u"minimumSceneSize"_s});
     row("zoom", [](Stage &s) { s.model.setRenderScale(0.5); }, {u"image"_s, u"renderScale"_s});
+    row("view and zoom at once", [](Stage &s) { s.model.setView(QRectF(0, 0, 5, 5), 0.5); },
+        {u"sceneRect"_s, u"image"_s, u"viewportRect"_s, u"renderScale"_s});
     row("pan", [](Stage &s) { s.model.setViewportRect({0, 0, 9, 9}); },
         {u"sceneRect"_s, u"image"_s, u"viewportRect"_s});
     row("services", [](Stage &s) { s.model.setRenderServices(nullptr); }, {});

@@ -152,26 +152,16 @@ Pane {
         sceneUpdates.apply()
     }
 
-    // Gives the scene its rectangle and its scale. Each setter composes at once, so the one that makes the picture
-    // smaller goes first: a large rectangle at a large scale in between would be gigabytes. For the same reason both
-    // come from the zoom itself and not from bindings, which change one after the other.
+    // Gives the scene its rectangle and its scale together: changed one after the other, each would compose a picture,
+    // and a large rectangle at a large scale in between would be gigabytes.
     QtObject {
         id: sceneUpdates
 
         property bool held: true
 
         function apply() {
-            if (held || !root.sceneModel)
-                return
-            const rect = root.alignedToPixels(root.documentViewportRect())
-            const scale = root.zoom * root.pixelRatio
-            if (scale < root.sceneModel.renderScale) {
-                root.sceneModel.renderScale = scale
-                root.sceneModel.viewportRect = rect
-            } else {
-                root.sceneModel.viewportRect = rect
-                root.sceneModel.renderScale = scale
-            }
+            if (!held && root.sceneModel)
+                root.sceneModel.setView(root.alignedToPixels(root.documentViewportRect()), root.zoom * root.pixelRatio)
         }
     }
 
