@@ -32,7 +32,7 @@ Application::Application(int &argc, char **argv)
     : QGuiApplication(argc, argv)
 {
     setApplicationName(u"ZelmoraAtelier"_s);
-    setApplicationVersion(u"1.2.1"_s);
+    setApplicationVersion(QStringLiteral(ZELMORA_VERSION));
     setApplicationDisplayName(u"Zelmora Atelier"_s);
     setWindowIcon(QIcon(u":/zelmoraatelier/assets/app-icon.png"_s));
     QIcon::setThemeSearchPaths({u":/icons"_s});

@@ -37,8 +37,20 @@ QLatin1StringView levelWord(QtMsgType type)
 
 void handleMessage(QtMsgType type, const QMessageLogContext &context, const QString &message)
 {
+    // What is said while the writer is made cannot be written yet.
+    static thread_local bool making = false;
+    if (making) {
+        if (previousHandler)
+            previousHandler(type, context, message);
+        return;
+    }
     // Never destroyed, so that messages of the last destructors of the process still find it.
-    static LogWriter *const writer = new LogWriter(logFolder(), previousHandler);
+    static LogWriter *const writer = [] {
+        making = true;
+        auto *made = new LogWriter(logFolder(), previousHandler);
+        making = false;
+        return made;
+    }();
     writer->write(type, context, message);
 }
 

@@ -10,14 +10,14 @@ namespace zm {
 UserNotificationCenter &UserNotificationCenter::instance()
 {
     static UserNotificationCenter center;
-    // The first caller may be a worker; toasts surface on the main thread all the same.
-    static const bool onMainThread = [] {
-        if (const QCoreApplication *application = QCoreApplication::instance())
-            center.moveToThread(application->thread());
-        return true;
-    }();
-    Q_UNUSED(onMainThread)
     return center;
+}
+
+UserNotificationCenter::UserNotificationCenter()
+{
+    // The first caller may be a worker; toasts surface on the main thread all the same.
+    if (const QCoreApplication *application = QCoreApplication::instance())
+        moveToThread(application->thread());
 }
 
 void UserNotificationCenter::post(const QString &message, const QString &hint, int delayMs, int durationMs,

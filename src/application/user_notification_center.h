@@ -28,7 +28,7 @@ signals:
     void toastRequested(const QString &message, const QString &hint, int delayMs, int durationMs, bool persistent);
 
 private:
-    UserNotificationCenter() = default;
+    UserNotificationCenter();
 };
 
 } // namespace zm

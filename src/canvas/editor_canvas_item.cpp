@@ -33,7 +33,8 @@ QSGSimpleTextureNode *createTileNode(QQuickWindow *window, const SceneTile &tile
                                      double viewScale)
 {
     const double tileScale = sanitizedScale(tile.scale);
-    const bool magnified = sanitizedScale(viewScale) > tileScale;
+    // Tiles are rendered at the density of the screen, up to a limit; beyond it their pixels are to stay hard.
+    const bool magnified = sanitizedScale(viewScale * window->effectiveDevicePixelRatio()) > tileScale;
 
     auto *node = new QSGSimpleTextureNode;
     node->setTexture(window->createTextureFromImage(tile.image, QQuickWindow::TextureHasAlphaChannel));

@@ -42,7 +42,7 @@ QSize wishedSize(const QRectF &rectangle, const SizeWish &wish)
 {
     const int limit = wish.maximumSide > 0 ? wish.maximumSide : kMaximumExportSide;
     if (wish.width > 0 && wish.height > 0)
-        return {std::min(wish.width, limit), std::min(wish.height, limit)};
+        return defaultExportSize(QRectF(0, 0, wish.width, wish.height), limit);
     if (wish.width > 0)
         return exportSizeForWidth(rectangle, wish.width, limit);
     if (wish.height > 0)

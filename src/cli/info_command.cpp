@@ -12,7 +12,8 @@ namespace {
 
 QString numberPair(const QJsonValue &pair)
 {
-    return u"%1 x %2"_s.arg(pair[0].toDouble()).arg(pair[1].toDouble());
+    const auto number = [](const QJsonValue &value) { return QString::number(value.toDouble(), 'g', 12); };
+    return u"%1 x %2"_s.arg(number(pair[0]), number(pair[1]));
 }
 
 /// The same facts for a reader's eyes.

@@ -44,14 +44,14 @@ QString overview()
 void keepFatalMessagesOnly(QtMsgType type, const QMessageLogContext &, const QString &message)
 {
     if (type == QtFatalMsg)
-        std::fprintf(stderr, "zelmora: %s\n", qPrintable(message));
+        dprintf(QuietLibraries::standardError(), "zelmora: %s\n", qPrintable(message));
 }
 
 /// Pictures are composed on the processor; the effects of a document need OpenGL.
 bool mayUseOpenGL(int argc, char **argv)
 {
     for (int i = 1; i < argc; ++i) {
-        if (QByteArrayView(argv[i]).endsWith(".zelmora"))
+        if (QByteArray(argv[i]).toLower().endsWith(".zelmora"))
             return true;
     }
     return false;

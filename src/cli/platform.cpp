@@ -1,6 +1,6 @@
 #include "cli/platform.h"
 
-#include <QByteArray>
+#include <QByteArrayList>
 
 #ifdef ZELMORA_SURFACELESS_EGL
 #include <QtPlugin>
@@ -60,7 +60,8 @@ bool hasSurfacelessDisplay()
 
 void choosePlatform([[maybe_unused]] bool mayUseOpenGL)
 {
-    if (qEnvironmentVariableIsSet("QT_QPA_PLATFORM"))
+    const QByteArray wished = qgetenv("QT_QPA_PLATFORM").split(':').first();
+    if (wished == "offscreen" || wished == "minimal" || wished == "eglfs")
         return;
     qputenv("QT_QPA_PLATFORM", "offscreen");
 #ifdef ZELMORA_SURFACELESS_EGL

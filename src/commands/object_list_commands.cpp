@@ -132,7 +132,7 @@ bool CollapseLayerDownCommand::areNeighbours() const
 
 void CollapseLayerDownCommand::redo()
 {
-    if (isObsolete() || !areNeighbours()) {
+    if (isObsolete() || !m_merged || !areNeighbours()) {
         setObsolete(true);
         return;
     }

@@ -142,7 +142,7 @@ void ScenePresentationModel::refreshSelection()
     const SceneRenderItem *item = findItem(m_snapshot, m_document->selectedObjectId());
     const QRectF rect = item ? itemBounds(*item) : QRectF();
     const QSize pixelSize = item ? item->image.size() : QSize();
-    if (rect == m_selectionRect && pixelSize == m_selectedLayerPixelSize)
+    if (fuzzyEqual(rect, m_selectionRect) && pixelSize == m_selectedLayerPixelSize)
         return;
     m_selectionRect = rect;
     m_selectedLayerPixelSize = pixelSize;

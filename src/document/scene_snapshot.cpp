@@ -77,13 +77,19 @@ QRectF objectBounds(const SceneSnapshot &snapshot, const QUuid &id)
     return item ? itemBounds(*item) : QRectF();
 }
 
-QRectF contentBounds(const SceneSnapshot &snapshot)
+QRectF unitedItemBounds(const SceneSnapshot &snapshot)
 {
     QRectF bounds;
-    for (const SceneRenderItem &item : snapshot.items)
-        bounds |= itemBounds(item); // an empty rectangle adds nothing
-    if (bounds.isEmpty())
-        bounds = documentRect(snapshot);
+    for (const SceneRenderItem &item : snapshot.items) {
+        if (const QRectF itemRect = itemBounds(item); !itemRect.isEmpty())
+            bounds |= itemRect;
+    }
+    return bounds.isEmpty() ? documentRect(snapshot) : bounds;
+}
+
+QRectF contentBounds(const SceneSnapshot &snapshot)
+{
+    const QRectF bounds = unitedItemBounds(snapshot);
     const double left = std::floor(bounds.left());
     const double top = std::floor(bounds.top());
     return {left, top, std::max(std::ceil(bounds.right()) - left, 1.0), std::max(std::ceil(bounds.bottom()) - top, 1.0)};

@@ -61,7 +61,10 @@ const SceneRenderItem *findItem(const SceneSnapshot &snapshot, const QUuid &id);
 /// Document units; empty when the snapshot has no item of this id.
 QRectF objectBounds(const SceneSnapshot &snapshot, const QUuid &id);
 
-/// What all items cover together, or the document when they cover nothing, rounded out to whole units.
+/// What all items cover together, or the document when they cover nothing.
+QRectF unitedItemBounds(const SceneSnapshot &snapshot);
+
+/// The same, rounded out to whole units.
 QRectF contentBounds(const SceneSnapshot &snapshot);
 
 } // namespace zm

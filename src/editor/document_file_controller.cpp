@@ -8,6 +8,8 @@
 #include <QDir>
 #include <QFileInfo>
 
+#include <cmath>
+
 using namespace Qt::StringLiterals;
 
 namespace zm {
@@ -31,11 +33,7 @@ DocumentFileController::DocumentFileController(Document *document, CommandHistor
 
 QString DocumentFileController::displayName() const
 {
-    if (m_documentUrl.isEmpty())
-        return m_pairedImageUrl.isEmpty() ? tr("Untitled") : displayFileName(m_pairedImageUrl);
-    if (m_pairedImageUrl.isEmpty())
-        return displayFileName(m_documentUrl);
-    return tr("%1 (%2)").arg(displayFileName(m_documentUrl), displayPath(m_pairedImageUrl));
+    return m_pairedImageUrl.isEmpty() ? tr("Untitled") : displayFileName(m_pairedImageUrl);
 }
 
 QString DocumentFileController::supportedImageFilePatterns() const
@@ -50,7 +48,7 @@ bool DocumentFileController::resetDocument(double width, double height, const QC
     const QColor color = backgroundColor.isValid() ? backgroundColor : QColor(Qt::white);
     if (!m_document->replaceContents(QSizeF(std::round(width), std::round(height)), color, {}))
         return fail(tr("Could not create a new document."));
-    finishReplacement({}, {});
+    finishReplacement({});
     return true;
 }
 
@@ -74,29 +72,23 @@ bool DocumentFileController::importImage(const QString &path)
         return fail(importErrorText(error), error == ImageImportError::HeifCodecMissing);
     const QUrl pairedImageUrl =
         isRaster && wasPristine ? QUrl::fromLocalFile(QFileInfo(path).absoluteFilePath()) : QUrl();
-    finishReplacement({}, pairedImageUrl);
+    finishReplacement(pairedImageUrl);
     return true;
 }
 
 bool DocumentFileController::isPristine() const
 {
-    return m_documentUrl.isEmpty() && m_pairedImageUrl.isEmpty() && m_document->objectCount() == 0
-        && m_commandHistory->isClean();
+    return m_pairedImageUrl.isEmpty() && m_document->objectCount() == 0 && m_commandHistory->isClean();
 }
 
-void DocumentFileController::finishReplacement(const QUrl &documentUrl, const QUrl &pairedImageUrl)
+void DocumentFileController::finishReplacement(const QUrl &pairedImageUrl)
 {
     m_commandHistory->clear();
-    const bool documentUrlDiffers = m_documentUrl != documentUrl;
-    const bool pairedImageUrlDiffers = m_pairedImageUrl != pairedImageUrl;
-    m_documentUrl = documentUrl;
-    m_pairedImageUrl = pairedImageUrl;
-    if (documentUrlDiffers)
-        emit documentUrlChanged();
-    if (pairedImageUrlDiffers)
+    if (m_pairedImageUrl != pairedImageUrl) {
+        m_pairedImageUrl = pairedImageUrl;
         emit pairedImageUrlChanged();
-    if (documentUrlDiffers || pairedImageUrlDiffers)
         emit displayNameChanged();
+    }
     setError({}, false);
     emit documentReplaced();
 }

@@ -15,9 +15,7 @@ class RuntimeFlags;
 class DocumentFileController : public QObject
 {
     Q_OBJECT
-    Q_PROPERTY(QUrl documentUrl READ documentUrl NOTIFY documentUrlChanged)
     Q_PROPERTY(QUrl pairedImageUrl READ pairedImageUrl NOTIFY pairedImageUrlChanged)
-    Q_PROPERTY(bool hasDocumentUrl READ hasDocumentUrl NOTIFY documentUrlChanged)
     Q_PROPERTY(QString displayName READ displayName NOTIFY displayNameChanged)
     Q_PROPERTY(QString lastError READ lastError NOTIFY lastErrorChanged)
     Q_PROPERTY(bool lastErrorOffersHeifInstallHelp READ lastErrorOffersHeifInstallHelp NOTIFY lastErrorChanged)
@@ -33,9 +31,6 @@ public:
     /// The flags are not owned; without them every one counts as not set.
     void setRuntimeFlags(const RuntimeFlags *flags) { m_runtimeFlags = flags; }
 
-    /// Empty while the document was never saved.
-    QUrl documentUrl() const { return m_documentUrl; }
-    bool hasDocumentUrl() const { return !m_documentUrl.isEmpty(); }
     /// The picture that the document belongs to; empty if none.
     QUrl pairedImageUrl() const { return m_pairedImageUrl; }
     QString displayName() const;
@@ -56,7 +51,6 @@ public:
     Q_INVOKABLE QString displayFileName(const QUrl &url) const;
 
 signals:
-    void documentUrlChanged();
     void pairedImageUrlChanged();
     void displayNameChanged();
     void documentReplaced();
@@ -66,13 +60,12 @@ private:
     bool importImage(const QString &path);
     bool isPristine() const;
     bool fail(const QString &message, bool offersHeifInstallHelp = false);
-    void finishReplacement(const QUrl &documentUrl, const QUrl &pairedImageUrl);
+    void finishReplacement(const QUrl &pairedImageUrl);
     void setError(const QString &message, bool offersHeifInstallHelp);
 
     Document *m_document;
     CommandHistory *m_commandHistory;
     const RuntimeFlags *m_runtimeFlags = nullptr;
-    QUrl m_documentUrl;
     QUrl m_pairedImageUrl;
     QString m_lastError;
     bool m_lastErrorOffersHeifInstallHelp = false;

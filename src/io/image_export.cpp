@@ -123,13 +123,7 @@ bool acceptsSuffix(const ExportFormat &format, const QString &suffix)
 QRectF exportRectangle(const SceneSnapshot &snapshot, bool clipToDocument)
 {
     const QRectF document = documentRect(snapshot);
-    QRectF shown;
-    if (!clipToDocument) {
-        for (const SceneRenderItem &item : snapshot.items)
-            shown |= itemBounds(item);
-    }
-    if (shown.isEmpty())
-        shown = document;
+    const QRectF shown = clipToDocument ? document : unitedItemBounds(snapshot);
     // Pixels are counted from the document's corner: its centre is the origin, and half of an odd side is no whole pixel.
     const QPointF corner = document.topLeft();
     const QRectF fromCorner = shown.translated(-corner);

@@ -135,13 +135,20 @@ bool endsEarly(QByteArrayView file)
 /// Uncompressed bitmaps with the 40-byte header or a later one; the compressed kinds are rare and left to the decoder.
 bool bitmapEndsEarly(QByteArrayView file)
 {
+    const auto number = [&](qsizetype offset) { return qFromLittleEndian<quint32>(file.data() + offset); };
+    if (file.size() < 18)
+        return true;
+    if (number(14) < 40)
+        return false; // the oldest header, in files too small to be cut off unnoticed
     if (file.size() < 54)
         return true;
-    const auto number = [&](qsizetype offset) { return qFromLittleEndian<quint32>(file.data() + offset); };
-    const bool uncompressed = number(14) >= 40 && number(30) == 0;
-    const qint64 rowBytes = (qint64(number(18)) * qFromLittleEndian<quint16>(file.data() + 28) + 31) / 32 * 4;
+    const qint64 bitsPerPixel = qFromLittleEndian<quint16>(file.data() + 28);
+    if (number(30) != 0 || bitsPerPixel > 32)
+        return false;
+    const qint64 rowBytes = (number(18) * bitsPerPixel + 31) / 32 * 4;
     const qint64 rows = std::abs(qint64(qint32(number(22))));
-    return uncompressed && qint64(number(10)) + rowBytes * rows > file.size();
+    const qint64 availableBytes = file.size() - number(10);
+    return rowBytes > 0 && rows > 0 && (availableBytes <= 0 || rows > availableBytes / rowBytes);
 }
 
 } // namespace

@@ -23,6 +23,13 @@ void setSampling(QOpenGLExtraFunctions *functions, TextureEdge edge)
     }
 }
 
+/// Forgets what went wrong before; bounded, since a lost context reports an error for ever.
+void clearErrors(QOpenGLExtraFunctions *functions)
+{
+    constexpr int mostPendingErrors = 16;
+    for (int i = 0; i < mostPendingErrors && functions->glGetError() != GL_NO_ERROR; ++i) { }
+}
+
 } // namespace
 
 void OwnedTexture::reset()
@@ -56,7 +63,7 @@ OwnedTexture uploadTexture(QOpenGLExtraFunctions *functions, const QImage &image
     functions->glPixelStorei(GL_UNPACK_ALIGNMENT, 1);
     // A QImage over somebody else's memory may have longer rows than its width says.
     functions->glPixelStorei(GL_UNPACK_ROW_LENGTH, GLint(image.bytesPerLine() / kBytesPerPixel));
-    while (functions->glGetError() != GL_NO_ERROR) { } // what went wrong before is not this upload's
+    clearErrors(functions);
     functions->glTexImage2D(GL_TEXTURE_2D, 0, GL_RGBA8, image.width(), image.height(), 0, GL_RGBA, GL_UNSIGNED_BYTE,
                             image.constBits());
     const GLenum error = functions->glGetError();
@@ -96,8 +103,14 @@ QImage readFramebuffer(QOpenGLExtraFunctions *functions, const QOpenGLFramebuffe
         return {};
     functions->glBindFramebuffer(GL_FRAMEBUFFER, framebuffer.handle());
     functions->glPixelStorei(GL_PACK_ALIGNMENT, 1);
+    clearErrors(functions);
     functions->glReadPixels(0, 0, image.width(), image.height(), GL_RGBA, GL_UNSIGNED_BYTE, image.bits());
+    const GLenum error = functions->glGetError();
     functions->glBindFramebuffer(GL_FRAMEBUFFER, 0);
+    if (error != GL_NO_ERROR) {
+        qCWarning(lcTexture) << "Reading back a picture failed" << image.size() << Qt::hex << error;
+        return {};
+    }
     return image;
 }
 

@@ -21,11 +21,7 @@ bool isSufficient(const QOpenGLContext &context)
 
 OffscreenContext::OffscreenContext() = default;
 
-OffscreenContext::~OffscreenContext()
-{
-    m_surface.reset();
-    m_context.reset();
-}
+OffscreenContext::~OffscreenContext() = default;
 
 bool OffscreenContext::ensureContext()
 {

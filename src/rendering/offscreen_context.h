@@ -37,8 +37,8 @@ public:
 private:
     bool refuse(const char *reason);
 
-    std::unique_ptr<QOffscreenSurface> m_surface; // destroyed after the context that may still be current on it
     std::unique_ptr<QOpenGLContext> m_context;
+    std::unique_ptr<QOffscreenSurface> m_surface;
     QOpenGLExtraFunctions *m_functions = nullptr;
     int m_maximumTextureSize = 0;
     bool m_refusalReported = false;

@@ -85,7 +85,6 @@ void DocumentFileControllerTest::opensAPictureAsADocument()
     QVERIFY(session.history.isClean());
     QVERIFY(!session.history.canUndo());
     QCOMPARE(session.controller.pairedImageUrl(), url(u"photo.png"_s));
-    QVERIFY(!session.controller.hasDocumentUrl());
     QCOMPARE(session.controller.displayName(), u"photo.png"_s);
     QCOMPARE(session.replaced.count(), 1);
     QCOMPARE(session.named.count(), 1);

@@ -14,8 +14,17 @@ ApplicationWindow {
     property url activeApplicationFileOpenUrl
     readonly property bool applicationFileOpenUiBlocked: documentOpenDialog.visible || documentFileErrorDialog.visible
 
+    // The whole document is in view and stays so while the window changes its size, until the view is moved.
+    property bool viewFitted: false
+    property bool fitting: false
+
     readonly property bool fullScreen: visibility === Window.FullScreen
     property int visibilityBeforeFullScreen: Window.Maximized
+
+    // In one go: a file name may itself hold what looks like a place marker.
+    function filled(pattern, words) {
+        return pattern.replace(/%([1-9])/g, (marker, number) => words[number - 1])
+    }
 
     function requestOpenDocument() {
         documentOpenDialog.open()
@@ -27,16 +36,23 @@ ApplicationWindow {
         Qt.callLater(loadDocumentFile, url)
     }
 
+    // For the next file dialog, which begins where the last picture was found.
+    function loadChosenFile(url) {
+        if (loadDocumentFile(url))
+            applicationSettings.rememberImageImportFolder(url)
+    }
+
     function loadDocumentFile(url) {
         const requested = applicationFileOpenActive && url.toString() === activeApplicationFileOpenUrl.toString()
         if (documentFileController.load(url)) {
             fitLoadedDocumentToView()
             if (requested)
                 finishApplicationFileOpenRequest()
-            return
+            return true
         }
         applicationFileOpenErrorPending = requested
         documentFileErrorDialog.open()
+        return false
     }
 
     function fitLoadedDocumentToView() {
@@ -44,7 +60,19 @@ ApplicationWindow {
     }
 
     function fitDocument() {
-        canvas.fitDocumentRect(scenePresentationModel.documentRect)
+        fitting = true
+        viewFitted = canvas.fitDocumentRect(scenePresentationModel.documentRect)
+        fitting = false
+    }
+
+    function forgetFit() {
+        if (!fitting)
+            viewFitted = false
+    }
+
+    function fitAgain() {
+        if (viewFitted)
+            Qt.callLater(fitDocument)
     }
 
     // Takes the oldest request, if nothing stands in the way. Whatever ends a request calls this again.
@@ -71,7 +99,7 @@ ApplicationWindow {
     }
 
     function handleDroppedFiles(urls) {
-        if (!applicationFileOpenActive && urls.length > 0)
+        if (!applicationFileOpenActive && !applicationFileOpenUiBlocked && urls.length > 0)
             requestOpenFile(urls[0], false)
     }
 
@@ -89,12 +117,12 @@ ApplicationWindow {
     minimumWidth: 800
     minimumHeight: 520
     visible: false
-    title: qsTr("%1%2 - %3").arg(documentFileController.displayName).arg(commandHistory.clean ? "" : "*")
-                            .arg(Application.displayName)
+    title: filled(qsTr("%1%2 - %3"), [documentFileController.displayName, commandHistory.clean ? "" : "*",
+                                      Application.displayName])
 
     onApplicationFileOpenUiBlockedChanged: Qt.callLater(processPendingApplicationFileOpenRequest)
 
-    // Controls made before the window keep the style's palette, so the theme is applied once more.
+    // Controls made after a theme is applied would keep the style's palette, so it waits until all are there.
     Component.onCompleted: {
         applicationTheme.applyTheme()
         showMaximized()
@@ -110,25 +138,11 @@ ApplicationWindow {
         }
     }
 
-    // A window has its real size only with its first frame, which a file named at the start does not wait for.
-    Connections {
-        id: firstFrame
-
-        target: window
-
-        function onFrameSwapped() {
-            firstFrame.enabled = false
-            if (scenePresentationModel.hasSelection)
-                window.fitDocument()
-        }
-    }
-
     ActionContext {
         id: actionContext
 
         window: window
         canvas: canvas
-        scene: scenePresentationModel
         settings: applicationSettings
     }
 
@@ -193,6 +207,10 @@ ApplicationWindow {
             fixedDocumentBounds: applicationSettings.canvasClipMode
             documentBoundsVisible: applicationSettings.documentBoundsVisible
             onFilesDropped: fileUrls => window.handleDroppedFiles(fileUrls)
+            onZoomChanged: window.forgetFit()
+            onBoardCenterChanged: window.forgetFit()
+            onWidthChanged: window.fitAgain()
+            onHeightChanged: window.fitAgain()
         }
 
         StatusBar {
@@ -211,10 +229,7 @@ ApplicationWindow {
             qsTr("All files (*)")
         ]
         currentFolder: applicationSettings.imageImportFolderUrl
-        onAccepted: {
-            applicationSettings.rememberImageImportFolder(selectedFile)
-            window.requestOpenFile(selectedFile, false)
-        }
+        onAccepted: Qt.callLater(window.loadChosenFile, selectedFile)
     }
 
     ImageLoadErrorDialog {

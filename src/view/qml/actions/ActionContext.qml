@@ -6,6 +6,5 @@ import ZelmoraAtelier // after QtQuick, which has a Canvas too
 QtObject {
     required property ApplicationWindow window
     required property Canvas canvas
-    required property ScenePresentationModel scene
     required property var settings
 }

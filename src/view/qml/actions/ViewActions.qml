@@ -6,13 +6,12 @@ QtObject {
     id: root
 
     required property ActionContext context
-    readonly property real zoomStep: 1.25
 
     readonly property Action zoomIn: Action {
         text: qsTr("Zoom &In")
         shortcut: StandardKey.ZoomIn
-        enabled: root.context.canvas.zoom < root.context.canvas.maximumZoom
-        onTriggered: root.context.canvas.setZoom(root.context.canvas.zoom * root.zoomStep)
+        enabled: root.context.canvas.canZoomIn
+        onTriggered: root.context.canvas.zoomIn()
     }
 
     // The plus key without Shift, where plus needs it.
@@ -25,14 +24,14 @@ QtObject {
     readonly property Action zoomOut: Action {
         text: qsTr("Zoom &Out")
         shortcut: StandardKey.ZoomOut
-        enabled: root.context.canvas.zoom > root.context.canvas.minimumZoom
-        onTriggered: root.context.canvas.setZoom(root.context.canvas.zoom / root.zoomStep)
+        enabled: root.context.canvas.canZoomOut
+        onTriggered: root.context.canvas.zoomOut()
     }
 
     readonly property Action zoomToFit: Action {
         text: qsTr("Zoom to &Fit")
         shortcut: "Ctrl+0"
-        onTriggered: root.context.canvas.fitDocumentRect(root.context.scene.documentRect)
+        onTriggered: root.context.window.fitDocument()
     }
 
     readonly property Action zoomToActualSize: Action {

@@ -24,6 +24,9 @@ Pane {
 
     readonly property real fitPadding: 40       // screen pixels, both sides together
     readonly property real wheelZoomStep: 1.1
+    readonly property real buttonZoomStep: 1.25
+    readonly property bool canZoomIn: zoom < maximumZoom
+    readonly property bool canZoomOut: zoom > minimumZoom
     readonly property real dragThreshold: 3
     readonly property real pixelRatio: Screen.devicePixelRatio
 
@@ -32,6 +35,14 @@ Pane {
     function setZoom(value) {
         if (isFinite(value))
             zoom = Math.min(Math.max(value, minimumZoom), maximumZoom)
+    }
+
+    function zoomIn() {
+        setZoom(zoom * buttonZoomStep)
+    }
+
+    function zoomOut() {
+        setZoom(zoom / buttonZoomStep)
     }
 
     function forceCanvasFocus() {
@@ -160,8 +171,10 @@ Pane {
         property bool held: true
 
         function apply() {
-            if (!held && root.sceneModel)
-                root.sceneModel.setView(root.alignedToPixels(root.documentViewportRect()), root.zoom * root.pixelRatio)
+            const rect = root.documentViewportRect()
+            // The scene takes less than one unit for no viewport at all and would compose everything.
+            if (!held && root.sceneModel && Math.min(rect.width, rect.height) >= 1)
+                root.sceneModel.setView(root.alignedToPixels(rect), root.zoom * root.pixelRatio)
         }
     }
 
@@ -217,7 +230,7 @@ Pane {
         PanArea {
             id: boardPanArea
 
-            onDragStarted: viewport.startPan()
+            onPressStarted: viewport.startPan()
             onDragged: (deltaX, deltaY) => viewport.pan(deltaX, deltaY)
             z: -1
             anchors.fill: parent
@@ -242,7 +255,7 @@ Pane {
         PanArea {
             id: layerInteractionArea
 
-            onDragStarted: viewport.startPan()
+            onPressStarted: viewport.startPan()
             onDragged: (deltaX, deltaY) => viewport.pan(deltaX, deltaY)
             anchors.fill: parent
             acceptedButtons: Qt.LeftButton
@@ -251,7 +264,7 @@ Pane {
         }
 
         PanArea {
-            onDragStarted: viewport.startPan()
+            onPressStarted: viewport.startPan()
             onDragged: (deltaX, deltaY) => viewport.pan(deltaX, deltaY)
             z: 190
             anchors.fill: parent

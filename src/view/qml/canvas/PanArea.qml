@@ -1,21 +1,21 @@
 import QtQuick
 
 // Reports a drag with one mouse button. It begins once the pointer is `threshold` pixels away from where it was
-// pressed, and is then counted from there.
+// pressed, and is counted from the press.
 MouseArea {
     id: root
 
     property real threshold: 0
     readonly property alias dragging: press.active
 
-    signal dragStarted()
+    signal pressStarted()
     signal dragged(real deltaX, real deltaY)
 
     onPressed: mouse => {
         press.pressX = mouse.x
         press.pressY = mouse.y
         press.active = threshold <= 0
-        dragStarted()
+        pressStarted()
     }
     onPositionChanged: mouse => {
         if (!pressed)

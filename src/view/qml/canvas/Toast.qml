@@ -22,7 +22,7 @@ QtObject {
     // In the place of the hint: an object with any of hint, delayMs, durationMs, persistent (stays until hidden or
     // clicked) and clickHandler, a function.
     function show(message, hint, options) {
-        const settings = (typeof hint === "object" ? hint : options) ?? {}
+        const settings = (hint !== null && typeof hint === "object" ? hint : options) ?? {}
         const hintText = typeof hint === "string" ? hint : settings.hint ?? ""
         showRequested(message, hintText, settings.delayMs ?? 0, settings.durationMs ?? defaultDurationMs,
                       settings.persistent ?? false, settings.clickHandler ?? null)

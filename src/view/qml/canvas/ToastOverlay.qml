@@ -10,7 +10,7 @@ Item {
     property real maximumWidth: 480
     readonly property alias message: messageLabel.text
     readonly property alias hint: hintLabel.text
-    readonly property bool shown: state.shown
+    readonly property bool shown: current.shown
     readonly property real spacing: 12
 
     implicitWidth: Math.min(maximumWidth, row.implicitWidth + 2 * spacing)
@@ -25,7 +25,7 @@ Item {
     }
 
     QtObject {
-        id: state
+        id: current
 
         property bool shown: false
         property int durationMs: 0
@@ -45,36 +45,36 @@ Item {
         function onShowRequested(message, hint, delayMs, durationMs, persistent, clickHandler) {
             hideTimer.stop()
             delayTimer.stop()
-            state.shown = false
+            current.shown = false
             messageLabel.text = message
             hintLabel.text = hint
-            state.durationMs = durationMs
-            state.persistent = persistent
-            state.clickHandler = clickHandler
+            current.durationMs = durationMs
+            current.persistent = persistent
+            current.clickHandler = clickHandler
             if (delayMs > 0) {
                 delayTimer.interval = delayMs
                 delayTimer.start()
             } else {
-                state.show()
+                current.show()
             }
         }
 
         function onHideRequested() {
             delayTimer.stop()
             hideTimer.stop()
-            state.shown = false
+            current.shown = false
         }
     }
 
     Timer {
         id: delayTimer
-        onTriggered: state.show()
+        onTriggered: current.show()
     }
 
     Timer {
         id: hideTimer
-        interval: state.durationMs
-        onTriggered: state.shown = false
+        interval: current.durationMs
+        onTriggered: current.shown = false
     }
 
     Rectangle {
@@ -106,17 +106,17 @@ Item {
             id: hintLabel
 
             visible: text.length > 0
-            color: state.clickHandler ? palette.link : palette.placeholderText
+            color: current.clickHandler ? palette.link : palette.placeholderText
             textFormat: Text.PlainText
         }
     }
 
     MouseArea {
         anchors.fill: parent
-        enabled: root.shown && (state.clickHandler !== null || state.persistent)
-        cursorShape: state.clickHandler ? Qt.PointingHandCursor : Qt.ArrowCursor
+        enabled: root.shown && (current.clickHandler !== null || current.persistent)
+        cursorShape: current.clickHandler ? Qt.PointingHandCursor : Qt.ArrowCursor
         onClicked: {
-            const handler = state.clickHandler
+            const handler = current.clickHandler
             Toast.hide()
             if (handler)
                 handler()

@@ -1,7 +1,8 @@
 import QtQuick
 import QtQuick.Controls
 
-// A modal dialog in the middle of the window. Return accepts and Escape rejects, wherever the focus is.
+// A modal dialog in the middle of the window. Return presses the button that has the focus, or else accepts; Escape
+// rejects.
 Dialog {
     id: root
 
@@ -23,6 +24,8 @@ Dialog {
     }
 
     footer: DialogButtonBox {
+        id: buttons
+
         visible: count > 0
         padding: 16
         topPadding: 0
@@ -40,6 +43,12 @@ Dialog {
     Shortcut {
         sequences: ["Return", "Enter"]
         enabled: root.visible
-        onActivated: root.accept()
+        onActivated: {
+            const focused = buttons.Window.activeFocusItem
+            if (focused instanceof AbstractButton)
+                focused.click()
+            else
+                root.accept()
+        }
     }
 }

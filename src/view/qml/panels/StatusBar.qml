@@ -9,7 +9,6 @@ Pane {
 
     required property Canvas canvas
     required property size layerPixelSize
-    readonly property real zoomStep: 1.25
 
     implicitHeight: 34
     padding: 0
@@ -42,8 +41,8 @@ Pane {
         ZmToolButton {
             text: "-"
             toolTip: qsTr("Zoom out")
-            enabled: root.canvas.zoom > root.canvas.minimumZoom
-            onClicked: root.canvas.setZoom(root.canvas.zoom / root.zoomStep)
+            enabled: root.canvas.canZoomOut
+            onClicked: root.canvas.zoomOut()
         }
 
         ZmToolButton {
@@ -56,8 +55,8 @@ Pane {
         ZmToolButton {
             text: "+"
             toolTip: qsTr("Zoom in")
-            enabled: root.canvas.zoom < root.canvas.maximumZoom
-            onClicked: root.canvas.setZoom(root.canvas.zoom * root.zoomStep)
+            enabled: root.canvas.canZoomIn
+            onClicked: root.canvas.zoomIn()
         }
     }
 }
