@@ -83,25 +83,12 @@ class TestDocumentModel : public QObject
     Q_OBJECT
 
 private slots:
-    void startsEmptyAndCentredOnTheOrigin()
-    {
-        const Document document;
-        QCOMPARE(document.documentRect(), QRectF(-400, -300, 800, 600));
-        QCOMPARE(document.backgroundColor(), QColor(Qt::white));
-        QCOMPARE(document.objectCount(), 0);
-        QVERIFY(document.selectedObjectId().isNull());
-        QVERIFY(!document.selectedObject());
-        QVERIFY(!document.object(QUuid()));
-        QVERIFY(!document.objectAt(-1));
-        QVERIFY(!SceneObject(u"x"_s).id().isNull());
-    }
-
     void cleansSizeAndBackground()
     {
         Document document;
+        QCOMPARE(document.documentRect(), QRectF(-400, -300, 800, 600));
         DocumentLog log(document);
-        QVERIFY(!document.setBackgroundColor(QColor()));
-        QVERIFY(!document.setSize(QSizeF(800, 600)));
+        QVERIFY(!document.setBackgroundColor(QColor())); // white, as at the start
         QVERIFY(document.setSize(QSizeF(0, -5)));
         QVERIFY(!document.setSize(QSizeF(kNaN, kInfinity)));
         QVERIFY(document.setBackgroundColor(QColor(0, 0, 255, 128)));
@@ -110,76 +97,69 @@ private slots:
                                           u"backgroundColorChanged #ffffffff"_s}));
     }
 
-    void insertsWhereAskedAndRefusesTheRest()
+    void listChangesAreSignalledOnBothSides()
     {
         Document document;
         fill(document, 2);
         DocumentLog log(document);
-        int deaths = 0;
-        QVERIFY(!document.insertObject(nullptr));
-        QVERIFY(!document.insertObject(std::make_unique<CountingLayer>(1, &deaths)));
-        QVERIFY(!document.insertObject(std::make_unique<CountingLayer>(3, &deaths), 3));
-        QVERIFY(!document.insertObject(std::make_unique<CountingLayer>(3, &deaths), -2));
-        QCOMPARE(deaths, 3);
-        QCOMPARE(log.take(), QStringList());
-
         const SceneObject *inserted = document.insertObject(makeLayer(3), 1);
         QCOMPARE(document.object(testId(3)), inserted);
         document.insertObject(makeLayer(4), 3);
-        QCOMPARE(order(document), QList<uint>({1, 3, 2, 4}));
         QCOMPARE(log.take(), QStringList({u"objectAboutToBeInserted 1 #3"_s, u"objectInserted 1 #3"_s,
                                           u"objectAboutToBeInserted 3 #4"_s, u"objectInserted 3 #4"_s}));
-    }
+        QCOMPARE(order(document), QList<uint>({1, 3, 2, 4}));
+        QVERIFY(document.moveObject(testId(1), 2));
+        QCOMPARE(order(document), QList<uint>({3, 2, 1, 4}));
+        QVERIFY(document.moveObject(testId(4), 0));
+        QCOMPARE(order(document), QList<uint>({4, 3, 2, 1}));
+        QCOMPARE(log.take(), QStringList({u"objectAboutToBeMoved 0 2 #1"_s, u"objectMoved 0 2 #1"_s,
+                                          u"objectAboutToBeMoved 3 0 #4"_s, u"objectMoved 3 0 #4"_s}));
 
-    void removesTheSelectionBeforeTheObjectLeaves()
-    {
-        Document document;
-        fill(document, 3);
-        document.selectObject(testId(2));
-        DocumentLog log(document);
-        bool seenWhileDeselecting = false;
+        QVERIFY(document.selectObject(testId(3)));
+        QVERIFY(document.clearSelection());
+        QVERIFY(document.selectObject(testId(2)));
+        QCOMPARE(log.take(), QStringList({u"selectionChanged #3"_s, u"selectionChanged #0"_s,
+                                          u"selectionChanged #2"_s}));
+        bool isThereWhenDeselected = false;
         connect(&document, &Document::selectionChanged, this,
-                [&] { seenWhileDeselecting = document.object(testId(2)) != nullptr; });
+                [&] { isThereWhenDeselected = document.object(testId(2)) != nullptr; });
         qsizetype index = -1;
-        const std::unique_ptr<SceneObject> taken = document.takeObject(testId(2), &index);
-        QCOMPARE(taken->id(), testId(2));
-        QCOMPARE(index, 1);
-        QVERIFY(seenWhileDeselecting);
-        QCOMPARE(log.take(), QStringList({u"objectAboutToBeRemoved 1 #2"_s, u"selectionChanged #0"_s,
-                                          u"objectRemoved 1 #2"_s}));
-        QVERIFY(!document.takeObject(testId(2)));
-        QVERIFY(!document.takeObject(QUuid()));
-        QCOMPARE(log.take(), QStringList());
+        QCOMPARE(document.takeObject(testId(2), &index)->id(), testId(2));
+        QCOMPARE(index, 2);
+        QVERIFY(isThereWhenDeselected);
+        QCOMPARE(log.take(), QStringList({u"objectAboutToBeRemoved 2 #2"_s, u"selectionChanged #0"_s,
+                                          u"objectRemoved 2 #2"_s}));
     }
 
-    void movesWithinTheList()
+    void refusedListChangesLeaveNoTrace()
     {
         Document document;
-        fill(document, 4);
+        fill(document, 2);
+        document.selectObject(testId(2));
+        const QString before = describe(document);
         DocumentLog log(document);
-        QVERIFY(!document.moveObject(testId(2), 4));
+        int deaths = 0;
+        const auto dying = [&](uint n) { return std::make_unique<CountingLayer>(n, &deaths); };
+        QVERIFY(!document.insertObject(nullptr));
+        QVERIFY(!document.insertObject(dying(1)));
+        QVERIFY(!document.insertObject(dying(3), 3));
+        QVERIFY(!document.insertObject(dying(3), -2));
+        std::vector<std::unique_ptr<SceneObject>> twice;
+        twice.push_back(dying(5));
+        twice.push_back(dying(5));
+        QVERIFY(!document.replaceContents(QSizeF(1, 1), Qt::black, std::move(twice)));
+        QCOMPARE(deaths, 5);
+        QVERIFY(!document.replaceContents(QSizeF(1, 1), Qt::black, std::vector<std::unique_ptr<SceneObject>>(1)));
+        QVERIFY(!document.takeObject(QUuid()));
+        QVERIFY(!document.moveObject(testId(2), 2));
         QVERIFY(!document.moveObject(testId(2), -1));
         QVERIFY(!document.moveObject(testId(2), 1));
         QVERIFY(!document.moveObject(testId(9), 0));
-        QVERIFY(document.moveObject(testId(1), 2));
-        QCOMPARE(order(document), QList<uint>({2, 3, 1, 4}));
-        QVERIFY(document.moveObject(testId(4), 0));
-        QCOMPARE(order(document), QList<uint>({4, 2, 3, 1}));
-        QCOMPARE(log.take(), QStringList({u"objectAboutToBeMoved 0 2 #1"_s, u"objectMoved 0 2 #1"_s,
-                                          u"objectAboutToBeMoved 3 0 #4"_s, u"objectMoved 3 0 #4"_s}));
-    }
-
-    void selectsOnlyWhatIsThere()
-    {
-        Document document;
-        fill(document, 1);
-        DocumentLog log(document);
-        QVERIFY(!document.clearSelection());
         QVERIFY(!document.selectObject(testId(7)));
-        QVERIFY(document.selectObject(testId(1)));
-        QVERIFY(!document.selectObject(testId(1)));
-        QVERIFY(document.clearSelection());
-        QCOMPARE(log.take(), QStringList({u"selectionChanged #1"_s, u"selectionChanged #0"_s}));
+        QVERIFY(!document.selectObject(testId(2)));
+        QCOMPARE(describe(document), before);
+        QCOMPARE(document.selectedObjectId(), testId(2));
+        QCOMPARE(log.take(), QStringList());
     }
 
     void replacesAllContentsInOneCall()
@@ -198,26 +178,6 @@ private slots:
                               u"objectAboutToBeRemoved 0 #2"_s, u"objectRemoved 0 #2"_s, u"sizeChanged 10x20"_s,
                               u"backgroundColorChanged #ff000000"_s, u"objectAboutToBeInserted 0 #5"_s,
                               u"objectInserted 0 #5"_s, u"objectAboutToBeInserted 1 #1"_s, u"objectInserted 1 #1"_s}));
-    }
-
-    void refusesContentsWithTwiceTheSameId()
-    {
-        Document document;
-        fill(document, 2);
-        document.selectObject(testId(2));
-        const QString before = describe(document);
-        DocumentLog log(document);
-        int deaths = 0;
-        std::vector<std::unique_ptr<SceneObject>> twice;
-        twice.push_back(std::make_unique<CountingLayer>(5, &deaths));
-        twice.push_back(std::make_unique<CountingLayer>(5, &deaths));
-        QVERIFY(!document.replaceContents(QSizeF(1, 1), Qt::black, std::move(twice)));
-        QCOMPARE(deaths, 2);
-        std::vector<std::unique_ptr<SceneObject>> withNull(1);
-        QVERIFY(!document.replaceContents(QSizeF(1, 1), Qt::black, std::move(withNull)));
-        QCOMPARE(describe(document), before);
-        QCOMPARE(document.selectedObjectId(), testId(2));
-        QCOMPARE(log.take(), QStringList());
     }
 
     void settersSignalOnceAndRaiseTheRevision()
@@ -258,6 +218,12 @@ private slots:
         QVERIFY(!document.setObjectOpacity(id, kNaN));
         QVERIFY(document.setObjectBlendMode(id, QString()));
         QCOMPARE(layer->blendMode(), u"source-over"_s);
+
+        document.insertObject(std::make_unique<CountingLayer>(2)); // a layer, but not of pixels
+        document.insertObject(std::make_unique<SceneObject>(u"Plain"_s, testId(3)));
+        QVERIFY(!document.setImageLayerRasterSelection(testId(2), selection));
+        QVERIFY(!document.setImageLayerSource(testId(2), RasterImageSource{}, {}, RasterSurfacePolicy::Expanding));
+        QVERIFY(!document.setLayerFilters(testId(3), {filter}));
     }
 
     void filtersAreComparedFieldByField()
@@ -275,16 +241,6 @@ private slots:
             document.setLayerFilters(testId(1), {plain});
             QVERIFY(document.setLayerFilters(testId(1), {variant}));
         }
-    }
-
-    void imageSettersRefuseOtherClasses()
-    {
-        Document document;
-        document.insertObject(std::make_unique<CountingLayer>(1));
-        document.insertObject(std::make_unique<SceneObject>(u"Plain"_s, testId(2)));
-        QVERIFY(!document.setImageLayerRasterSelection(testId(1), path({{1, 1}})));
-        QVERIFY(!document.setImageLayerSource(testId(1), RasterImageSource{}, {}, RasterSurfacePolicy::Expanding));
-        QVERIFY(!document.setLayerFilters(testId(2), {FilterInstance()}));
     }
 
     void sourceTransformAndPolicyChangeInOneStep()
@@ -346,54 +302,29 @@ private slots:
         QVERIFY(!(a == b));
     }
 
-    void matrixMapsPointsAsByHand_data()
-    {
-        // Local rectangle 10 x 20, anchor (0.5, 0.5) at (5, 10) unless told.
-        QTest::addColumn<QPointF>("position");
-        QTest::addColumn<QPointF>("scale");
-        QTest::addColumn<QPointF>("shear");
-        QTest::addColumn<QPointF>("anchor");
-        QTest::addColumn<double>("rotation");
-        QTest::addColumn<QPointF>("point");
-        QTest::addColumn<QPointF>("mapped");
-        const QPointF none(0, 0);
-        const QPointF one(1, 1);
-        const QPointF centre(0.5, 0.5);
-        QTest::newRow("position only") << QPointF(3, 4) << one << none << centre << 0.0
-            << QPointF(1, 2) << QPointF(4, 6);
-        // (0, 0) - (5, 10) = (-5, -10), doubled (-10, -30 for 3), + (5, 10).
-        QTest::newRow("scale about the anchor") << none << QPointF(2, 3) << none << centre << 0.0
-            << none << QPointF(-5, -20);
-        QTest::newRow("mirrored") << none << QPointF(-1, 1) << none << centre << 0.0 << QPointF(1, 2) << QPointF(9, 2);
-        // Clockwise on a y-down canvas: (5, 0) turns to (0, 5).
-        QTest::newRow("quarter turn") << none << one << none << centre << 90.0 << QPointF(10, 10) << QPointF(5, 15);
-        QTest::newRow("turn about a corner") << QPointF(100, 0) << one << none << none << 90.0
-            << QPointF(10, 0) << QPointF(100, 10);
-        // tan 45 = 1: x grows by y.
-        QTest::newRow("shear x") << none << one << QPointF(45, 0) << none << 0.0 << QPointF(1, 2) << QPointF(3, 2);
-        QTest::newRow("shear y") << none << one << QPointF(0, 45) << none << 0.0 << QPointF(1, 2) << QPointF(1, 3);
-        // (1, 2) scaled (2, 2), sheared (4, 2), turned (-2, 4), placed (8, 24).
-        QTest::newRow("scale, shear, turn, place") << QPointF(10, 20) << QPointF(2, 1) << QPointF(45, 0) << none << 90.0
-                                                   << QPointF(1, 2) << QPointF(8, 24);
-    }
-
     void matrixMapsPointsAsByHand()
     {
-        QFETCH(QPointF, position);
-        QFETCH(QPointF, scale);
-        QFETCH(QPointF, shear);
-        QFETCH(QPointF, anchor);
-        QFETCH(double, rotation);
-        QFETCH(QPointF, point);
-        QFETCH(QPointF, mapped);
-        ObjectTransform transform;
-        transform.setPosition(position);
-        transform.setScale(scale);
-        transform.setShear(shear);
-        transform.setAnchor(anchor);
-        transform.setRotation(rotation);
-        const QPointF result = transform.matrix(QRectF(0, 0, 10, 20)).map(point);
-        QVERIFY2(QLineF(result, mapped).length() < 1e-9, qPrintable(u"%1, %2"_s.arg(result.x()).arg(result.y())));
+        const auto map = [](const QPointF &scale, const QPointF &shear, const QPointF &anchor, double rotation,
+                            const QPointF &point) {
+            ObjectTransform transform;
+            transform.setPosition({10, 20});
+            transform.setScale(scale);
+            transform.setShear(shear);
+            transform.setAnchor(anchor);
+            transform.setRotation(rotation);
+            // In hundredths, to be free of rounding.
+            return (transform.matrix(QRectF(0, 0, 10, 20)).map(point) * 100).toPoint();
+        };
+        const QPointF one(1, 1);
+        const QPointF centre(0.5, 0.5); // at (5, 10)
+        // (0, 0) - (5, 10) = (-5, -10), scaled (-10, -30), + (5, 10), placed (5, 0).
+        QCOMPARE(map({2, 3}, {}, centre, 0, {0, 0}), QPoint(500, 0));
+        // Clockwise on a y-down canvas: (5, 0) turns to (0, 5).
+        QCOMPARE(map(one, {}, centre, 90, {10, 10}), QPoint(1500, 3500));
+        // tan 45 = 1: y grows by x.
+        QCOMPARE(map(one, {0, 45}, {}, 0, {1, 2}), QPoint(1100, 2300));
+        // (1, 2) scaled (2, 2), sheared (4, 2), turned (-2, 4), placed (8, 24).
+        QCOMPARE(map({2, 1}, {45, 0}, {}, 90, {1, 2}), QPoint(800, 2400));
     }
 
     void contentIsDrawnOnceForEachRevisionAndServices()
@@ -416,83 +347,51 @@ private slots:
         QCOMPARE(layer.drawings, 3);
     }
 
-    void picturesAreStoredAsStraightRgba_data()
+    void picturesAreStoredAsStraightRgba()
     {
-        QTest::addColumn<QImage>("image");
-        QTest::addColumn<QRgb>("expected");
         QImage deep(2, 1, QImage::Format_RGBA64);
         deep.fill(QColor::fromRgba64(0x8080, 0x4040, 0, 0xffff));
-        QTest::newRow("16 bits a channel") << deep << qRgba(0x80, 0x40, 0, 255);
         QImage indexed(2, 1, QImage::Format_Indexed8);
         indexed.setColorTable({qRgba(1, 2, 3, 255), qRgba(200, 100, 50, 128)});
         indexed.fill(1);
-        QTest::newRow("indexed with alpha") << indexed << qRgba(200, 100, 50, 128);
         QImage premultiplied(2, 1, QImage::Format_ARGB32_Premultiplied);
         premultiplied.fill(QColor(255, 0, 0, 128));
-        QTest::newRow("premultiplied") << premultiplied << qRgba(255, 0, 0, 128);
-        QImage gray(2, 1, QImage::Format_Grayscale8);
-        gray.fill(77);
-        QTest::newRow("gray") << gray << qRgba(77, 77, 77, 255);
         QImage doubled = plainPicture(2, 1, Qt::green);
-        doubled.setDevicePixelRatio(2.0);
-        QTest::newRow("a reader's pixel ratio") << doubled << qRgba(0, 255, 0, 255);
-    }
-
-    void picturesAreStoredAsStraightRgba()
-    {
-        QFETCH(QImage, image);
-        QFETCH(QRgb, expected);
-        ImageLayer layer(QImage(), u"a"_s);
-        QVERIFY(layer.rasterImage().isNull());
-        QVERIFY(layer.setRasterImage(image));
-        const ImageLayer constructed(image, u"b"_s);
-        for (const QImage &stored : {layer.rasterImage(), constructed.rasterImage()}) {
-            QCOMPARE(stored.format(), QImage::Format_RGBA8888);
-            QCOMPARE(stored.pixel(1, 0), expected);
-            QCOMPARE(stored.devicePixelRatio(), 1.0);
+        doubled.setDevicePixelRatio(2.0); // as a reader may
+        const std::pair<QImage, QRgb> cases[] = {{deep, qRgba(0x80, 0x40, 0, 255)},
+                                                 {indexed, qRgba(200, 100, 50, 128)},
+                                                 {premultiplied, qRgba(255, 0, 0, 128)},
+                                                 {doubled, qRgba(0, 255, 0, 255)}};
+        for (const auto &[image, expected] : cases) {
+            ImageLayer layer(QImage(), u"a"_s);
+            QVERIFY(layer.setRasterImage(image));
+            for (const QImage &stored : {layer.rasterImage(), ImageLayer(image, u"b"_s).rasterImage()}) {
+                QCOMPARE(stored.format(), QImage::Format_RGBA8888);
+                QCOMPARE(stored.pixel(1, 0), expected);
+                QCOMPARE(stored.devicePixelRatio(), 1.0);
+            }
+            QCOMPARE(layer.renderedContent(nullptr).size, QSizeF(2, 1));
+            QVERIFY(!layer.setRasterImage(image));
         }
-        QCOMPARE(layer.renderedContent(nullptr).size, QSizeF(2, 1));
-        const quint64 revision = layer.contentRevision();
-        QVERIFY(!layer.setRasterImage(image));
-        QCOMPARE(layer.contentRevision(), revision);
-    }
-
-    void pixelsAreSharedAndNotCopied()
-    {
-        const QImage image = gradientPicture(8, 8);
-        const ImageLayer layer(image, u"a"_s);
-        QCOMPARE(layer.rasterImage().constBits(), image.constBits());
-        QCOMPARE(layer.renderedContent(nullptr).image.constBits(), image.constBits());
-    }
-
-    void svgDefaultSizes_data()
-    {
-        QTest::addColumn<QByteArray>("attributes");
-        QTest::addColumn<QByteArray>("content");
-        QTest::addColumn<QSizeF>("size");
-        const QByteArray rectangle = R"(<rect x="2" width="7" height="5"/>)";
-        QTest::newRow("width and height") << QByteArray(R"(width="30" height="20" viewBox="0 0 3 2")") << rectangle
-                                          << QSizeF(30, 20);
-        QTest::newRow("view box alone") << QByteArray(R"(viewBox="0 0 12 7")") << QByteArray() << QSizeF(12, 7);
-        QTest::newRow("a drawing without a size") << QByteArray() << rectangle << QSizeF(7, 5);
-        QTest::newRow("nothing") << QByteArray() << QByteArray() << QSizeF();
+        const QImage shared = gradientPicture(8, 8);
+        QCOMPARE(ImageLayer(shared, u"a"_s).renderedContent(nullptr).image.constBits(), shared.constBits());
     }
 
     void svgDefaultSizes()
     {
-        QFETCH(QByteArray, attributes);
-        QFETCH(QByteArray, content);
-        QFETCH(QSizeF, size);
-        const QByteArray data = "<svg xmlns=\"http://www.w3.org/2000/svg\" " + attributes + ">" + content + "</svg>";
-        QCOMPARE(svgDefaultSize(data).value_or(QSizeF()), size);
-        QCOMPARE(svgSourceFromData(data).has_value(), size.isValid());
-        QCOMPARE(svgSourceFromData(data, QSizeF(5, 5)).has_value(), size.isValid());
-    }
-
-    void brokenSvgIsNoSource()
-    {
-        QVERIFY(!svgSourceFromData({}));
-        QVERIFY(!svgSourceFromData("<svg"));
+        const QByteArray rectangle = R"(<rect x="2" width="7" height="5"/></svg>)";
+        const std::pair<QByteArray, QSizeF> cases[] = {
+            {R"( width="30" height="20" viewBox="0 0 3 2">)" + rectangle, {30, 20}},
+            {R"( viewBox="0 0 12 7"></svg>)", {12, 7}},
+            {">" + rectangle, {7, 5}}, // what is drawn
+            {"></svg>", {}},
+            {"", {}},
+        };
+        for (const auto &[text, size] : cases) {
+            const QByteArray data = R"(<svg xmlns="http://www.w3.org/2000/svg")" + text;
+            QCOMPARE(svgDefaultSize(data).value_or(QSizeF()), size);
+            QCOMPARE(svgSourceFromData(data, QSizeF(5, 5)).has_value(), size.isValid());
+        }
     }
 
     void svgKeepsItsFractionalSizeAndRendersToWholePixels()
@@ -551,36 +450,22 @@ private slots:
         QVERIFY(!empty.setRasterSelection(outside));
     }
 
-    void paintLayersBeginWithRoomAroundTheView_data()
-    {
-        QTest::addColumn<QRectF>("viewport");
-        QTest::addColumn<QRectF>("surface"); // null: none
-        QTest::newRow("no viewport") << QRectF() << QRectF(-178, -153, 356, 306);
-        QTest::newRow("part of the document") << QRectF(0, 0, 5, 5) << QRectF(-178, -153, 356, 306);
-        QTest::newRow("beside the document") << QRectF(100.5, 0, 10, 10) << QRectF(-28, -128, 267, 266);
-        QTest::newRow("a sliver") << QRectF(100, 100, 0.5, 50) << QRectF();
-        QTest::newRow("not a number") << QRectF(kNaN, 0, 10, 10) << QRectF();
-        QTest::newRow("endless") << QRectF(0, 0, kInfinity, 10) << QRectF();
-    }
-
     void paintLayersBeginWithRoomAroundTheView()
     {
-        QFETCH(const QRectF, viewport);
-        QFETCH(const QRectF, surface);
-        const std::optional<QRectF> found = initialPaintSurface(viewport, QRectF(-50, -25, 100, 50));
-        QCOMPARE(found.value_or(QRectF()), surface);
-        if (!found)
-            return;
-        const std::unique_ptr<ImageLayer> layer = makePaintLayer(surface);
-        QCOMPARE(layer->rasterImage(), plainPicture(int(surface.width()), int(surface.height()), Qt::transparent));
-        QCOMPARE(layer->transform().position(), surface.topLeft());
+        const QRectF page(-50, -25, 100, 50);
+        const QRectF around(-178, -153, 356, 306);
+        QCOMPARE(initialPaintSurface(QRectF(), page), around);
+        QCOMPARE(initialPaintSurface(QRectF(0, 0, 5, 5), page), around);
+        QCOMPARE(initialPaintSurface(QRectF(100.5, 0, 10, 10), page), QRectF(-28, -128, 267, 266)); // beside it
+        QVERIFY(!initialPaintSurface(QRectF(100, 100, 0.5, 50), page));
+        QVERIFY(!initialPaintSurface(QRectF(kNaN, 0, 10, 10), page));
+        QVERIFY(!initialPaintSurface(QRectF(0, 0, kInfinity, 10), page));
+
+        const std::unique_ptr<ImageLayer> layer = makePaintLayer(around);
+        QCOMPARE(layer->rasterImage(), plainPicture(356, 306, Qt::transparent));
+        QCOMPARE(layer->transform().position(), around.topLeft());
         QCOMPARE(layer->rasterSurfacePolicy(), RasterSurfacePolicy::Expanding);
         QCOMPARE(layer->name(), u"Paint"_s);
-    }
-
-    void paintLayersKeepThePixelLimit()
-    {
-        QVERIFY(makePaintLayer(QRectF(0, 0, 10'000, 10'000)));
         QVERIFY(!makePaintLayer(QRectF(0, 0, 10'001, 10'000)));
         QVERIFY(!makePaintLayer(QRectF(0, 0, 1e12, 1e12)));
     }

@@ -17,7 +17,6 @@ public:
 
     /// The entries since the last call.
     QStringList take() { return std::exchange(m_entries, {}); }
-    void add(const QString &entry) { m_entries.append(entry); }
 
 private:
     QStringList m_entries;
