@@ -62,26 +62,19 @@ private slots:
                             bool keyStays = true) {
             QTest::newRow(name) << QString::fromLatin1(key) << QByteArray(text) << expected << keyStays;
         };
-        row("ruler: nothing stored", "view/rulerPlacement", nullptr, 2, false);
         row("ruler: off is kept", "view/rulerPlacement", "0", 0);
         row("ruler: out of range", "view/rulerPlacement", "7", 2);
-        row("ruler: negative", "view/rulerPlacement", "-1", 2);
         row("ruler: not a number", "view/rulerPlacement", "left", 2);
         row("ruler: beyond an int", "view/rulerPlacement", "99999999999999", 2);
         row("inspector: left is kept", "view/inspectorPosition", "0", 0);
         row("inspector: out of range", "view/inspectorPosition", "-3", 1);
-        row("inspector: a list", "view/inspectorPosition", "0, 0", 1);
         row("clip: nothing stored", "view/canvasClipMode", nullptr, false, false);
-        row("clip: a number", "view/canvasClipMode", "1", true);
         row("bounds: empty", "view/documentBoundsVisible", "", false);
-        row("theme: nothing stored", "view/themeMode", nullptr, u"system"_s, false);
         row("theme: blanks and capitals", "view/themeMode", "\"  DARK \"", u"dark"_s);
         row("theme: unknown", "view/themeMode", "sepia", u"system"_s);
         row("theme: a list", "view/themeMode", "dark, light", u"system"_s);
-        row("language: capitals", "view/language", "DE", u"de"_s);
         row("language: another case of the territory", "view/language", "\" PT_pt\"", u"pt_PT"_s);
         row("language: unknown goes away", "view/language", "xx", u"fr"_s, false);
-        row("language: empty goes away", "view/language", "", u"fr"_s, false);
         row("language: nothing stored", "view/language", nullptr, u"fr"_s, false);
     }
 
@@ -91,7 +84,6 @@ private slots:
         QFETCH(const QByteArray, text);
         QFETCH(const QVariant, expected);
         QFETCH(const bool, keyStays);
-
         QLocale::setDefault(QLocale(u"fr_CA"_s));
         const QString name = key.section(u'/', 1);
         if (!text.isNull())
@@ -120,47 +112,34 @@ private slots:
         QCOMPARE(resolveLanguage({}, {}), u"en"_s);
         QCOMPARE(resolveLanguage({}, {u"eu-ES"_s, u"es-ES"_s}), u"en"_s); // only the first counts
         const QList<std::pair<QString, QString>> cases{
-            {u"en-US"_s, u"en"_s},    {u"de-AT"_s, u"de"_s},         {u"es-MX"_s, u"es"_s},
-            {u"fil-PH"_s, u"fil"_s},  {u"nb-NO"_s, u"nb"_s},         {u"no-NO"_s, u"nb"_s},
-            {u"nn-NO"_s, u"en"_s},    {u"pt-BR"_s, u"pt_PT"_s},      {u"pt"_s, u"pt_PT"_s},
-            {u"zh-CN"_s, u"zh_CN"_s}, {u"zh-Hans-SG"_s, u"zh_CN"_s}, {u"zh-TW"_s, u"en"_s},
-            {u"zh-Hant"_s, u"en"_s},  {u"hi-Latn-IN"_s, u"en"_s},    {u"el-CY"_s, u"el"_s},
-            {u"C"_s, u"en"_s},        {u"not a locale"_s, u"en"_s},
+            {u"de-AT"_s, u"de"_s},         {u"fil-PH"_s, u"fil"_s},    {u"no-NO"_s, u"nb"_s},
+            {u"nn-NO"_s, u"en"_s},         {u"pt-BR"_s, u"pt_PT"_s},   {u"zh-CN"_s, u"zh_CN"_s},
+            {u"zh-Hans-SG"_s, u"zh_CN"_s}, {u"zh-TW"_s, u"en"_s},      {u"zh-Hant"_s, u"en"_s},
+            {u"hi-Latn-IN"_s, u"en"_s},    {u"not a locale"_s, u"en"_s},
         };
         for (const auto &[system, expected] : cases)
             QCOMPARE(std::pair(system, resolveLanguage({}, {system})), std::pair(system, expected));
-    }
 
-    void startLanguageNeedsNoSettingsAndWritesNothing()
-    {
-        QLocale::setDefault(QLocale(u"it_IT"_s));
-        QCOMPARE(ApplicationSettings::startLanguage(), u"it"_s);
-        writeStore("[view]\nlanguage=ZH_cn\n");
-        QCOMPARE(ApplicationSettings::startLanguage(), u"zh_CN"_s);
-        QCOMPARE(stored(u"view/language"_s), u"ZH_cn"_s);
-    }
-
-    void everyLanguageResolvesToItself()
-    {
         const ApplicationSettings settings;
         QCOMPARE(settings.availableLanguages().size(), 19);
         for (const QString &code : settings.availableLanguages()) {
             QCOMPARE(languageForLocale(code), code);
             QCOMPARE_NE(settings.languageDisplayName(code), code);
         }
-        QCOMPARE(settings.languageDisplayName(u"xx"_s), u"xx"_s);
+
+        // Before there are settings: taken from the store, which stays as it is.
+        QLocale::setDefault(QLocale(u"it_IT"_s));
+        openStore().clear();
+        QCOMPARE(ApplicationSettings::startLanguage(), u"it"_s);
+        writeStore("[view]\nlanguage=ZH_cn\n");
+        QCOMPARE(ApplicationSettings::startLanguage(), u"zh_CN"_s);
+        QCOMPARE(stored(u"view/language"_s), u"ZH_cn"_s);
     }
 
     void settersCleanStoreAndEmitOnce()
     {
-        struct Case
-        {
-            const char *property;
-            QVariant written;
-            QVariant expected;
-            QVariant unchanging; // ignored, or cleaned to what is there already
-        };
-        const QList<Case> cases{
+        // What is written, what it becomes, and what is ignored or cleaned to the same.
+        const QList<std::tuple<const char *, QVariant, QVariant, QVariant>> cases{
             {"rulerPlacement", 1, 1, 1},
             {"inspectorPosition", 0, 0, 0},
             {"canvasClipMode", true, true, true},
@@ -268,8 +247,6 @@ private slots:
         QVERIFY(QDir().rmdir(pictures));
         QCOMPARE(settings.exportFileUrl(suggested), suggested);
         QVERIFY(settings.imageImportFolderUrl().isEmpty());
-        const QUrl own = url(m_folder.filePath(u"photo.jpg"_s));
-        QCOMPARE(settings.exportFileUrl(own), own);
 
         QVERIFY(ApplicationSettings().lastExportFolderUrl().isEmpty());
         QCOMPARE(stored(u"export/lastFolder"_s).toString(), QString());
