@@ -48,7 +48,7 @@ private slots:
         if (!QOpenGLContext().create())
             QSKIP("No OpenGL context can be created here.");
         const QImage photo = test::plainPicture(2000, 1000, Qt::red);
-        for (const QString &name : {u"a.png"_s, u"b.png"_s, u"c.png"_s})
+        for (const QString &name : {u"a.png"_s, u"b.png"_s, u"c.png"_s, u"50%2.png"_s})
             QVERIFY(photo.save(m_folder.filePath(name)));
         QFile bad(m_folder.filePath(u"bad.png"_s));
         QVERIFY(bad.open(QIODevice::WriteOnly) && bad.write("no picture") > 0);
@@ -82,6 +82,13 @@ private slots:
         QVERIFY(itemWithText(u"No layer selected"_s));
         QVERIFY(itemOfType("Canvas_QMLTYPE")->hasFocus());
         QTRY_COMPARE(itemOfType("StatusBar_QMLTYPE")->height(), 34.0);
+    }
+
+    void titleNamesTheFileAsItIs()
+    {
+        m_application.addFileOpenRequest(file(u"50%2.png"_s));
+        openWindow();
+        QTRY_COMPARE(m_window->title(), u"50%2.png - Zelmora Atelier"_s);
     }
 
     void requestsAreOpenedOneAfterTheOther()

@@ -140,6 +140,7 @@ private slots:
         row(u"--max-side 100 photo.jpg out.webp"_s, "webp", {100, 67}, {});
         row(u"--max-side 1000 photo.jpg out.png"_s, "png", {300, 201}, {});
         row(u"--width 1000 --max-side 60 photo.jpg out.png"_s, "png", {60, 40}, {});
+        row(u"--width 1000 --height 500 --max-side 100 photo.jpg out.png"_s, "png", {100, 50}, {});
         row(u"--width 64 --height 64 photo.jpg out.png"_s, "png", {64, 64}, {});
         row(u"tiny.png out.png"_s, "png", {16, 16}, Qt::green);
         row(u"drawing.svg out.jpg"_s, "jpeg", {64, 48}, Qt::red);
@@ -283,6 +284,9 @@ private slots:
         QTest::newRow("none at all") << QStringList();
         QTest::newRow("a display that does not answer") << QStringList(u"DISPLAY=:4711"_s);
         QTest::newRow("another platform") << QStringList(u"QT_QPA_PLATFORM=minimal"_s);
+        QTest::newRow("a platform with windows, and no display") << QStringList(u"QT_QPA_PLATFORM=xcb"_s);
+        QTest::newRow("a platform that does not exist") << QStringList(u"QT_QPA_PLATFORM=bogus"_s);
+        QTest::newRow("an empty platform") << QStringList(u"QT_QPA_PLATFORM="_s);
         QTest::newRow("a locale without UTF-8") << QStringList({u"LC_ALL=C"_s, u"HOME=/none"_s});
     }
 
