@@ -42,7 +42,10 @@ double median(QList<double> times)
 class BlurTimer
 {
 public:
-    BlurTimer() : m_passes(m_context, FilterShaderCatalog::instance()) {}
+    BlurTimer()
+        : m_passes(m_context, FilterShaderCatalog::instance())
+    {
+    }
 
     bool measure(const QImage &picture, double sigma)
     {
@@ -127,8 +130,8 @@ QList<BenchRow> benchBlur()
         rows.append({name + u"upload"_s, blur.upload(), ratio(blur.upload(), memoryCopy, u"memcpy"_s)});
         rows.append({name + u"passes"_s, blur.passes(), ratio(blur.passes(), copyPass, u"copy pass"_s)});
         rows.append({name + u"readback"_s, blur.readback(), ratio(blur.readback(), memoryCopy, u"memcpy"_s)});
-        rows.append({name + u"transfer in all"_s, transfer,
-                     ratio(transfer, blur.passes(), u"the passes; goal under 0.33"_s)});
+        rows.append(
+            {name + u"transfer in all"_s, transfer, ratio(transfer, blur.passes(), u"the passes; goal under 0.33"_s)});
 
         OpenGLTextureRenderer renderer;
         const double whole = medianMilliseconds(kRuns, [&] { renderer.gaussianBlur(picture, sigma); });

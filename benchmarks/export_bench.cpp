@@ -61,7 +61,8 @@ QList<BenchRow> benchExport()
     if (!outputOfChild({u"make"_s, photo}))
         return {};
     const QStringList floorCommand{QStringLiteral(EXPORT_CHILD_PROGRAM), u"recode"_s, photo, output};
-    const QStringList exportCommand{QStringLiteral(ZELMORA_PROGRAM), u"export"_s, u"--quality"_s, u"92"_s, photo, output};
+    const QStringList exportCommand{
+        QStringLiteral(ZELMORA_PROGRAM), u"export"_s, u"--quality"_s, u"92"_s, photo, output};
 
     // In turns, so that a slow moment of the machine meets both.
     QList<Cost> floors;

@@ -13,7 +13,6 @@
 
 #include <cmath>
 #include <cstdio>
-
 #include <sys/resource.h>
 #include <sys/wait.h>
 #include <unistd.h>

@@ -1,11 +1,10 @@
+#include "base/memory_tuning.h"
+#include "base/pixel_limits.h"
 #include "bench.h"
 #include "blur_bench.h"
 #include "export_bench.h"
 #include "scene_bench.h"
 #include "startup_bench.h"
-
-#include "base/memory_tuning.h"
-#include "base/pixel_limits.h"
 
 #include <QGuiApplication>
 #include <QLoggingCategory>

@@ -86,9 +86,8 @@ double bareDrawMilliseconds(const SceneSnapshot &scene, double scale)
 
 void composeRows(QList<BenchRow> &rows, const QString &name, const SceneSnapshot &scene, double scale, double goalMs)
 {
-    const double ms = medianMilliseconds(kRuns, [&] {
-        renderSceneTiles(scene, viewAt(scale), false, scale, kMaximumTileSide, false);
-    });
+    const double ms = medianMilliseconds(
+        kRuns, [&] { renderSceneTiles(scene, viewAt(scale), false, scale, kMaximumTileSide, false); });
     const double floor = bareDrawMilliseconds(scene, scale);
     const double megapixels = double(kView.width()) * kView.height() * double(scene.items.size()) / 1e6;
     rows.append({name, ms,

@@ -105,7 +105,7 @@ int storedNumber(const QSettings &store, QLatin1StringView key, int fallback)
 
 } // namespace
 
-template <typename T>
+template<typename T>
 T ApplicationSettings::read(const T &field) const
 {
     const QMutexLocker lock(&m_mutex);
@@ -113,7 +113,7 @@ T ApplicationSettings::read(const T &field) const
 }
 
 /// Stores field and key if the value is new; true when the caller has a signal to emit.
-template <typename T>
+template<typename T>
 bool ApplicationSettings::change(T &field, const T &value, QLatin1StringView key)
 {
     const QMutexLocker lock(&m_mutex);
@@ -125,7 +125,7 @@ bool ApplicationSettings::change(T &field, const T &value, QLatin1StringView key
 }
 
 /// Rewrites a key whose stored form is not the value's own. A key that is not there stays away.
-template <typename T>
+template<typename T>
 void ApplicationSettings::heal(QLatin1StringView key, const T &value)
 {
     if (!m_store.contains(key))

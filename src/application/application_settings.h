@@ -98,11 +98,11 @@ signals:
     void imageImportFolderChanged();
 
 private:
-    template <typename T>
+    template<typename T>
     T read(const T &field) const;
-    template <typename T>
+    template<typename T>
     bool change(T &field, const T &value, QLatin1StringView key);
-    template <typename T>
+    template<typename T>
     void heal(QLatin1StringView key, const T &value);
     void load();
 

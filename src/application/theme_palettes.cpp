@@ -81,7 +81,7 @@ void setRole(QPalette &palette, QPalette::ColorRole role, const QColor &color, c
     palette.setColor(QPalette::Disabled, role, disabled);
 }
 
-template <typename Roles>
+template<typename Roles>
 QPalette withRoles(QPalette palette, const Roles &roles)
 {
     for (const RoleColors &colors : roles)

@@ -64,8 +64,8 @@ void EditorCanvasItem::setSceneModel(ScenePresentationModel *model)
     m_sceneModel = model;
     m_modelReplaced = true; // another model may have reached the same revision
     if (model) {
-        m_imageConnection = connect(model, &ScenePresentationModel::sceneImageChanged, this,
-                                    &EditorCanvasItem::takeTiles);
+        m_imageConnection =
+            connect(model, &ScenePresentationModel::sceneImageChanged, this, &EditorCanvasItem::takeTiles);
         m_destroyedConnection = connect(model, &QObject::destroyed, this, [this] {
             m_sceneModel = nullptr;
             takeTiles();

@@ -19,8 +19,8 @@ Arguments::Arguments(const QStringList &words, const QList<OptionRule> &rules)
         }
         const qsizetype equals = word.indexOf(u'=');
         const QString name = equals < 0 ? word : word.first(equals);
-        const auto rule = std::find_if(rules.begin(), rules.end(),
-                                       [&](const OptionRule &known) { return known.name == name; });
+        const auto rule =
+            std::find_if(rules.begin(), rules.end(), [&](const OptionRule &known) { return known.name == name; });
         if (rule == rules.end())
             note(u"unknown option %1"_s.arg(name));
         else if (!rule->takesValue && equals >= 0)

@@ -1,7 +1,6 @@
 #include "cli/console.h"
 
 #include <cstdio>
-
 #include <unistd.h>
 
 using namespace Qt::StringLiterals;
@@ -18,7 +17,10 @@ void write(std::FILE *stream, const QString &text)
 
 } // namespace
 
-Console::Console() : m_showsProgress(isatty(STDERR_FILENO)) {}
+Console::Console()
+    : m_showsProgress(isatty(STDERR_FILENO))
+{
+}
 
 void Console::print(const QString &text)
 {

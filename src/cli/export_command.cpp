@@ -122,9 +122,15 @@ QList<Job> jobsInto(const QString &folder, const QString &suffix, const QStringL
 
 ExitStatus runExport(const QStringList &words, const QString &usage)
 {
-    Arguments arguments(words, {{u"--quality"_s, true}, {u"--width"_s, true}, {u"--height"_s, true},
-                                {u"--max-side"_s, true}, {u"--transparent"_s}, {u"--unclipped"_s},
-                                {u"--into"_s, true}, {u"--format"_s, true}});
+    Arguments arguments(words,
+                        {{u"--quality"_s, true},
+                         {u"--width"_s, true},
+                         {u"--height"_s, true},
+                         {u"--max-side"_s, true},
+                         {u"--transparent"_s},
+                         {u"--unclipped"_s},
+                         {u"--into"_s, true},
+                         {u"--format"_s, true}});
     const auto side = [&](const QString &option) {
         return arguments.number(option, 0, kMinimumExportSide, kMaximumExportSide);
     };

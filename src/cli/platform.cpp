@@ -5,10 +5,9 @@
 #ifdef ZELMORA_SURFACELESS_EGL
 #include <QtPlugin>
 
-#include <cstring>
-
 #include <EGL/egl.h>
 #include <EGL/eglext.h>
+#include <cstring>
 #include <sys/socket.h>
 #include <sys/un.h>
 #include <unistd.h>
@@ -37,8 +36,8 @@ bool hasReachableDisplay()
         return false;
     std::memcpy(address.sun_path, path.constData(), size_t(path.size()));
     const int connection = socket(AF_UNIX, SOCK_STREAM | SOCK_CLOEXEC, 0);
-    const bool answered = connection >= 0
-        && connect(connection, reinterpret_cast<const sockaddr *>(&address), sizeof address) == 0;
+    const bool answered =
+        connection >= 0 && connect(connection, reinterpret_cast<const sockaddr *>(&address), sizeof address) == 0;
     if (connection >= 0)
         close(connection);
     return answered;

@@ -1,7 +1,6 @@
 #pragma once
 
 #include <cstdio>
-
 #include <fcntl.h>
 #include <unistd.h>
 

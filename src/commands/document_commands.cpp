@@ -16,8 +16,8 @@ void SetDocumentBackgroundCommand::apply(const QColor &color)
 
 ResizeDocumentCommand::ResizeDocumentCommand(Document *document, const QSizeF &size, const QString &text,
                                              quint64 mergeKey, QUndoCommand *parent)
-    : StateCommand(document, QUuid(), document->size(), cleanDocumentSize(size), text, parent,
-                   MergeId::ResizeDocument, mergeKey)
+    : StateCommand(document, QUuid(), document->size(), cleanDocumentSize(size), text, parent, MergeId::ResizeDocument,
+                   mergeKey)
 {
 }
 

@@ -39,8 +39,7 @@ void SetSceneObjectVisibilityCommand::apply(const bool &visible)
 }
 
 SetSceneObjectOpacityCommand::SetSceneObjectOpacityCommand(Document *document, const QUuid &objectId, double opacity,
-                                                           const QString &text, quint64 mergeKey,
-                                                           QUndoCommand *parent)
+                                                           const QString &text, quint64 mergeKey, QUndoCommand *parent)
     : StateCommand(document, objectId, stateOf(document->object(objectId), &SceneObject::opacity),
                    cleanOpacity(opacity), text, parent, MergeId::Opacity, mergeKey)
 {

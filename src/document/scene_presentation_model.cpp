@@ -28,7 +28,8 @@ QRectF cleanViewport(const QRectF &rect)
 
 double cleanRenderScale(double scale)
 {
-    return std::isnan(scale) ? 1.0 : std::clamp(scale, kMinimumRenderScale, ScenePresentationModel::kMaximumRenderScale);
+    return std::isnan(scale) ? 1.0
+                             : std::clamp(scale, kMinimumRenderScale, ScenePresentationModel::kMaximumRenderScale);
 }
 
 double nonNegative(double side)

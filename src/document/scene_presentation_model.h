@@ -28,8 +28,8 @@ class ScenePresentationModel : public QObject
     Q_PROPERTY(bool hasSelection READ hasSelection NOTIFY selectionChanged)
     Q_PROPERTY(QRectF selectionRect READ selectionRect NOTIFY selectionChanged)
     Q_PROPERTY(QSize selectedLayerPixelSize READ selectedLayerPixelSize NOTIFY selectionChanged)
-    Q_PROPERTY(QUuid suppressedObjectId READ suppressedObjectId WRITE setSuppressedObjectId NOTIFY
-                   suppressedObjectIdChanged)
+    Q_PROPERTY(
+        QUuid suppressedObjectId READ suppressedObjectId WRITE setSuppressedObjectId NOTIFY suppressedObjectIdChanged)
 
 public:
     static constexpr double kMaximumRenderScale = 32.0;

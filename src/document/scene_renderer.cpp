@@ -138,8 +138,8 @@ QList<SceneTile> renderSceneTiles(const SceneSnapshot &snapshot, const QRectF &r
             const QPointF tileTopLeft(topLeft.x() + double(x) / s, topLeft.y() + double(y) / s);
             const QPointF tileBottomRight(endX == width ? bottomRight.x() : topLeft.x() + double(endX) / s,
                                           endY == height ? bottomRight.y() : topLeft.y() + double(endY) / s);
-            const QTransform toPixels = QTransform::fromTranslate(-firstColumn - double(x), -firstRow - double(y))
-                                            .scale(s, s);
+            const QTransform toPixels =
+                QTransform::fromTranslate(-firstColumn - double(x), -firstRow - double(y)).scale(s, s);
             tiles.append({QRectF(tileTopLeft, tileBottomRight), s,
                           renderPicture({snapshot, toPixels, s, fixedBounds, smooth, showBounds}, pixels)});
         }

@@ -14,8 +14,8 @@ namespace {
 SceneRenderItem renderItem(const Layer &layer, const RenderServices *services)
 {
     const RenderedContent content = layer.renderedContent(services);
-    SceneRenderItem item{layer.id(), layer.transform(), layer.opacity(), layer.blendMode(),
-                         content.image, content.size, QPointF(), content.size};
+    SceneRenderItem item{layer.id(),    layer.transform(), layer.opacity(), layer.blendMode(),
+                         content.image, content.size,      QPointF(),       content.size};
     if (layer.filters().isEmpty())
         return item;
     const auto *imageLayer = dynamic_cast<const ImageLayer *>(&layer);
@@ -92,7 +92,8 @@ QRectF contentBounds(const SceneSnapshot &snapshot)
     const QRectF bounds = unitedItemBounds(snapshot);
     const double left = std::floor(bounds.left());
     const double top = std::floor(bounds.top());
-    return {left, top, std::max(std::ceil(bounds.right()) - left, 1.0), std::max(std::ceil(bounds.bottom()) - top, 1.0)};
+    return {left, top, std::max(std::ceil(bounds.right()) - left, 1.0),
+            std::max(std::ceil(bounds.bottom()) - top, 1.0)};
 }
 
 } // namespace zm

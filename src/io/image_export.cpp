@@ -36,7 +36,8 @@ QSize scaledExportSize(const QRectF &rectangle, double factor, int maximumSide)
 {
     const double longer = std::max(rectangle.width(), rectangle.height());
     const double fitting = std::min(factor, maximumSide / std::max(longer, 1.0));
-    return {exportSide(rectangle.width() * fitting, maximumSide), exportSide(rectangle.height() * fitting, maximumSide)};
+    return {exportSide(rectangle.width() * fitting, maximumSide),
+            exportSide(rectangle.height() * fitting, maximumSide)};
 }
 
 QImage renderFlattened(const SceneSnapshot &snapshot, const ExportSettings &settings, const QRectF &rectangle)
@@ -58,15 +59,17 @@ ExportResult encode(const QImage &image, const ExportFormat &format, int quality
     ExportResult result;
     QBuffer buffer(&result.bytes);
     if (!buffer.open(QIODevice::WriteOnly))
-        return {{}, exportText(QT_TRANSLATE_NOOP("zm::ExportController", "Could not create the in-memory image buffer."))};
+        return {{},
+                exportText(QT_TRANSLATE_NOOP("zm::ExportController", "Could not create the in-memory image buffer."))};
     QImageWriter writer(&buffer, format.writerFormat);
     if (format.writerFormat == "png")
         writer.setCompression(100);
     else
         writer.setQuality(std::clamp(quality, 0, 100));
     if (!writer.write(image)) {
-        return {{}, exportText(QT_TRANSLATE_NOOP("zm::ExportController", "Could not encode the saved image: %1"))
-                        .arg(writer.errorString())};
+        return {{},
+                exportText(QT_TRANSLATE_NOOP("zm::ExportController", "Could not encode the saved image: %1"))
+                    .arg(writer.errorString())};
     }
     embedSoftwareTag(result.bytes, format.writerFormat, u"Zelmora Atelier"_s);
     return result;
@@ -124,7 +127,8 @@ QRectF exportRectangle(const SceneSnapshot &snapshot, bool clipToDocument)
 {
     const QRectF document = documentRect(snapshot);
     const QRectF shown = clipToDocument ? document : unitedItemBounds(snapshot);
-    // Pixels are counted from the document's corner: its centre is the origin, and half of an odd side is no whole pixel.
+    // Pixels are counted from the document's corner: its centre is the origin, and half of an odd side is no whole
+    // pixel.
     const QPointF corner = document.topLeft();
     const QRectF fromCorner = shown.translated(-corner);
     const double left = std::floor(fromCorner.left() + kRoundingError);

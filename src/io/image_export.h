@@ -70,8 +70,8 @@ struct ExportResult
 ExportResult exportImage(const SceneSnapshot &snapshot, const ExportSettings &settings,
                          const std::atomic_bool *cancelled = nullptr);
 
-/// A document that is nothing but this decoded picture would export pixel for pixel as the picture: it is opaque, keeps its
-/// size, and no transparency is asked for.
+/// A document that is nothing but this decoded picture would export pixel for pixel as the picture: it is opaque, keeps
+/// its size, and no transparency is asked for.
 bool isExportedAsDecoded(const QImage &picture, const ExportSettings &settings);
 /// Exports such a picture without the way through a document's pixel format and back to the encoder's.
 ExportResult exportAsDecoded(const QImage &picture, const ExportSettings &settings);

@@ -114,16 +114,15 @@ QString importErrorText(ImageImportError error)
     case ImageImportError::InvalidSvg:
         return text(QT_TRANSLATE_NOOP("zm::DocumentFileController", "Could not load the selected SVG image."));
     case ImageImportError::HeifCodecMissing:
-        return text(QT_TRANSLATE_NOOP("zm::DocumentFileController",
-                                      "Windows could not decode the selected HEIC/HEIF image."));
+        return text(
+            QT_TRANSLATE_NOOP("zm::DocumentFileController", "Windows could not decode the selected HEIC/HEIF image."));
     case ImageImportError::CannotDecode:
         return text(QT_TRANSLATE_NOOP("zm::DocumentFileController", "Could not load the selected image file."));
     case ImageImportError::EmptySize:
-        return text(QT_TRANSLATE_NOOP("zm::DocumentFileController",
-                                      "The selected image does not have a usable size."));
+        return text(QT_TRANSLATE_NOOP("zm::DocumentFileController", "The selected image does not have a usable size."));
     case ImageImportError::DocumentRefused:
-        return text(QT_TRANSLATE_NOOP("zm::DocumentFileController",
-                                      "Could not create a document from the selected image."));
+        return text(
+            QT_TRANSLATE_NOOP("zm::DocumentFileController", "Could not create a document from the selected image."));
     }
     return {};
 }

@@ -49,8 +49,8 @@ struct DecodedPicture
     ImageImportError error = ImageImportError::None;
 };
 
-/// Reads a picture: a file whose suffix is "svg" keeps its text, any other is recognised by its content and decoded with
-/// its orientation applied. A picture of more than kMaximumRasterPixels is refused before it is decoded. With
+/// Reads a picture: a file whose suffix is "svg" keeps its text, any other is recognised by its content and decoded
+/// with its orientation applied. A picture of more than kMaximumRasterPixels is refused before it is decoded. With
 /// noHevcCodec every HEIC and HEIF file fails as if its decoder were missing.
 DecodedPicture decodePicture(const QString &path, bool noHevcCodec = false);
 
@@ -64,8 +64,8 @@ ImageImportResult importImageLayer(const QString &path, bool noHevcCodec = false
 /// tell its size is decoded.
 std::optional<ImageFileHeader> readImageFileHeader(const QString &path, ImageImportError *error);
 
-/// Makes the layer the only content of the document, on white, framed exactly, and selects it. On a failure the document
-/// is untouched.
+/// Makes the layer the only content of the document, on white, framed exactly, and selects it. On a failure the
+/// document is untouched.
 ImageImportError replaceWithImage(Document &document, std::unique_ptr<ImageLayer> layer);
 
 /// The placement that puts the middle of a layer's mapped rectangle on the document's centre.

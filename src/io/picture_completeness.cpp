@@ -12,7 +12,10 @@ namespace {
 class ByteCursor
 {
 public:
-    explicit ByteCursor(QByteArrayView bytes) : m_bytes(bytes) {}
+    explicit ByteCursor(QByteArrayView bytes)
+        : m_bytes(bytes)
+    {
+    }
 
     bool ranOut() const { return m_ranOut; }
     quint8 byte() { return take(1) ? quint8(m_bytes[m_position - 1]) : 0; }

@@ -80,7 +80,11 @@ bool tagJpeg(QByteArray &file, const QByteArray &block)
     QByteArray segment("\xFF\xE1");
     segment.append(char(length >> 8)).append(char(length & 0xFF)).append(kExifPrefix).append(block);
 
-    struct Range { qsizetype begin; qsizetype size; };
+    struct Range
+    {
+        qsizetype begin;
+        qsizetype size;
+    };
     QList<Range> oldBlocks;
     qsizetype insertAt = 2;
     qsizetype position = 2;

@@ -51,7 +51,8 @@ bool assignSamplers(OpenGLProgram &program, const QList<QByteArray> &samplers)
 } // namespace
 
 FilterPassDrawer::FilterPassDrawer(OffscreenContext &context, const FilterShaderCatalog &catalog)
-    : m_context(context), m_catalog(catalog)
+    : m_context(context)
+    , m_catalog(catalog)
 {
 }
 
@@ -81,7 +82,8 @@ OpenGLProgram *FilterPassDrawer::filterProgram(const QString &shaderId)
         return entry.program.get();
 
     const QByteArray prefixes = entry.program ? entry.program->uniformPrefixes().join(", ") : "<none>"_ba;
-    qCWarning(lcTexture) << "Shader interface mismatch for filter utility" << shaderId << "uniform prefixes" << prefixes;
+    qCWarning(lcTexture) << "Shader interface mismatch for filter utility" << shaderId << "uniform prefixes"
+                         << prefixes;
     entry = FilterProgramEntry();
     entry.failed = true;
     return nullptr;

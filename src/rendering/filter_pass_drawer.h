@@ -33,13 +33,14 @@ public:
     /// Links the shader if it is not yet; null when it is unknown, broken, or does not declare what the catalogue says.
     OpenGLProgram *filterProgram(const QString &shaderId);
 
-    /// Draws over all of `target`, without blending. Texture i is bound to the catalogue's sampler i; `uniformBytes` hold
-    /// a vec4 for each of its uniforms. False, with nothing drawn, when anything does not fit.
+    /// Draws over all of `target`, without blending. Texture i is bound to the catalogue's sampler i; `uniformBytes`
+    /// hold a vec4 for each of its uniforms. False, with nothing drawn, when anything does not fit.
     bool drawPass(const QString &shaderId, std::span<const GLuint> textures, QOpenGLFramebufferObject *target,
                   QByteArrayView uniformBytes = {});
 
 private:
-    struct FilterProgramEntry {
+    struct FilterProgramEntry
+    {
         std::unique_ptr<OpenGLProgram> program;
         int positionAttribute = -1;
         QList<int> uniformLocations; ///< in catalogue order; empty when a block is used

@@ -31,8 +31,8 @@ QList<FilterShaderDescriptor> utilities()
                 {"BoxBlurUniforms"}, {"u_dirTexelSizeRadius", "u_radius"}),
         utility(u"gaussianBlur"_s, QT_TRANSLATE_NOOP("FilterShaderCatalog", "Gaussian blur"), u"util_gaussian_blur"_s,
                 {"GaussianBlurUniforms"}, {"u_dirTexelSize", "u_sigmaRadius"}),
-        utility(u"textureCopy"_s, QT_TRANSLATE_NOOP("FilterShaderCatalog", "Texture copy"), u"util_texture_copy"_s,
-                {}, {}),
+        utility(u"textureCopy"_s, QT_TRANSLATE_NOOP("FilterShaderCatalog", "Texture copy"), u"util_texture_copy"_s, {},
+                {}),
     };
 }
 

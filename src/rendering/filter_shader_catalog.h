@@ -7,7 +7,8 @@
 namespace zm {
 
 /// What the renderer must know of a fragment shader: where it is and which names it declares.
-struct FilterShaderDescriptor {
+struct FilterShaderDescriptor
+{
     QString id;                          ///< of utilities the bare name, of library shaders "fx/<id>"
     QString label;                       ///< display name of the program in messages
     QString fragmentResource;

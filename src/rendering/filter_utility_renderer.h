@@ -10,7 +10,8 @@ namespace zm {
 
 /// The image formats that a filter declares for its pictures. The GPU sees RGBA8888 whatever they say; they decide
 /// whether two inputs may share one chain of passes.
-struct FilterTextureFormats {
+struct FilterTextureFormats
+{
     int defaultFormat = 0;
     QList<int> inputFormats; ///< one for each input image; a missing one is defaultFormat
     int outputFormat = 0;
@@ -42,7 +43,8 @@ public:
                                       const QByteArray &uniformBytes, const FilterTextureFormats &formats) = 0;
 
     /// One pass of a library shader with the three samplers source, blurred source and blurred mask, in the source's
-    /// size. Sigmas are in pixels of their image; a negative or non-finite one counts as 0. Outside the mask is nothing.
+    /// size. Sigmas are in pixels of their image; a negative or non-finite one counts as 0. Outside the mask is
+    /// nothing.
     virtual QImage renderMaskedBlurFilterShader(const QString &shaderId, const QImage &source, double sourceSigma,
                                                 const QImage &mask, double maskSigma, const QByteArray &uniformBytes,
                                                 const FilterTextureFormats &formats) = 0;

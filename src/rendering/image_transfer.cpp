@@ -27,7 +27,8 @@ void setSampling(QOpenGLExtraFunctions *functions, TextureEdge edge)
 void clearErrors(QOpenGLExtraFunctions *functions)
 {
     constexpr int mostPendingErrors = 16;
-    for (int i = 0; i < mostPendingErrors && functions->glGetError() != GL_NO_ERROR; ++i) { }
+    for (int i = 0; i < mostPendingErrors && functions->glGetError() != GL_NO_ERROR; ++i) {
+    }
 }
 
 } // namespace
@@ -96,8 +97,9 @@ std::unique_ptr<QOpenGLFramebufferObject> createFramebuffer(QOpenGLExtraFunction
 
 QImage readFramebuffer(QOpenGLExtraFunctions *functions, const QOpenGLFramebufferObject &framebuffer)
 {
-    // QOpenGLFramebufferObject::toImage(false) gives the same bytes tagged as premultiplied, which shaders do not write,
-    // and in ARGB order on the desktop. Reading into the wanted format saves re-tagging and a conversion of every pixel.
+    // QOpenGLFramebufferObject::toImage(false) gives the same bytes tagged as premultiplied, which shaders do not
+    // write, and in ARGB order on the desktop. Reading into the wanted format saves re-tagging and a conversion of
+    // every pixel.
     QImage image(framebuffer.size(), QImage::Format_RGBA8888);
     if (image.isNull())
         return {};

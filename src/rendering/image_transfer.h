@@ -26,9 +26,16 @@ class OwnedTexture
 {
 public:
     OwnedTexture() = default;
-    OwnedTexture(QOpenGLExtraFunctions *functions, GLuint name) : m_functions(functions), m_name(name) {}
+    OwnedTexture(QOpenGLExtraFunctions *functions, GLuint name)
+        : m_functions(functions)
+        , m_name(name)
+    {
+    }
     OwnedTexture(OwnedTexture &&other) noexcept
-        : m_functions(other.m_functions), m_name(std::exchange(other.m_name, 0)) {}
+        : m_functions(other.m_functions)
+        , m_name(std::exchange(other.m_name, 0))
+    {
+    }
     OwnedTexture &operator=(OwnedTexture &&other) noexcept
     {
         std::swap(m_functions, other.m_functions);
@@ -49,8 +56,8 @@ private:
 /// The picture in the one format of layers and textures, sharing its pixels when it has that format already.
 QImage toStraightRgba(const QImage &image);
 
-/// Uploads an RGBA8888 picture into a linearly filtered texture. Name 0 when the picture is null, larger than the driver
-/// takes, or does not fit into its memory.
+/// Uploads an RGBA8888 picture into a linearly filtered texture. Name 0 when the picture is null, larger than the
+/// driver takes, or does not fit into its memory.
 OwnedTexture uploadTexture(QOpenGLExtraFunctions *functions, const QImage &image, TextureEdge edge);
 
 /// A target of `size` pixels whose texture is linearly filtered, with unset contents; null when the driver refuses.

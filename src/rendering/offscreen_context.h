@@ -49,7 +49,8 @@ class CurrentContext
 {
 public:
     explicit CurrentContext(OffscreenContext &context)
-        : m_context(context), m_isCurrent(context.ensureContext() && context.makeCurrent())
+        : m_context(context)
+        , m_isCurrent(context.ensureContext() && context.makeCurrent())
     {
     }
     ~CurrentContext()

@@ -52,7 +52,10 @@ bool compileStage(QOpenGLShaderProgram &program, QOpenGLShader::ShaderType type,
 
 OpenGLProgram::OpenGLProgram(const QString &name, std::unique_ptr<QOpenGLShaderProgram> program,
                              QOpenGLExtraFunctions *functions, const QList<QByteArray> &uniformPrefixes)
-    : m_name(name), m_program(std::move(program)), m_functions(functions), m_uniformPrefixes(uniformPrefixes)
+    : m_name(name)
+    , m_program(std::move(program))
+    , m_functions(functions)
+    , m_uniformPrefixes(uniformPrefixes)
 {
 }
 
@@ -160,8 +163,8 @@ std::unique_ptr<OpenGLProgram> loadProgram(const QString &name, const QString &v
     QList<QByteArray> prefixes = vertex.uniformPrefixes;
     for (const QByteArray &prefix : fragment.uniformPrefixes)
         appendUniformPrefix(prefixes, prefix);
-    qCDebug(lcProgram) << "Loaded shader program" << name << "vertex target" << vertex.targetLabel
-                       << "fragment target" << fragment.targetLabel;
+    qCDebug(lcProgram) << "Loaded shader program" << name << "vertex target" << vertex.targetLabel << "fragment target"
+                       << fragment.targetLabel;
     return std::make_unique<OpenGLProgram>(name, std::move(program), functions, prefixes);
 }
 

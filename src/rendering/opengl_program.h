@@ -24,8 +24,8 @@ class OpenGLProgram
 
 public:
     /// `name` is shown to people; `functions` are those of the context in which `program` was linked.
-    OpenGLProgram(const QString &name, std::unique_ptr<QOpenGLShaderProgram> program,
-                  QOpenGLExtraFunctions *functions, const QList<QByteArray> &uniformPrefixes);
+    OpenGLProgram(const QString &name, std::unique_ptr<QOpenGLShaderProgram> program, QOpenGLExtraFunctions *functions,
+                  const QList<QByteArray> &uniformPrefixes);
 
     const QString &name() const { return m_name; }
 

@@ -38,7 +38,8 @@ bool holdsUniforms(const QByteArray &bytes, const FilterShaderDescriptor &descri
 } // namespace
 
 OpenGLTextureRenderer::OpenGLTextureRenderer(const FilterShaderCatalog &catalog)
-    : m_catalog(catalog), m_passes(m_context, catalog)
+    : m_catalog(catalog)
+    , m_passes(m_context, catalog)
 {
 }
 
@@ -89,8 +90,8 @@ QImage OpenGLTextureRenderer::gaussianBlur(const QImage &image, double sigma)
     if (!current || !hasBlurPrograms(input.size(), usedSigma, kGaussianWorkingSigma))
         return {};
     OwnedTexture texture = uploadTexture(m_passes.functions(), input, TextureEdge::Clamp);
-    const auto blurred = blurTexture(m_passes, texture.name(), input.size(), usedSigma, kGaussianWorkingSigma,
-                                     TextureEdge::Clamp, true);
+    const auto blurred =
+        blurTexture(m_passes, texture.name(), input.size(), usedSigma, kGaussianWorkingSigma, TextureEdge::Clamp, true);
     texture.reset(); // its memory serves the readback
     return blurred ? readFramebuffer(m_passes.functions(), *blurred) : QImage();
 }
@@ -132,8 +133,8 @@ QImage OpenGLTextureRenderer::renderMaskedBlurFilterShader(const QString &shader
     }
     if (descriptor->samplers.size() != kMaskedBlurSamplers || !holdsUniforms(uniformBytes, *descriptor)) {
         qCWarning(lcTexture) << "Masked blur shader invocation mismatch" << shaderId << "samplers expected"
-                             << descriptor->samplers.size() << "got 3 uniforms expected"
-                             << descriptor->uniforms.size() << "got" << uniformBytes.size() / kUniformVec4Bytes;
+                             << descriptor->samplers.size() << "got 3 uniforms expected" << descriptor->uniforms.size()
+                             << "got" << uniformBytes.size() / kUniformVec4Bytes;
         return {};
     }
     const double usedSourceSigma = std::max(finiteOrZero(sourceSigma), 0.0);
@@ -194,7 +195,8 @@ QImage OpenGLTextureRenderer::runMaskedBlur(const QString &shaderId, const QImag
         return {};
 
     // An image and its blur; the untouched texture stands in for a blur too small to see.
-    struct Input {
+    struct Input
+    {
         OwnedTexture texture;
         std::unique_ptr<QOpenGLFramebufferObject> blurred;
         GLuint blurredName = 0;
@@ -203,8 +205,8 @@ QImage OpenGLTextureRenderer::runMaskedBlur(const QString &shaderId, const QImag
         Input input{uploadTexture(m_passes.functions(), image, edge), nullptr, 0};
         input.blurredName = input.texture.name();
         if (sigma >= kSmallestBlur) {
-            input.blurred = blurTexture(m_passes, input.texture.name(), image.size(), sigma, kMaskedBlurWorkingSigma,
-                                        edge, false);
+            input.blurred =
+                blurTexture(m_passes, input.texture.name(), image.size(), sigma, kMaskedBlurWorkingSigma, edge, false);
             input.blurredName = input.blurred ? input.blurred->texture() : 0;
         }
         return input;

@@ -7,9 +7,9 @@
 
 namespace zm {
 
-/// The one object that draws on the GPU outside the window. Every operation takes pictures, runs its passes on a private
-/// context and gives pictures back; between two of them only programs stay on the GPU. Used on the thread that created
-/// it, which it blocks for as long as a pass runs.
+/// The one object that draws on the GPU outside the window. Every operation takes pictures, runs its passes on a
+/// private context and gives pictures back; between two of them only programs stay on the GPU. Used on the thread that
+/// created it, which it blocks for as long as a pass runs.
 class OpenGLTextureRenderer final : public ShaderTextureRenderer, public FilterUtilityRenderer
 {
 public:

@@ -7,7 +7,8 @@ class ShaderTextureRenderer;
 
 /// What everything that renders is given instead of a global: pointers to services that outlive it and are not owned.
 /// A null pointer to the aggregate, or a null member, means that no GPU is available for that service.
-struct RenderServices {
+struct RenderServices
+{
     ShaderTextureRenderer *textureRenderer = nullptr;
     FilterUtilityRenderer *filterRenderer = nullptr;
 };

@@ -4,7 +4,6 @@
 #include <QFile>
 #include <QOpenGLContext>
 #include <QStringList>
-
 #include <rhi/qshader.h>
 
 using namespace Qt::StringLiterals;
@@ -13,7 +12,8 @@ namespace zm {
 
 namespace {
 
-struct GlslVariantCandidate {
+struct GlslVariantCandidate
+{
     QShaderKey key;
     QString label;
 };
@@ -43,8 +43,8 @@ LoadedShaderStage loadShaderStage(const QString &resourcePath, const QOpenGLCont
 {
     QFile file(resourcePath);
     if (!file.open(QIODevice::ReadOnly)) {
-        error = QCoreApplication::translate("OpenGLProgram", "Could not open %1: %2")
-                    .arg(resourcePath, file.errorString());
+        error =
+            QCoreApplication::translate("OpenGLProgram", "Could not open %1: %2").arg(resourcePath, file.errorString());
         return {};
     }
     const QShader shader = QShader::fromSerialized(file.readAll());
@@ -54,8 +54,8 @@ LoadedShaderStage loadShaderStage(const QString &resourcePath, const QOpenGLCont
     }
 
     LoadedShaderStage stage;
-    // Both GLSL targets turn a block into a plain struct uniform, whose instance is what the reflection calls the struct
-    // name; the block name serves a package that kept real blocks.
+    // Both GLSL targets turn a block into a plain struct uniform, whose instance is what the reflection calls the
+    // struct name; the block name serves a package that kept real blocks.
     const QList<QShaderDescription::UniformBlock> blocks = shader.description().uniformBlocks();
     for (const QShaderDescription::UniformBlock &block : blocks) {
         appendUniformPrefix(stage.uniformPrefixes, block.structName);

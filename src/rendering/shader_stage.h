@@ -9,7 +9,8 @@ class QOpenGLContext;
 namespace zm {
 
 /// One stage of a shader package, as GLSL text for a context.
-struct LoadedShaderStage {
+struct LoadedShaderStage
+{
     QByteArray code;                   ///< GLSL source; empty means that the read failed
     QList<QByteArray> uniformPrefixes; ///< names under which the uniform data may be reached, without duplicates
     QString targetLabel;               ///< the chosen variant, such as "GLSL 330"

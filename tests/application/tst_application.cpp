@@ -15,7 +15,6 @@
 #include <QStyleHints>
 #include <QTemporaryDir>
 #include <QTest>
-
 #include <private/qguiapplication_p.h>
 #include <qpa/qplatformtheme.h>
 #include <qpa/qwindowsysteminterface.h>
@@ -68,7 +67,8 @@ public slots:
 private slots:
     void cleanup()
     {
-        while (!m_application.takePendingFileOpenRequest().isEmpty()) { }
+        while (!m_application.takePendingFileOpenRequest().isEmpty()) {
+        }
         ApplicationSettings().setThemeMode(u"system"_s);
     }
 
@@ -199,9 +199,9 @@ private slots:
         QCOMPARE(QGuiApplication::palette().color(QPalette::Window), dark);
 
         settings.setThemeMode(u"system"_s);
-        for (const auto &[scheme, window] : {std::pair(Qt::ColorScheme::Light, light),
-                                             std::pair(Qt::ColorScheme::Dark, dark),
-                                             std::pair(Qt::ColorScheme::Unknown, light)}) {
+        for (const auto &[scheme, window] :
+             {std::pair(Qt::ColorScheme::Light, light), std::pair(Qt::ColorScheme::Dark, dark),
+              std::pair(Qt::ColorScheme::Unknown, light)}) {
             m_desktop.choose(scheme);
             QCOMPARE(QGuiApplication::palette().color(QPalette::Window), window);
         }

@@ -112,10 +112,9 @@ private slots:
         QCOMPARE(resolveLanguage({}, {}), u"en"_s);
         QCOMPARE(resolveLanguage({}, {u"eu-ES"_s, u"es-ES"_s}), u"en"_s); // only the first counts
         const QList<std::pair<QString, QString>> cases{
-            {u"de-AT"_s, u"de"_s},         {u"fil-PH"_s, u"fil"_s},    {u"no-NO"_s, u"nb"_s},
-            {u"nn-NO"_s, u"en"_s},         {u"pt-BR"_s, u"pt_PT"_s},   {u"zh-CN"_s, u"zh_CN"_s},
-            {u"zh-Hans-SG"_s, u"zh_CN"_s}, {u"zh-TW"_s, u"en"_s},      {u"zh-Hant"_s, u"en"_s},
-            {u"hi-Latn-IN"_s, u"en"_s},    {u"not a locale"_s, u"en"_s},
+            {u"de-AT"_s, u"de"_s},    {u"fil-PH"_s, u"fil"_s},    {u"no-NO"_s, u"nb"_s},         {u"nn-NO"_s, u"en"_s},
+            {u"pt-BR"_s, u"pt_PT"_s}, {u"zh-CN"_s, u"zh_CN"_s},   {u"zh-Hans-SG"_s, u"zh_CN"_s}, {u"zh-TW"_s, u"en"_s},
+            {u"zh-Hant"_s, u"en"_s},  {u"hi-Latn-IN"_s, u"en"_s}, {u"not a locale"_s, u"en"_s},
         };
         for (const auto &[system, expected] : cases)
             QCOMPARE(std::pair(system, resolveLanguage({}, {system})), std::pair(system, expected));
@@ -178,7 +177,7 @@ private slots:
     void recentFilesAreCleanedAtLoad()
     {
         writeStore("[files]\nrecentZelmoraFiles=/a/One.zelmora, /a/one.ZELMORA, /a/photo.png, \"  \", "
-                      "\" /a/x/../two.zelmora \", /3.zelmora, /4.zelmora, /5.zelmora, /6.zelmora\n");
+                   "\" /a/x/../two.zelmora \", /3.zelmora, /4.zelmora, /5.zelmora, /6.zelmora\n");
         const QStringList expected{u"/a/One.zelmora"_s, u"/a/two.zelmora"_s, u"/3.zelmora"_s, u"/4.zelmora"_s,
                                    u"/5.zelmora"_s};
         QCOMPARE(ApplicationSettings().recentFilePaths(), expected);

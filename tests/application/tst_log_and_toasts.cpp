@@ -56,8 +56,10 @@ private slots:
     {
         const QTemporaryDir folder;
         LogWriter writer(folder.filePath(u"logs"_s), collect);
-        const QList<std::pair<QtMsgType, QByteArray>> levels{{QtDebugMsg, "Debug:"},       {QtInfoMsg, "Info:"},
-                                                             {QtWarningMsg, "Warning:"},   {QtFatalMsg, "Fatal:"},
+        const QList<std::pair<QtMsgType, QByteArray>> levels{{QtDebugMsg, "Debug:"},
+                                                             {QtInfoMsg, "Info:"},
+                                                             {QtWarningMsg, "Warning:"},
+                                                             {QtFatalMsg, "Fatal:"},
                                                              {QtCriticalMsg, "Critical:"}};
         QByteArray expected;
         for (const auto &[type, word] : levels) {
@@ -92,7 +94,8 @@ private slots:
         const QByteArray shown = runProbe(data.path(), {u"--threads"_s});
         const QByteArrayList lines = contents(data.filePath(u"LogProbe/logs/info.log"_s)).split('\n');
         QCOMPARE(lines.size(), 1 + 4 * 500 + 1);
-        static const QRegularExpression whole(u"^[\\d/]{10} [\\d:,]{12} - (Debug: line \\d+|Info: Application log: .*)\r$"_s);
+        static const QRegularExpression whole(
+            u"^[\\d/]{10} [\\d:,]{12} - (Debug: line \\d+|Info: Application log: .*)\r$"_s);
         for (const QByteArray &line : lines.first(lines.size() - 1))
             QVERIFY2(whole.match(QString::fromUtf8(line)).hasMatch(), line.constData());
         QCOMPARE(shown.count("within"), 4 * 500 + 1);

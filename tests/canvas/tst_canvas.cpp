@@ -1,5 +1,4 @@
 #include "canvas_scene.h"
-
 #include "document/image_layer.h"
 
 #include <QDragEnterEvent>

@@ -90,8 +90,8 @@ private slots:
         QTest::newRow("tiles finer than the view")
             << QRectF(-50, -40, 100, 80) << 2.0 << 1.0 << QRectF(0, 0, 100, 80) << linear;
         // The tile is snapped outward to whole pixels, so it begins left of the item.
-        QTest::newRow("between pixels")
-            << QRectF(-50.25, -40.5, 100, 80) << 2.0 << 2.0 << QRectF(-0.5, 0, 201, 160) << linear;
+        QTest::newRow("between pixels") << QRectF(-50.25, -40.5, 100, 80) << 2.0 << 2.0 << QRectF(-0.5, 0, 201, 160)
+                                        << linear;
         QTest::newRow("view scale beyond what filtering compares")
             << QRectF(-1, -1, 2, 2) << 32.0 << 100.0 << QRectF(0, 0, 200, 200) << nearest;
     }

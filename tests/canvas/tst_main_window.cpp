@@ -40,7 +40,10 @@ class TestMainWindow : public QObject
     Q_OBJECT
 
 public:
-    explicit TestMainWindow(Application &application) : m_application(application) {}
+    explicit TestMainWindow(Application &application)
+        : m_application(application)
+    {
+    }
 
 private slots:
     void initTestCase()
@@ -220,8 +223,9 @@ private:
 
     QQuickItem *itemOfType(const char *type)
     {
-        return findItem(m_window->contentItem(),
-                        [type](QQuickItem *item) { return QByteArray(item->metaObject()->className()).startsWith(type); });
+        return findItem(m_window->contentItem(), [type](QQuickItem *item) {
+            return QByteArray(item->metaObject()->className()).startsWith(type);
+        });
     }
 
     /// The control or label that says text.

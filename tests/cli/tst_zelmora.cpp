@@ -12,7 +12,6 @@
 #include <QTest>
 
 #include <csignal>
-
 #include <sys/resource.h>
 
 using namespace zm;
@@ -49,8 +48,9 @@ private slots:
         QVERIFY(test::gradientPicture(300, 201).save(path("photo.jpg"), "jpeg", 95));
         QVERIFY(test::plainPicture(40, 40, QColor(0, 0, 255, 128)).save(path("glass.png")));
         QVERIFY(test::plainPicture(4, 4, Qt::green).save(path("tiny.png")));
-        write("drawing.svg", "<svg xmlns='http://www.w3.org/2000/svg' width='64' height='48'>"
-                             "<rect width='64' height='48' fill='#f00'/></svg>");
+        write("drawing.svg",
+              "<svg xmlns='http://www.w3.org/2000/svg' width='64' height='48'>"
+              "<rect width='64' height='48' fill='#f00'/></svg>");
         write("empty.png", {});
         QFile photo(path("photo.jpg"));
         QVERIFY(photo.open(QIODevice::ReadOnly));
@@ -102,13 +102,26 @@ private slots:
     void wrongUsageIsStatusTwoWithTheUsageLine_data()
     {
         QTest::addColumn<QString>("arguments");
-        for (const char *arguments :
-             {"", "paint photo.jpg", "info", "info --verbose photo.jpg", "info --json=yes photo.jpg", "export photo.jpg",
-              "export a b c.png", "export photo.jpg out.gif", "export photo.jpg out", "export --quality 101 photo.jpg o.jpg",
-              "export --quality photo.jpg", "export --width 15 photo.jpg o.jpg", "export --height 8193 photo.jpg o.jpg",
-              "export --max-side big photo.jpg o.jpg", "export --transparent photo.jpg o.jpg", "export --into",
-              "export --into folder.png", "export --into . --format gif photo.jpg", "export --format png photo.jpg o.png",
-              "export --into . --transparent photo.jpg"})
+        for (const char *arguments : {"",
+                                      "paint photo.jpg",
+                                      "info",
+                                      "info --verbose photo.jpg",
+                                      "info --json=yes photo.jpg",
+                                      "export photo.jpg",
+                                      "export a b c.png",
+                                      "export photo.jpg out.gif",
+                                      "export photo.jpg out",
+                                      "export --quality 101 photo.jpg o.jpg",
+                                      "export --quality photo.jpg",
+                                      "export --width 15 photo.jpg o.jpg",
+                                      "export --height 8193 photo.jpg o.jpg",
+                                      "export --max-side big photo.jpg o.jpg",
+                                      "export --transparent photo.jpg o.jpg",
+                                      "export --into",
+                                      "export --into folder.png",
+                                      "export --into . --format gif photo.jpg",
+                                      "export --format png photo.jpg o.png",
+                                      "export --into . --transparent photo.jpg"})
             QTest::newRow(*arguments ? arguments : "nothing") << QString::fromLatin1(arguments);
     }
 
@@ -194,8 +207,9 @@ private slots:
         const Run run = zelmora({u"export"_s, u"--into"_s, u"out"_s, u"--format"_s, u"webp"_s, u"photo.jpg"_s,
                                  u"empty.png"_s, u"tiny.png"_s, u"./tiny.png"_s});
         QCOMPARE(run.status, 1);
-        QCOMPARE(run.errors, u"zelmora: ./tiny.png: The output out/tiny.webp would replace another file of this call.\n"
-                              "zelmora: empty.png: Could not load the selected image file.\n"_s);
+        QCOMPARE(run.errors,
+                 u"zelmora: ./tiny.png: The output out/tiny.webp would replace another file of this call.\n"
+                 "zelmora: empty.png: Could not load the selected image file.\n"_s);
         QCOMPARE(QDir(path("out")).entryList(QDir::Files), QStringList({u"photo.webp"_s, u"tiny.webp"_s}));
     }
 
@@ -293,8 +307,9 @@ private slots:
     void anyEnvironmentWillDo()
     {
         QFETCH(QStringList, environment);
-        write("text.svg", "<svg xmlns='http://www.w3.org/2000/svg' width='64' height='48'>"
-                          "<text y='40' font-size='40'>Text</text></svg>");
+        write("text.svg",
+              "<svg xmlns='http://www.w3.org/2000/svg' width='64' height='48'>"
+              "<text y='40' font-size='40'>Text</text></svg>");
         write("x.zelmora", "not yet a document"); // asks for OpenGL before it is looked at
         QProcess process;
         process.setEnvironment(environment);

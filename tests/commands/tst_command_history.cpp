@@ -70,9 +70,8 @@ private slots:
         m_log.clear();
         m_destroyed.clear();
         const auto log = [this](auto signal, const QString &what) {
-            connect(m_history.get(), signal, this, [this, what](const auto &value) {
-                m_log.append(what + u' ' + QVariant(value).toString());
-            });
+            connect(m_history.get(), signal, this,
+                    [this, what](const auto &value) { m_log.append(what + u' ' + QVariant(value).toString()); });
         };
         log(&CommandHistory::canUndoChanged, u"canUndo"_s);
         log(&CommandHistory::canRedoChanged, u"canRedo"_s);
@@ -97,16 +96,16 @@ private slots:
         m_history->undo();
         QCOMPARE(takeLog(), QStringList({u"canRedo true"_s, u"undoText to 1"_s, u"redoText to 2"_s, u"index 1"_s}));
         m_history->undo();
-        QCOMPARE(takeLog(), QStringList({u"canUndo false"_s, u"undoText "_s, u"redoText to 1"_s, u"clean true"_s,
-                                         u"index 0"_s}));
+        QCOMPARE(takeLog(),
+                 QStringList({u"canUndo false"_s, u"undoText "_s, u"redoText to 1"_s, u"clean true"_s, u"index 0"_s}));
         m_history->redo();
         QCOMPARE(m_number, 1);
         takeLog();
         m_history->setClean();
         QCOMPARE(takeLog(), QStringList(u"clean true"_s));
         m_history->clear();
-        QCOMPARE(takeLog(), QStringList({u"canUndo false"_s, u"canRedo false"_s, u"undoText "_s, u"redoText "_s,
-                                         u"index 0"_s}));
+        QCOMPARE(takeLog(),
+                 QStringList({u"canUndo false"_s, u"canRedo false"_s, u"undoText "_s, u"redoText "_s, u"index 0"_s}));
         QCOMPARE(m_history->memoryUsed(), 0);
     }
 
@@ -185,8 +184,8 @@ private slots:
         m_history->undo();
         takeLog();
         push(10, 1);
-        QCOMPARE(takeLog(), QStringList({u"canRedo false"_s, u"undoText to 10"_s, u"redoText "_s, u"clean true"_s,
-                                         u"index 1"_s}));
+        QCOMPARE(takeLog(),
+                 QStringList({u"canRedo false"_s, u"undoText to 10"_s, u"redoText "_s, u"clean true"_s, u"index 1"_s}));
         push(2, 1);
         m_history->setClean();
         push(3, 1);

@@ -227,9 +227,11 @@ private slots:
         } cases[] = {
             {u"Add Layer 7"_s, {}, [](Document *d) { return new AddSceneObjectCommand(d, makeLayer(7), 1); }},
             {u"Remove Layer 2"_s, {}, [=](Document *d) { return new RemoveSceneObjectCommand(d, id); }},
-            {u"Rasterize Layer"_s, {},
+            {u"Rasterize Layer"_s,
+             {},
              [=](Document *d) { return new ReplaceSceneObjectCommand(d, id, makeLayer(2, Qt::blue), {}); }},
-            {u"Combine Layers"_s, {},
+            {u"Combine Layers"_s,
+             {},
              [=](Document *d) { return new CollapseLayerDownCommand(d, id, testId(3), makeLayer(2, Qt::blue)); }},
             {u"Move Layer Up"_s, {}, [=](Document *d) { return new MoveSceneObjectCommand(d, id, 3); }},
             {u"Move Layer Down"_s, {}, [=](Document *d) { return new MoveSceneObjectCommand(d, id, 0); }},
@@ -327,8 +329,8 @@ private slots:
         DocumentLog log(document);
         scene.history.redo();
         QCOMPARE(document.objectAt(4), added);
-        QCOMPARE(log.take(), QStringList({u"objectAboutToBeInserted 4 #7"_s, u"objectInserted 4 #7"_s,
-                                          u"selectionChanged #7"_s}));
+        QCOMPARE(log.take(),
+                 QStringList({u"objectAboutToBeInserted 4 #7"_s, u"objectInserted 4 #7"_s, u"selectionChanged #7"_s}));
         const SceneObject *third = document.objectAt(2);
         scene.push<RemoveSceneObjectCommand>(testId(3));
         scene.history.undo();

@@ -93,8 +93,9 @@ private slots:
         QVERIFY(!document.setSize(QSizeF(kNaN, kInfinity)));
         QVERIFY(document.setBackgroundColor(QColor(0, 0, 255, 128)));
         QVERIFY(document.setBackgroundColor(QColor()));
-        QCOMPARE(log.take(), QStringList({u"sizeChanged 1x1"_s, u"backgroundColorChanged #800000ff"_s,
-                                          u"backgroundColorChanged #ffffffff"_s}));
+        QCOMPARE(log.take(),
+                 QStringList({u"sizeChanged 1x1"_s, u"backgroundColorChanged #800000ff"_s,
+                              u"backgroundColorChanged #ffffffff"_s}));
     }
 
     void listChangesAreSignalledOnBothSides()
@@ -105,21 +106,23 @@ private slots:
         const SceneObject *inserted = document.insertObject(makeLayer(3), 1);
         QCOMPARE(document.object(testId(3)), inserted);
         document.insertObject(makeLayer(4), 3);
-        QCOMPARE(log.take(), QStringList({u"objectAboutToBeInserted 1 #3"_s, u"objectInserted 1 #3"_s,
-                                          u"objectAboutToBeInserted 3 #4"_s, u"objectInserted 3 #4"_s}));
+        QCOMPARE(log.take(),
+                 QStringList({u"objectAboutToBeInserted 1 #3"_s, u"objectInserted 1 #3"_s,
+                              u"objectAboutToBeInserted 3 #4"_s, u"objectInserted 3 #4"_s}));
         QCOMPARE(order(document), QList<uint>({1, 3, 2, 4}));
         QVERIFY(document.moveObject(testId(1), 2));
         QCOMPARE(order(document), QList<uint>({3, 2, 1, 4}));
         QVERIFY(document.moveObject(testId(4), 0));
         QCOMPARE(order(document), QList<uint>({4, 3, 2, 1}));
-        QCOMPARE(log.take(), QStringList({u"objectAboutToBeMoved 0 2 #1"_s, u"objectMoved 0 2 #1"_s,
-                                          u"objectAboutToBeMoved 3 0 #4"_s, u"objectMoved 3 0 #4"_s}));
+        QCOMPARE(log.take(),
+                 QStringList({u"objectAboutToBeMoved 0 2 #1"_s, u"objectMoved 0 2 #1"_s,
+                              u"objectAboutToBeMoved 3 0 #4"_s, u"objectMoved 3 0 #4"_s}));
 
         QVERIFY(document.selectObject(testId(3)));
         QVERIFY(document.clearSelection());
         QVERIFY(document.selectObject(testId(2)));
-        QCOMPARE(log.take(), QStringList({u"selectionChanged #3"_s, u"selectionChanged #0"_s,
-                                          u"selectionChanged #2"_s}));
+        QCOMPARE(log.take(),
+                 QStringList({u"selectionChanged #3"_s, u"selectionChanged #0"_s, u"selectionChanged #2"_s}));
         bool isThereWhenDeselected = false;
         connect(&document, &Document::selectionChanged, this,
                 [&] { isThereWhenDeselected = document.object(testId(2)) != nullptr; });
@@ -127,8 +130,8 @@ private slots:
         QCOMPARE(document.takeObject(testId(2), &index)->id(), testId(2));
         QCOMPARE(index, 2);
         QVERIFY(isThereWhenDeselected);
-        QCOMPARE(log.take(), QStringList({u"objectAboutToBeRemoved 2 #2"_s, u"selectionChanged #0"_s,
-                                          u"objectRemoved 2 #2"_s}));
+        QCOMPARE(log.take(),
+                 QStringList({u"objectAboutToBeRemoved 2 #2"_s, u"selectionChanged #0"_s, u"objectRemoved 2 #2"_s}));
     }
 
     void refusedListChangesLeaveNoTrace()

@@ -58,11 +58,11 @@ struct Stage
         document.setSize({16.0, 16.0});
         using Model = ScenePresentationModel;
         const QList<std::pair<void (Model::*)(), QString>> signalNames{
-            {&Model::documentSizeChanged, u"size"_s},      {&Model::sceneRectChanged, u"sceneRect"_s},
-            {&Model::viewportRectChanged, u"viewport"_s},  {&Model::minimumSceneSizeChanged, u"minimum"_s},
-            {&Model::renderScaleChanged, u"scale"_s},      {&Model::fixedDocumentBoundsChanged, u"fixed"_s},
-            {&Model::selectionChanged, u"selection"_s},    {&Model::documentBoundsVisibleChanged, u"outline"_s},
-            {&Model::sceneImageChanged, u"image"_s},       {&Model::suppressedObjectIdChanged, u"suppressed"_s}};
+            {&Model::documentSizeChanged, u"size"_s},     {&Model::sceneRectChanged, u"sceneRect"_s},
+            {&Model::viewportRectChanged, u"viewport"_s}, {&Model::minimumSceneSizeChanged, u"minimum"_s},
+            {&Model::renderScaleChanged, u"scale"_s},     {&Model::fixedDocumentBoundsChanged, u"fixed"_s},
+            {&Model::selectionChanged, u"selection"_s},   {&Model::documentBoundsVisibleChanged, u"outline"_s},
+            {&Model::sceneImageChanged, u"image"_s},      {&Model::suppressedObjectIdChanged, u"suppressed"_s}};
         for (const auto &[signal, name] : signalNames)
             QObject::connect(&model, signal, &model, [this, name = name] { heard += name; });
     }

@@ -58,22 +58,55 @@ QString letters(const QImage &image)
 // The blend functions of the W3C recommendation "Compositing and Blending Level 1" for opaque colours: b is the
 // backdrop, s the source, both 0..1.
 using BlendFunction = double (*)(double b, double s);
-double normal(double, double s) { return s; }
-double multiply(double b, double s) { return b * s; }
-double screen(double b, double s) { return b + s - b * s; }
-double hardLight(double b, double s) { return s <= 0.5 ? multiply(b, 2.0 * s) : screen(b, 2.0 * s - 1.0); }
-double overlay(double b, double s) { return hardLight(s, b); }
-double darken(double b, double s) { return std::min(b, s); }
-double lighten(double b, double s) { return std::max(b, s); }
-double colorDodge(double b, double s) { return b == 0.0 ? 0.0 : s == 1.0 ? 1.0 : std::min(1.0, b / (1.0 - s)); }
-double colorBurn(double b, double s) { return b == 1.0 ? 1.0 : s == 0.0 ? 0.0 : 1.0 - std::min(1.0, (1.0 - b) / s); }
+double normal(double, double s)
+{
+    return s;
+}
+double multiply(double b, double s)
+{
+    return b * s;
+}
+double screen(double b, double s)
+{
+    return b + s - b * s;
+}
+double hardLight(double b, double s)
+{
+    return s <= 0.5 ? multiply(b, 2.0 * s) : screen(b, 2.0 * s - 1.0);
+}
+double overlay(double b, double s)
+{
+    return hardLight(s, b);
+}
+double darken(double b, double s)
+{
+    return std::min(b, s);
+}
+double lighten(double b, double s)
+{
+    return std::max(b, s);
+}
+double colorDodge(double b, double s)
+{
+    return b == 0.0 ? 0.0 : s == 1.0 ? 1.0 : std::min(1.0, b / (1.0 - s));
+}
+double colorBurn(double b, double s)
+{
+    return b == 1.0 ? 1.0 : s == 0.0 ? 0.0 : 1.0 - std::min(1.0, (1.0 - b) / s);
+}
 double softLight(double b, double s)
 {
     const double d = b <= 0.25 ? ((16.0 * b - 12.0) * b + 4.0) * b : std::sqrt(b);
     return s <= 0.5 ? b - (1.0 - 2.0 * s) * b * (1.0 - b) : b + (2.0 * s - 1.0) * (d - b);
 }
-double difference(double b, double s) { return std::abs(b - s); }
-double exclusion(double b, double s) { return b + s - 2.0 * b * s; }
+double difference(double b, double s)
+{
+    return std::abs(b - s);
+}
+double exclusion(double b, double s)
+{
+    return b + s - 2.0 * b * s;
+}
 
 } // namespace
 
@@ -84,13 +117,23 @@ class TestSceneRendering : public QObject
 private slots:
     void blendsAsPublished()
     {
-        const QList<std::pair<QString, BlendFunction>> modes{
-            {u"source-over"_s, normal},     {u"multiply"_s, multiply},      {u"screen"_s, screen},
-            {u"overlay"_s, overlay},        {u"darken"_s, darken},          {u"lighten"_s, lighten},
-            {u"color-dodge"_s, colorDodge}, {u"color-burn"_s, colorBurn},   {u"hard-light"_s, hardLight},
-            {u"soft-light"_s, softLight},   {u"difference"_s, difference},  {u"exclusion"_s, exclusion},
-            {u"hue"_s, normal},             {u"saturation"_s, normal},      {u"color"_s, normal},
-            {u"luminosity"_s, normal},      {u"no such mode"_s, normal}};
+        const QList<std::pair<QString, BlendFunction>> modes{{u"source-over"_s, normal},
+                                                             {u"multiply"_s, multiply},
+                                                             {u"screen"_s, screen},
+                                                             {u"overlay"_s, overlay},
+                                                             {u"darken"_s, darken},
+                                                             {u"lighten"_s, lighten},
+                                                             {u"color-dodge"_s, colorDodge},
+                                                             {u"color-burn"_s, colorBurn},
+                                                             {u"hard-light"_s, hardLight},
+                                                             {u"soft-light"_s, softLight},
+                                                             {u"difference"_s, difference},
+                                                             {u"exclusion"_s, exclusion},
+                                                             {u"hue"_s, normal},
+                                                             {u"saturation"_s, normal},
+                                                             {u"color"_s, normal},
+                                                             {u"luminosity"_s, normal},
+                                                             {u"no such mode"_s, normal}};
         // The channels fall on both sides of every condition of the formulas.
         const std::array source{80, 180, 240};
         const std::array backdrop{kBackground.red(), kBackground.green(), kBackground.blue()};

@@ -1,9 +1,8 @@
-#include "editor/document_file_controller.h"
-
 #include "application/runtime_flags.h"
 #include "commands/command_history.h"
 #include "commands/object_property_commands.h"
 #include "document/document.h"
+#include "editor/document_file_controller.h"
 #include "support/pictures.h"
 
 #include <QSignalSpy>
@@ -203,7 +202,8 @@ void DocumentFileControllerTest::resetsToABlankDocument()
 void DocumentFileControllerTest::showsUrls()
 {
     const Session session;
-    QCOMPARE(session.controller.displayPath(url(u"a b.png"_s)), QDir::toNativeSeparators(m_folder.filePath(u"a b.png"_s)));
+    QCOMPARE(session.controller.displayPath(url(u"a b.png"_s)),
+             QDir::toNativeSeparators(m_folder.filePath(u"a b.png"_s)));
     QCOMPARE(session.controller.displayFileName(url(u"a b.png"_s)), u"a b.png"_s);
     QCOMPARE(session.controller.displayPath(QUrl(u"https://example.org/a/b.png"_s)), u"https://example.org/a/b.png"_s);
     QCOMPARE(session.controller.displayFileName(QUrl(u"https://example.org/a/b.png"_s)), u"b.png"_s);

@@ -202,8 +202,8 @@ private slots:
     {
         const SceneSnapshot scene = snapshotOf(test::gradientPicture(20, 16));
         const ExportResult result = exportImage(scene, settingsFor(u"png"_s, {40, 32}));
-        const QImage expected = test::gradientPicture(20, 16).scaled(40, 32, Qt::IgnoreAspectRatio,
-                                                                     Qt::SmoothTransformation);
+        const QImage expected =
+            test::gradientPicture(20, 16).scaled(40, 32, Qt::IgnoreAspectRatio, Qt::SmoothTransformation);
         QCOMPARE(test::maximumDifference(QImage::fromData(result.bytes), expected), 0);
         QCOMPARE(QImage::fromData(exportImage(scene, settingsFor(u"jpeg"_s, {17, 99})).bytes).size(), QSize(17, 99));
     }
@@ -211,15 +211,15 @@ private slots:
     void aCancelledExportGivesNothing()
     {
         const std::atomic_bool cancelled = true;
-        const ExportResult result = exportImage(snapshotOf(test::gradientPicture(20, 20)),
-                                                settingsFor(u"png"_s, {20, 20}), &cancelled);
+        const ExportResult result =
+            exportImage(snapshotOf(test::gradientPicture(20, 20)), settingsFor(u"png"_s, {20, 20}), &cancelled);
         QVERIFY(result.cancelled && result.bytes.isEmpty() && result.error.isEmpty());
     }
 
     void encodersThatCannotAreTold()
     {
-        const ExportResult result = exportImage(snapshotOf(test::gradientPicture(20, 20)),
-                                                settingsFor(u"webp"_s, {16'384, 16}));
+        const ExportResult result =
+            exportImage(snapshotOf(test::gradientPicture(20, 20)), settingsFor(u"webp"_s, {16'384, 16}));
         QVERIFY(result.bytes.isEmpty());
         QVERIFY2(result.error.startsWith(u"Could not encode the saved image: "_s), qPrintable(result.error));
     }
@@ -251,12 +251,14 @@ private slots:
 
     void jpegTagReplacesWhatWasThere()
     {
-        QByteArray file = exportImage(snapshotOf(test::gradientPicture(20, 20)), settingsFor(u"jpeg"_s, {20, 20})).bytes;
+        QByteArray file =
+            exportImage(snapshotOf(test::gradientPicture(20, 20)), settingsFor(u"jpeg"_s, {20, 20})).bytes;
         QCOMPARE(file.count("Exif"), 1);
         const qsizetype tiff = file.indexOf("Exif") + 6;
         // One entry: Software, ASCII, 16 bytes at offset 26 of the little-endian TIFF.
-        QCOMPARE(file.sliced(tiff, 26).toHex(), "49492a000800000001003101020010000000"
-                                                 "1a00000000000000"_ba);
+        QCOMPARE(file.sliced(tiff, 26).toHex(),
+                 "49492a000800000001003101020010000000"
+                 "1a00000000000000"_ba);
         QCOMPARE(file.sliced(tiff + 26, 16), QByteArray("Zelmora Atelier\0", 16));
         QVERIFY(embedSoftwareTag(file, "jpeg", u"Ex\u00e9"_s));
         QCOMPARE(file.count("Exif"), 1);
@@ -267,8 +269,9 @@ private slots:
     void webpTagKeepsTheOtherChunks()
     {
         for (const QString &key : {u"webp"_s, u"webpTransparent"_s}) {
-            const QByteArray file = exportImage(snapshotOf(test::plainPicture(40, 20, QColor(9, 9, 9, 99))),
-                                                settingsFor(key, {40, 20})).bytes;
+            const QByteArray file =
+                exportImage(snapshotOf(test::plainPicture(40, 20, QColor(9, 9, 9, 99))), settingsFor(key, {40, 20}))
+                    .bytes;
             const QByteArrayList names = chunkNames(file);
             QCOMPARE(names.first(), "VP8X"_ba);
             QCOMPARE(names.last(), "EXIF"_ba);
@@ -293,7 +296,8 @@ private slots:
         QTest::newRow("no jpeg") << "jpeg"_ba << "GIF89a"_ba;
         QTest::newRow("jpeg cut in a segment") << "jpeg"_ba << QByteArray("\xFF\xD8\xFF\xE0\x00\x10JF", 8);
         QTest::newRow("jpeg without a scan") << "jpeg"_ba << "\xFF\xD8"_ba;
-        QTest::newRow("extended header of 9 bytes") << "webp"_ba << webpOf(chunk("VP8X", QByteArray(9, '\0')) + lossless);
+        QTest::newRow("extended header of 9 bytes")
+            << "webp"_ba << webpOf(chunk("VP8X", QByteArray(9, '\0')) + lossless);
         QTest::newRow("wrong outer size") << "webp"_ba << webpOf(lossless) + "x";
         QTest::newRow("chunk overruns") << "webp"_ba << webpOf(lossless.chopped(1));
         QTest::newRow("no picture") << "webp"_ba << webpOf(chunk("ABCD", "12"));

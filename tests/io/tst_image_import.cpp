@@ -53,10 +53,12 @@ QByteArray pngHeaderOnly(quint32 width, quint32 height)
 
 QByteArray smallGif()
 {
-    return QByteArray::fromHex("47494638396101000100800000ff0000ffffff21f90400000000002c00000000010001000002024401003b");
+    return QByteArray::fromHex(
+        "47494638396101000100800000ff0000ffffff21f90400000000002c00000000010001000002024401003b");
 }
 
-const QByteArray kSvg = R"(<svg xmlns="http://www.w3.org/2000/svg" viewBox="0 0 40 30"><rect width="9" height="9"/></svg>)";
+const QByteArray kSvg =
+    R"(<svg xmlns="http://www.w3.org/2000/svg" viewBox="0 0 40 30"><rect width="9" height="9"/></svg>)";
 
 } // namespace
 
@@ -95,14 +97,14 @@ private slots:
         QTest::newRow("gif") << u"x.gif"_s << smallGif() << u"x"_s << QSizeF(1, 1);
         QTest::newRow("no base name") << u".png"_s << encoded(picture, "png") << u"Image"_s << QSizeF(31, 20);
         QTest::newRow("density suffix") << u"x@2x.png"_s << encoded(picture, "png") << u"x@2x"_s << QSizeF(31, 20);
-        QTest::newRow("16 bits a channel") << u"x.png"_s << encoded(picture.convertToFormat(QImage::Format_RGBA64), "png")
-                                           << u"x"_s << QSizeF(31, 20);
+        QTest::newRow("16 bits a channel")
+            << u"x.png"_s << encoded(picture.convertToFormat(QImage::Format_RGBA64), "png") << u"x"_s << QSizeF(31, 20);
         QTest::newRow("palette") << u"x.png"_s << encoded(picture.convertToFormat(QImage::Format_Indexed8), "png")
                                  << u"x"_s << QSizeF(31, 20);
         QTest::newRow("svg") << u"x.SvG"_s << kSvg << u"x"_s << QSizeF(40, 30);
         QTest::newRow("quarter turn") << u"x.jpg"_s << orientedJpeg(picture, 6) << u"x"_s << QSizeF(20, 31);
-        QTest::newRow("data behind the end") << u"x.jpg"_s << encoded(picture, "jpeg") + QByteArray(99, 'x') << u"x"_s
-                                             << QSizeF(31, 20);
+        QTest::newRow("data behind the end")
+            << u"x.jpg"_s << encoded(picture, "jpeg") + QByteArray(99, 'x') << u"x"_s << QSizeF(31, 20);
     }
 
     void filesOpenByWhatTheyHold()
@@ -167,7 +169,8 @@ private slots:
         QTest::newRow("greatest dimensions") << u"x.png"_s << pngHeaderOnly(0x7FFFFFFF, 0x7FFFFFFF) << cannotLoad;
         QTest::newRow("empty svg") << u"x.svg"_s << QByteArray() << badSvg;
         QTest::newRow("png called svg") << u"x.svg"_s << encoded(picture, "png") << badSvg;
-        QTest::newRow("svg without a size") << u"x.svg"_s << R"(<svg xmlns="http://www.w3.org/2000/svg"/>)"_ba << badSvg;
+        QTest::newRow("svg without a size")
+            << u"x.svg"_s << R"(<svg xmlns="http://www.w3.org/2000/svg"/>)"_ba << badSvg;
         QTest::newRow("svg above the limit")
             << u"x.svg"_s << R"(<svg xmlns="http://www.w3.org/2000/svg" width="99999" height="99999"/>)"_ba << badSvg;
     }

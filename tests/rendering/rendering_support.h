@@ -3,7 +3,6 @@
 #include <QByteArray>
 #include <QImage>
 #include <QStringList>
-
 #include <rhi/qshader.h>
 
 namespace zm::test {

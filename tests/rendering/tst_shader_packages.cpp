@@ -1,9 +1,8 @@
-#include "rendering_support.h"
-
 #include "application/user_notification_center.h"
 #include "rendering/offscreen_context.h"
 #include "rendering/opengl_program.h"
 #include "rendering/shader_stage.h"
+#include "rendering_support.h"
 
 #include <QDirIterator>
 #include <QGuiApplication>

@@ -1,9 +1,8 @@
-#include "rendering_support.h"
-
 #include "application/user_notification_center.h"
 #include "rendering/image_transfer.h"
 #include "rendering/multi_scale_blur.h"
 #include "rendering/opengl_texture_renderer.h"
+#include "rendering_support.h"
 #include "support/pictures.h"
 
 #include <QOpenGLExtraFunctions>
@@ -55,8 +54,12 @@ QImage blackAndWhite(int width, int height, const QRect &white)
 FilterShaderDescriptor library(const QString &id, const QString &resource, const QList<QByteArray> &samplers,
                                const QList<QByteArray> &uniforms)
 {
-    return {u"fx/"_s + id, id, resource, samplers,
-            uniforms.isEmpty() ? QList<QByteArray>() : QList<QByteArray>{"LibraryUniforms"}, uniforms};
+    return {u"fx/"_s + id,
+            id,
+            resource,
+            samplers,
+            uniforms.isEmpty() ? QList<QByteArray>() : QList<QByteArray>{"LibraryUniforms"},
+            uniforms};
 }
 
 const QImage kWhite = plainPicture(2, 2, Qt::white);
@@ -115,7 +118,8 @@ private slots:
         QVERIFY(passes.drawPass(u"textureCopy"_s, {&name, 1}, target.get()));
         QImage converted = target->toImage(false);
         QVERIFY(converted.reinterpretAsFormat(converted.format() == QImage::Format_ARGB32_Premultiplied
-                                                  ? QImage::Format_ARGB32 : QImage::Format_RGBA8888));
+                                                  ? QImage::Format_ARGB32
+                                                  : QImage::Format_RGBA8888));
         QCOMPARE(readFramebuffer(passes.functions(), *target), converted.convertToFormat(QImage::Format_RGBA8888));
     }
 
@@ -221,7 +225,8 @@ private slots:
         QCOMPARE(toasts.first().at(1).toString(), u"broken"_s);
         const QStringList told = warnings.messages();
         QCOMPARE(told.size(), 2);
-        QCOMPARE(told.last(), u"Shader interface mismatch for filter utility \"fx/broken\" uniform prefixes \"<none>\""_s);
+        QCOMPARE(told.last(),
+                 u"Shader interface mismatch for filter utility \"fx/broken\" uniform prefixes \"<none>\""_s);
         // A package mended meanwhile would load: it is not looked at again.
         QVERIFY(QFile::remove(m_folder.filePath(u"broken.qsb"_s)));
         QVERIFY(QFile::copy(u":/zelmoraatelier/shaders/filter-utils/util_texture_copy.frag.qsb"_s,
@@ -237,13 +242,16 @@ private slots:
         QTest::addColumn<int>("images");
         QTest::addColumn<int>("bytes");
         QTest::addColumn<QString>("warning");
-        const QString mismatch = u"Filter shader invocation mismatch \"scale\" samplers expected 1 got %1 uniforms expected 2 got %2"_s;
+        const QString mismatch =
+            u"Filter shader invocation mismatch \"scale\" samplers expected 1 got %1 uniforms expected 2 got %2"_s;
         QTest::newRow("unknown id") << u"ghost"_s << 1 << 0 << u"Unknown filter shader \"ghost\""_s;
         QTest::newRow("a picture too many") << u"scale"_s << 2 << 32 << mismatch.arg(2).arg(2);
         QTest::newRow("part of a uniform") << u"scale"_s << 1 << 36 << mismatch.arg(1).arg(2);
-        QTest::newRow("field that the shader lacks") << u"lost-field"_s << 1 << 32
+        QTest::newRow("field that the shader lacks")
+            << u"lost-field"_s << 1 << 32
             << u"Shader interface mismatch for filter utility \"fx/lost-field\" uniform prefixes "_s;
-        QTest::newRow("sampler that the shader lacks") << u"lost-sampler"_s << 2 << 0
+        QTest::newRow("sampler that the shader lacks")
+            << u"lost-sampler"_s << 2 << 0
             << u"Shader interface mismatch for filter utility \"fx/lost-sampler\" uniform prefixes \"\""_s;
     }
 

@@ -61,8 +61,9 @@ QString describe(const Document &document)
     for (qsizetype i = 0; i < document.objectCount(); ++i) {
         const SceneObject &object = *document.objectAt(i);
         const ObjectTransform &t = object.transform();
-        out << '\n' << object.id().data1 << object.name() << object.blendMode() << object.opacity()
-            << object.isVisible() << t.position() << t.scale() << t.shear() << t.anchor() << t.rotation();
+        out << '\n'
+            << object.id().data1 << object.name() << object.blendMode() << object.opacity() << object.isVisible()
+            << t.position() << t.scale() << t.shear() << t.anchor() << t.rotation();
         const ImageLayer *layer = document.imageLayer(object.id());
         if (!layer)
             continue;
