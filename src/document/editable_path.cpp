@@ -1,13 +1,130 @@
 #include "document/editable_path.h"
 
+#include "document/editable_path_builder.h"
+
 #include <algorithm>
 
+using namespace Qt::StringLiterals;
+
 namespace zm {
+
+namespace {
+
+void addSegment(QPainterPath &outline, const EditablePathNode &from, const EditablePathNode &to)
+{
+    if (!from.hasOutControl && !to.hasInControl)
+        outline.lineTo(to.anchor);
+    else
+        outline.cubicTo(from.hasOutControl ? from.outControl : from.anchor, to.hasInControl ? to.inControl : to.anchor,
+                        to.anchor);
+}
+
+} // namespace
 
 bool EditablePath::isEmpty() const
 {
     return std::all_of(contours.cbegin(), contours.cend(),
                        [](const EditablePathContour &contour) { return contour.nodes.isEmpty(); });
+}
+
+std::optional<EditablePathNodeIndex> findNode(const EditablePath &path, const QUuid &id)
+{
+    for (qsizetype contour = 0; contour < path.contours.size(); ++contour) {
+        const QList<EditablePathNode> &nodes = path.contours[contour].nodes;
+        const auto found = std::ranges::find(nodes, id, &EditablePathNode::id);
+        if (found != nodes.end())
+            return EditablePathNodeIndex{contour, found - nodes.begin()};
+    }
+    return std::nullopt;
+}
+
+QPainterPath painterPath(const EditablePath &path)
+{
+    QPainterPath outline;
+    outline.setFillRule(path.fillRule);
+    for (const EditablePathContour &contour : path.contours) {
+        const QList<EditablePathNode> &nodes = contour.nodes;
+        if (nodes.isEmpty())
+            continue;
+        outline.moveTo(nodes.first().anchor);
+        for (qsizetype i = 1; i < nodes.size(); ++i)
+            addSegment(outline, nodes[i - 1], nodes[i]);
+        if (contour.closed && nodes.size() >= 2) {
+            addSegment(outline, nodes.last(), nodes.first());
+            outline.closeSubpath();
+        }
+    }
+    return outline;
+}
+
+EditablePath editablePath(const QPainterPath &outline)
+{
+    EditablePathBuilder builder(outline.fillRule());
+    for (int i = 0; i < outline.elementCount(); ++i) {
+        const QPainterPath::Element element = outline.elementAt(i);
+        if (element.isMoveTo()) {
+            builder.moveTo(element);
+        } else if (element.isLineTo()) {
+            builder.lineTo(element);
+        } else if (element.isCurveTo() && i + 2 < outline.elementCount()) {
+            builder.curveTo(element, outline.elementAt(i + 1), outline.elementAt(i + 2));
+            i += 2;
+        }
+        const bool endsSubpath = i + 1 == outline.elementCount() || outline.elementAt(i + 1).isMoveTo();
+        if (endsSubpath && builder.isBackAtStart())
+            builder.close();
+    }
+    return builder.path();
+}
+
+QRectF pathBounds(const EditablePath &path, double handleRadius)
+{
+    const double radius = std::max(handleRadius, 0.0);
+    QRectF bounds;
+    const auto addSquare = [&](const QPointF &centre) {
+        if (radius > 0.0)
+            bounds |= QRectF(centre.x() - radius, centre.y() - radius, 2.0 * radius, 2.0 * radius);
+    };
+    for (const EditablePathContour &contour : path.contours) {
+        for (const EditablePathNode &node : contour.nodes) {
+            addSquare(node.anchor);
+            if (node.hasInControl)
+                addSquare(node.inControl);
+            if (node.hasOutControl)
+                addSquare(node.outControl);
+        }
+    }
+    const QRectF drawn = painterPath(path).boundingRect().adjusted(-radius, -radius, radius, radius);
+    return drawn.isEmpty() ? bounds : bounds | drawn;
+}
+
+EditablePath translated(const EditablePath &path, const QPointF &offset)
+{
+    EditablePath result = path;
+    for (EditablePathContour &contour : result.contours) {
+        for (EditablePathNode &node : contour.nodes) {
+            node.anchor += offset;
+            node.inControl += offset;
+            node.outControl += offset;
+        }
+    }
+    return result;
+}
+
+QString svgPathText(const QPainterPath &outline)
+{
+    const auto number = [](double value) { return QString::number(value, 'g', 12); };
+    QString text;
+    for (int i = 0; i < outline.elementCount(); ++i) {
+        const QPainterPath::Element element = outline.elementAt(i);
+        // The two elements that follow the first of a curve go on with its numbers.
+        const auto command = element.isMoveTo() ? "M "_L1
+            : element.isLineTo()                ? "L "_L1
+            : element.isCurveTo()               ? "C "_L1
+                                                : ""_L1;
+        text += command + number(element.x) + u' ' + number(element.y) + u' ';
+    }
+    return text.trimmed();
 }
 
 EditablePath withoutEmptyContours(const EditablePath &path)

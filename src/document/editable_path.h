@@ -1,8 +1,12 @@
 #pragma once
 
 #include <QList>
+#include <QPainterPath>
 #include <QPointF>
+#include <QString>
 #include <QUuid>
+
+#include <optional>
 
 namespace zm {
 
@@ -42,6 +46,36 @@ struct EditablePath
 
     friend bool operator==(const EditablePath &a, const EditablePath &b) = default;
 };
+
+/// Where a node stands in its path.
+struct EditablePathNodeIndex
+{
+    qsizetype contour = 0;
+    qsizetype node = 0;
+
+    friend bool operator==(const EditablePathNodeIndex &a, const EditablePathNodeIndex &b) = default;
+};
+
+/// Nothing when the path has no node of this id.
+std::optional<EditablePathNodeIndex> findNode(const EditablePath &path, const QUuid &id);
+
+/// The outline to draw, with the path's fill rule. A segment with one handle is a curve; a contour of a single node is
+/// a lone move.
+QPainterPath painterPath(const EditablePath &path);
+
+/// Nodes for a drawn outline, with new ids and the outline's fill rule. A subpath that ends where it began is closed; a
+/// node whose handles lie on one line is smooth.
+EditablePath editablePath(const QPainterPath &outline);
+
+/// What the path covers, with the squares of side 2 * handleRadius around its anchors and the handles in use. Null for
+/// a path that covers nothing.
+QRectF pathBounds(const EditablePath &path, double handleRadius);
+
+/// The path moved by an offset.
+EditablePath translated(const EditablePath &path, const QPointF &offset);
+
+/// The outline in the words of an SVG path, "M x y L x y C x y x y x y".
+QString svgPathText(const QPainterPath &outline);
 
 /// The path without contours that have no node.
 EditablePath withoutEmptyContours(const EditablePath &path);
