@@ -3,7 +3,7 @@
 //   export_child recode INPUT OUTPUT    the floor: Qt's reader and writer, nothing between them
 //   export_child measure PROGRAM ...    runs the program, prints its milliseconds and its peak memory in KiB
 
-#include "base/pixel_limits.h"
+#include "io/image_allocation.h"
 
 #include <QCoreApplication>
 #include <QElapsedTimer>

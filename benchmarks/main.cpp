@@ -1,8 +1,8 @@
 #include "base/memory_tuning.h"
-#include "base/pixel_limits.h"
 #include "bench.h"
 #include "blur_bench.h"
 #include "export_bench.h"
+#include "io/image_allocation.h"
 #include "scene_bench.h"
 #include "startup_bench.h"
 

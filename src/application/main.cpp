@@ -2,7 +2,7 @@
 #include "application/application_context.h"
 #include "application/process_start.h"
 #include "base/memory_tuning.h"
-#include "base/pixel_limits.h"
+#include "io/image_allocation.h"
 
 #include <QDebug>
 #include <QQmlApplicationEngine>

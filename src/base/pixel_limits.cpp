@@ -1,14 +1,17 @@
 #include "base/pixel_limits.h"
 
-#include <QImageReader>
+#include <algorithm>
+#include <cmath>
+#include <limits>
 
 namespace zm {
 
-void raiseImageAllocationLimit()
+QSize coveringPixels(const QSizeF &size)
 {
-    constexpr qint64 bytesOfDeepPixel = 2 * kBytesPerPixel;
-    constexpr qint64 bytesPerMebibyte = 1024 * 1024;
-    QImageReader::setAllocationLimit(int(kMaximumRasterPixels * bytesOfDeepPixel / bytesPerMebibyte) + 1);
+    const auto roundedUp = [](double side) {
+        return int(std::clamp(std::ceil(side), 1.0, double(std::numeric_limits<int>::max())));
+    };
+    return {roundedUp(size.width()), roundedUp(size.height())};
 }
 
 } // namespace zm

@@ -1,6 +1,7 @@
 #pragma once
 
 #include <QSize>
+#include <QSizeF>
 
 namespace zm {
 
@@ -16,8 +17,7 @@ inline bool isAllocatableRasterSize(const QSize &size)
     return size.width() >= 1 && size.height() >= 1 && qint64(size.width()) * size.height() <= kMaximumRasterPixels;
 }
 
-/// Makes room in Qt's own reader for a picture of kMaximumRasterPixels at up to eight bytes a pixel, which deep
-/// colour formats are decoded to before they are converted. Called once at the start of each program.
-void raiseImageAllocationLimit();
+/// The whole pixels that cover a box: each side rounded up and at least 1, an absurd one the largest number.
+QSize coveringPixels(const QSizeF &size);
 
 } // namespace zm

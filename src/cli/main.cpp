@@ -1,10 +1,10 @@
 // zelmora: the editor's core without a window, for scripts and batches.
 
 #include "base/memory_tuning.h"
-#include "base/pixel_limits.h"
 #include "cli/commands.h"
 #include "cli/platform.h"
 #include "cli/quiet_libraries.h"
+#include "io/image_allocation.h"
 
 #include <QFile>
 #include <QGuiApplication>

@@ -1,29 +1,12 @@
 #include "document/image_layer_source.h"
 
 #include "base/fuzzy.h"
+#include "base/pixel_limits.h"
+#include "base/sanitize.h"
 
 #include <QSvgRenderer>
 
-#include <algorithm>
-#include <cmath>
-#include <limits>
-
 namespace zm {
-
-namespace {
-
-QSizeF atLeastOne(const QSizeF &size)
-{
-    const auto clean = [](double side) { return std::isfinite(side) ? std::max(side, 1.0) : 1.0; };
-    return {clean(size.width()), clean(size.height())};
-}
-
-int roundedUp(double side)
-{
-    return int(std::min(std::ceil(side), double(std::numeric_limits<int>::max())));
-}
-
-} // namespace
 
 ImageLayerSource normalizedSource(ImageLayerSource source)
 {
@@ -33,7 +16,7 @@ ImageLayerSource normalizedSource(ImageLayerSource source)
         raster->image.setDevicePixelRatio(1.0); // readers set it for names such as "a@2x.png"; a pixel is a pixel here
     } else {
         auto &svg = std::get<SvgImageSource>(source);
-        svg.size = atLeastOne(svg.size);
+        svg.size = sizeOfAtLeastOne(svg.size);
     }
     return source;
 }
@@ -60,8 +43,7 @@ QSize pixelSize(const ImageLayerSource &source)
 {
     if (const auto *raster = std::get_if<RasterImageSource>(&source))
         return raster->image.size();
-    const QSizeF size = atLeastOne(std::get<SvgImageSource>(source).size);
-    return {roundedUp(size.width()), roundedUp(size.height())};
+    return coveringPixels(sizeOfAtLeastOne(std::get<SvgImageSource>(source).size));
 }
 
 qint64 memoryBytes(const ImageLayerSource &source)
@@ -93,7 +75,7 @@ std::optional<SvgImageSource> svgSourceFromData(const QByteArray &data, const QS
     const std::optional<QSizeF> defaultSize = svgDefaultSize(data);
     if (!defaultSize)
         return std::nullopt;
-    return SvgImageSource{data, atLeastOne(size.isEmpty() ? *defaultSize : size)};
+    return SvgImageSource{data, sizeOfAtLeastOne(size.isEmpty() ? *defaultSize : size)};
 }
 
 } // namespace zm

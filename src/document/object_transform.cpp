@@ -1,17 +1,13 @@
 #include "document/object_transform.h"
 
 #include "base/fuzzy.h"
+#include "base/sanitize.h"
 
 #include <QtMath>
 
 namespace zm {
 
 namespace {
-
-double finiteOr(double value, double fallback)
-{
-    return std::isfinite(value) ? value : fallback;
-}
 
 double cleanScale(double value)
 {

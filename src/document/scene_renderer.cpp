@@ -1,5 +1,6 @@
 #include "document/scene_renderer.h"
 
+#include "base/pixel_limits.h"
 #include "document/blend_modes.h"
 #include "rendering/filter_utility_renderer.h"
 #include "rendering/render_services.h"
@@ -36,11 +37,6 @@ QRectF cleanRect(const SceneSnapshot &snapshot, const QRectF &rect)
 {
     const QRectF normalized = rect.normalized();
     return normalized.isEmpty() ? documentRect(snapshot) : normalized;
-}
-
-int wholePixels(double length)
-{
-    return int(std::clamp(std::ceil(length), 1.0, double(std::numeric_limits<int>::max())));
 }
 
 void drawDocumentOutline(QPainter &painter, const View &view)
@@ -109,8 +105,7 @@ QImage renderSceneTile(const SceneSnapshot &snapshot, const QRectF &rect, bool f
     const QRectF source = cleanRect(snapshot, rect);
     const double s = cleanScale(scale);
     const QTransform toPixels = QTransform::fromScale(s, s).translate(-source.left(), -source.top());
-    return renderPicture({snapshot, toPixels, s, fixedBounds, smooth, showBounds},
-                         {wholePixels(source.width() * s), wholePixels(source.height() * s)});
+    return renderPicture({snapshot, toPixels, s, fixedBounds, smooth, showBounds}, coveringPixels(source.size() * s));
 }
 
 QList<SceneTile> renderSceneTiles(const SceneSnapshot &snapshot, const QRectF &rect, bool fixedBounds, double scale,
@@ -124,8 +119,10 @@ QList<SceneTile> renderSceneTiles(const SceneSnapshot &snapshot, const QRectF &r
     // Counted in whole pixels throughout: divided and multiplied by the scale again, a side could come out one longer.
     const double firstColumn = std::floor(source.left() * s);
     const double firstRow = std::floor(source.top() * s);
-    const int width = wholePixels(std::ceil(source.right() * s) - firstColumn);
-    const int height = wholePixels(std::ceil(source.bottom() * s) - firstRow);
+    const QSize whole =
+        coveringPixels({std::ceil(source.right() * s) - firstColumn, std::ceil(source.bottom() * s) - firstRow});
+    const int width = whole.width();
+    const int height = whole.height();
     const QPointF topLeft(firstColumn / s, firstRow / s);
     const QPointF bottomRight(std::ceil(source.right() * s) / s, std::ceil(source.bottom() * s) / s);
 
