@@ -1,20 +1,15 @@
 #include "document/document.h"
 
 #include "base/fuzzy.h"
+#include "base/sanitize.h"
 
 #include <QSet>
 
 #include <algorithm>
-#include <cmath>
 
 namespace zm {
 
 namespace {
-
-double cleanSide(double side)
-{
-    return std::isfinite(side) ? std::max(side, 1.0) : 1.0;
-}
 
 bool haveDistinctIds(const std::vector<std::unique_ptr<SceneObject>> &objects)
 {
@@ -68,6 +63,16 @@ Layer *Document::layer(const QUuid &id) const
 ImageLayer *Document::imageLayer(const QUuid &id) const
 {
     return dynamic_cast<ImageLayer *>(object(id));
+}
+
+ShapeLayer *Document::shapeLayer(const QUuid &id) const
+{
+    return dynamic_cast<ShapeLayer *>(object(id));
+}
+
+TextLayer *Document::textLayer(const QUuid &id) const
+{
+    return dynamic_cast<TextLayer *>(object(id));
 }
 
 SceneObject *Document::insertObject(std::unique_ptr<SceneObject> object, qsizetype index)
@@ -251,9 +256,61 @@ bool Document::setImageLayerRasterSelection(const QUuid &id, const std::optional
     return true;
 }
 
+bool Document::setShapeFill(const QUuid &id, const Fill &fill)
+{
+    ShapeLayer *target = shapeLayer(id);
+    if (!target || !target->setFill(fill))
+        return false;
+    emit shapeLayerChanged(target->id());
+    return true;
+}
+
+bool Document::setShapeStroke(const QUuid &id, const QColor &color, double width)
+{
+    ShapeLayer *target = shapeLayer(id);
+    if (!target || !target->setStroke({color, width}))
+        return false;
+    emit shapeLayerChanged(target->id());
+    return true;
+}
+
+bool Document::setShapeGeometry(const QUuid &id, const ShapeGeometry &geometry)
+{
+    ShapeLayer *target = shapeLayer(id);
+    if (!target || !target->setGeometry(geometry))
+        return false;
+    emit shapeGeometryChanged(target->id());
+    return true;
+}
+
+bool Document::setShapeGeometryAndTransform(const QUuid &id, const SizedShapeGeometry &geometry,
+                                            const ObjectTransform &transform)
+{
+    ShapeLayer *target = shapeLayer(id);
+    if (!target)
+        return false;
+    const bool geometryChanged = target->setSizedGeometry(geometry);
+    const bool transformChanged = target->setTransform(transform);
+    const QUuid targetId = target->id();
+    if (geometryChanged)
+        emit shapeGeometryChanged(targetId);
+    if (transformChanged)
+        emit objectTransformChanged(targetId);
+    return geometryChanged || transformChanged;
+}
+
+bool Document::setTextLayerState(const QUuid &id, const TextLayerState &state)
+{
+    TextLayer *target = textLayer(id);
+    if (!target || !target->setState(state))
+        return false;
+    emit textLayerChanged(target->id());
+    return true;
+}
+
 QSizeF cleanDocumentSize(const QSizeF &size)
 {
-    return {cleanSide(size.width()), cleanSide(size.height())};
+    return sizeOfAtLeastOne(size);
 }
 
 QColor cleanBackgroundColor(const QColor &color)

@@ -1,6 +1,8 @@
 #pragma once
 
 #include "document/image_layer.h"
+#include "document/shape_layer.h"
+#include "document/text_layer.h"
 
 #include <QColor>
 #include <QObject>
@@ -34,6 +36,8 @@ public:
     SceneObject *object(const QUuid &id) const;
     Layer *layer(const QUuid &id) const;
     ImageLayer *imageLayer(const QUuid &id) const;
+    ShapeLayer *shapeLayer(const QUuid &id) const;
+    TextLayer *textLayer(const QUuid &id) const;
 
     QUuid selectedObjectId() const { return m_selectedObjectId; }
     SceneObject *selectedObject() const { return object(m_selectedObjectId); }
@@ -69,6 +73,14 @@ public:
                              RasterSurfacePolicy policy);
     bool setImageLayerRasterSelection(const QUuid &id, const std::optional<EditablePath> &selection);
 
+    bool setShapeFill(const QUuid &id, const Fill &fill);
+    bool setShapeStroke(const QUuid &id, const QColor &color, double width);
+    bool setShapeGeometry(const QUuid &id, const ShapeGeometry &geometry);
+    /// Geometry, its box and the transform as one step; listeners to the transform's signal see the new outline.
+    bool setShapeGeometryAndTransform(const QUuid &id, const SizedShapeGeometry &geometry,
+                                      const ObjectTransform &transform);
+    bool setTextLayerState(const QUuid &id, const TextLayerState &state);
+
 signals:
     void sizeChanged(const QSizeF &size);
     void backgroundColorChanged(const QColor &color);
@@ -85,6 +97,10 @@ signals:
     void objectTransformChanged(const QUuid &id);
     void imageLayerChanged(const QUuid &id);
     void layerFiltersChanged(const QUuid &id);
+    void shapeGeometryChanged(const QUuid &id);
+    /// Fill or stroke.
+    void shapeLayerChanged(const QUuid &id);
+    void textLayerChanged(const QUuid &id);
     void selectionChanged(const QUuid &id);
 
 private:

@@ -66,6 +66,9 @@ void ScenePresentationModel::connectDocument()
     connect(m_document, &Document::objectBlendModeChanged, this, &ScenePresentationModel::rebuildScene);
     connect(m_document, &Document::imageLayerChanged, this, &ScenePresentationModel::rebuildUnlessSuppressed);
     connect(m_document, &Document::layerFiltersChanged, this, &ScenePresentationModel::rebuildUnlessSuppressed);
+    connect(m_document, &Document::shapeGeometryChanged, this, &ScenePresentationModel::rebuildUnlessSuppressed);
+    connect(m_document, &Document::shapeLayerChanged, this, &ScenePresentationModel::rebuildUnlessSuppressed);
+    connect(m_document, &Document::textLayerChanged, this, &ScenePresentationModel::rebuildUnlessSuppressed);
     connect(m_document, &Document::objectTransformChanged, this, &ScenePresentationModel::applyTransform);
     connect(m_document, &Document::selectionChanged, this, &ScenePresentationModel::refreshSelection);
 }

@@ -1,18 +1,11 @@
 #include "generators/shape_generator.h"
 
+#include "base/sanitize.h"
+
 #include <algorithm>
 #include <cmath>
 
 namespace zm {
-
-namespace {
-
-double cleanSide(double side)
-{
-    return std::isfinite(side) ? std::max(side, 1.0) : 1.0;
-}
-
-} // namespace
 
 ShapeParameters::ShapeParameters(const QList<ParameterDefinition> &definitions, const ParameterValues &values)
     : m_definitions(definitions)
@@ -50,7 +43,7 @@ ShapeGenerator::~ShapeGenerator() = default;
 EditablePath ShapeGenerator::generate(const QSizeF &size, const ParameterValues &values) const
 {
     const QList<ParameterDefinition> definitions = parameters();
-    return outline({cleanSide(size.width()), cleanSide(size.height())}, ShapeParameters(definitions, values));
+    return outline(sizeOfAtLeastOne(size), ShapeParameters(definitions, values));
 }
 
 ParameterDefinition ShapeGenerator::ratio(const QString &id, const QString &label, double defaultValue, double minimum,

@@ -1,0 +1,204 @@
+#include "document/shape_layer.h"
+
+#include "base/fuzzy.h"
+#include "base/pixel_limits.h"
+#include "base/sanitize.h"
+#include "document/valid_color.h"
+#include "generators/shape_generator_registry.h"
+
+#include <QPainter>
+#include <QPen>
+#include <QSet>
+
+#include <algorithm>
+
+namespace zm {
+
+namespace {
+
+// What the document file takes.
+constexpr double kMaximumSide = 1'000'000.0;
+constexpr qsizetype kMaximumContours = 1'000'000;
+constexpr qsizetype kMaximumNodes = 1'000'000;
+
+bool hasFinitePoints(const EditablePathNode &node)
+{
+    return isFinite(node.anchor) && isFinite(node.inControl) && isFinite(node.outControl);
+}
+
+EditablePath cleanPath(EditablePath path)
+{
+    if (path.contours.size() > kMaximumContours)
+        path.contours.resize(kMaximumContours);
+    QSet<QUuid> ids;
+    for (EditablePathContour &contour : path.contours) {
+        contour.nodes.removeIf([](const EditablePathNode &node) { return !hasFinitePoints(node); });
+        if (contour.nodes.size() > kMaximumNodes)
+            contour.nodes.resize(kMaximumNodes);
+        for (EditablePathNode &node : contour.nodes) {
+            if (node.id.isNull() || ids.contains(node.id))
+                node.id = QUuid::createUuid();
+            ids.insert(node.id);
+        }
+    }
+    return path;
+}
+
+/// How far a generated outline keeps from the box, so that a mitred stroke stays inside.
+double outlineInset(const Stroke &stroke)
+{
+    return stroke.width * 1.25;
+}
+
+QPen strokePen(const Stroke &stroke)
+{
+    if (stroke.width <= 0.0)
+        return Qt::NoPen;
+    QPen pen(stroke.color, stroke.width, Qt::SolidLine, Qt::SquareCap, Qt::MiterJoin);
+    pen.setMiterLimit(1.25);
+    return pen;
+}
+
+} // namespace
+
+bool operator==(const SizedShapeGeometry &a, const SizedShapeGeometry &b)
+{
+    return fuzzyEqual(a.size, b.size) && a.geometry == b.geometry;
+}
+
+ShapeGeometry cleanGeometry(const ShapeGeometry &geometry)
+{
+    const EditablePath *path = std::get_if<EditablePath>(&geometry);
+    return path ? ShapeGeometry(cleanPath(*path)) : geometry;
+}
+
+SizedShapeGeometry cleanGeometry(const SizedShapeGeometry &geometry)
+{
+    const QSizeF largest(kMaximumSide, kMaximumSide);
+    return {cleanGeometry(geometry.geometry), sizeOfAtLeastOne(geometry.size).boundedTo(largest)};
+}
+
+Stroke cleanStroke(const Stroke &stroke)
+{
+    const double width = std::max(finiteOr(stroke.width, 0.0), 0.0);
+    return {width > 0.0 ? validOrBlack(stroke.color) : stroke.color, width};
+}
+
+qint64 memoryBytes(const ShapeGeometry &geometry)
+{
+    if (const EditablePath *path = std::get_if<EditablePath>(&geometry))
+        return memoryBytes(*path);
+    // Estimates of what the map costs for each entry, and when it has none.
+    const auto &generator = std::get<GeneratorGeometry>(geometry);
+    const qint64 entries = generator.parameters.count();
+    return generator.generatorId.size() * qint64(sizeof(QChar)) + (entries > 0 ? 128 * entries : 32);
+}
+
+ShapeLayer::ShapeLayer(const ShapeGeometry &geometry, const QSizeF &size, const Stroke &stroke, const Fill &fill,
+                       const QString &name, const QUuid &id)
+    : Layer(name, id)
+    , m_shape(cleanGeometry(SizedShapeGeometry{geometry, size}))
+    , m_fill(fill)
+    , m_stroke(cleanStroke(stroke))
+{
+}
+
+RenderedContent ShapeLayer::renderContent(const RenderServices *) const
+{
+    const QSizeF size = layerSize();
+    const QSize pixelSize = coveringPixels(size);
+    QImage image;
+    if (isAllocatableRasterSize(pixelSize))
+        image = QImage(pixelSize, QImage::Format_RGBA8888);
+    if (image.isNull())
+        return {image, size};
+    image.fill(Qt::transparent);
+
+    const double scaleX = pixelSize.width() / size.width();
+    const double scaleY = pixelSize.height() / size.height();
+    QBrush brush = m_fill.brushFor(pixelSize);
+    if (m_fill.texture())
+        brush.setTransform(brush.transform() * QTransform::fromScale(1.0 / scaleX, 1.0 / scaleY));
+    QPainter painter(&image);
+    painter.setRenderHint(QPainter::Antialiasing);
+    painter.scale(scaleX, scaleY);
+    painter.setBrush(brush);
+    painter.setPen(strokePen(m_stroke));
+    painter.drawPath(painterPath());
+    return {image, size};
+}
+
+const EditablePath &ShapeLayer::generatedPath() const
+{
+    deriveOutline();
+    return m_generatedPath;
+}
+
+const QPainterPath &ShapeLayer::painterPath() const
+{
+    deriveOutline();
+    return m_painterPath;
+}
+
+bool ShapeLayer::setGeometry(const ShapeGeometry &geometry)
+{
+    return setSizedGeometry({geometry, layerSize()});
+}
+
+bool ShapeLayer::setSizedGeometry(const SizedShapeGeometry &geometry)
+{
+    SizedShapeGeometry clean = cleanGeometry(geometry);
+    if (m_shape == clean)
+        return false;
+    m_shape = std::move(clean);
+    m_pathDirty = true;
+    markContentChanged();
+    return true;
+}
+
+bool ShapeLayer::setFill(const Fill &fill)
+{
+    if (m_fill == fill)
+        return false;
+    m_fill = fill;
+    markContentChanged();
+    return true;
+}
+
+bool ShapeLayer::setStroke(const Stroke &stroke)
+{
+    const Stroke clean = cleanStroke(stroke);
+    if (m_stroke == clean)
+        return false;
+    if (isGenerated() && outlineInset(clean) != outlineInset(m_stroke))
+        m_pathDirty = true;
+    m_stroke = clean;
+    markContentChanged();
+    return true;
+}
+
+qint64 ShapeLayer::memoryBytes() const
+{
+    return Layer::memoryBytes() + zm::memoryBytes(m_shape.geometry);
+}
+
+void ShapeLayer::deriveOutline() const
+{
+    if (!m_pathDirty)
+        return;
+    if (const EditablePath *path = std::get_if<EditablePath>(&m_shape.geometry)) {
+        m_generatedPath = *path;
+    } else {
+        const auto &geometry = std::get<GeneratorGeometry>(m_shape.geometry);
+        const ShapeGenerator *generator = ShapeGeneratorRegistry::instance().find(geometry.generatorId);
+        const double inset = outlineInset(m_stroke);
+        const QSizeF box(std::max(layerSize().width() - 2.0 * inset, 1.0),
+                         std::max(layerSize().height() - 2.0 * inset, 1.0));
+        m_generatedPath =
+            generator ? translated(generator->generate(box, geometry.parameters), {inset, inset}) : EditablePath();
+    }
+    m_painterPath = zm::painterPath(m_generatedPath);
+    m_pathDirty = false;
+}
+
+} // namespace zm
