@@ -79,6 +79,8 @@ EditablePath editablePath(const QPainterPath &outline)
 
 QRectF pathBounds(const EditablePath &path, double handleRadius)
 {
+    if (path.isEmpty())
+        return {};
     const double radius = std::max(handleRadius, 0.0);
     QRectF bounds;
     const auto addSquare = [&](const QPointF &centre) {

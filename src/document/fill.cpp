@@ -8,7 +8,8 @@
 
 #include <algorithm>
 #include <cmath>
-#include <limits>
+#include <functional>
+#include <utility>
 
 namespace zm {
 
@@ -35,46 +36,46 @@ QColor faded(QColor color)
     return color;
 }
 
-/// QPainter resolves a gradient to 1024 colours at most, and QGradient takes a time for each stop that grows with
-/// their number. Of the stops that fall into one cell of this finer grid the outer two tell all that can be seen.
-QList<GradientStop> thinnedStops(const QList<GradientStop> &sorted)
+/// Of each run of stops that fall into one cell the outer two, which tell all that can be seen of them.
+template<typename Cell>
+QList<GradientStop> outerStops(const QList<GradientStop> &sorted, Cell cellOf)
 {
-    constexpr qsizetype cells = 2048;
-    if (sorted.size() <= 2 * cells)
-        return sorted;
-    const auto cellOf = [](const GradientStop &stop) { return std::floor(stop.position * cells); };
-    QList<GradientStop> thinned;
+    QList<GradientStop> outer;
     for (qsizetype i = 0; i < sorted.size(); ++i) {
         const bool isFirst = i == 0 || cellOf(sorted[i - 1]) != cellOf(sorted[i]);
         const bool isLast = i + 1 == sorted.size() || cellOf(sorted[i + 1]) != cellOf(sorted[i]);
         if (isFirst || isLast)
-            thinned.append(sorted[i]);
+            outer.append(sorted[i]);
     }
-    return thinned;
+    return outer;
 }
 
 QGradientStops brushStops(const GradientFill &gradient)
 {
-    const QList<GradientStop> stops = thinnedStops(sortedStops(gradient.stops));
+    QList<GradientStop> stops = sortedStops(gradient.stops);
+    // QPainter resolves a gradient to 1024 colours at most, and QGradient takes a time for each stop that grows with
+    // their number.
+    constexpr qsizetype cells = 2048;
+    if (stops.size() > 2 * cells)
+        stops = outerStops(stops, [](const GradientStop &stop) { return std::floor(stop.position * cells); });
+    stops = outerStops(stops, std::mem_fn(&GradientStop::position));
+    // QGradient keeps one stop for each position; a hard edge needs two that differ by next to nothing.
+    for (qsizetype i = 1; i < stops.size(); ++i) {
+        if (stops[i - 1].position != stops[i].position)
+            continue;
+        if (stops[i].position < 1.0)
+            stops[i].position = std::nextafter(stops[i].position, 1.0);
+        else
+            stops[i - 1].position = std::nextafter(1.0, 0.0);
+    }
+
     QGradientStops result;
-    result.reserve(stops.size() + 2);
-    const auto append = [&result](double position, const QColor &color) {
-        // QGradient keeps one stop for each position; a hard edge needs two that differ by nothing that counts.
-        if (!result.isEmpty() && position <= result.last().first) {
-            if (result.size() >= 2 && result.last().first > position) {
-                result.last().second = color;
-                return;
-            }
-            position = std::nextafter(result.last().first, 2.0);
-        }
-        result.append({position, color});
-    };
     if (stops.first().position > 1e-12)
-        append(0.0, faded(stops.first().color));
-    for (const GradientStop &stop : stops)
-        append(stop.position, stop.color);
+        result.append({0.0, faded(stops.first().color)});
+    for (const GradientStop &stop : std::as_const(stops))
+        result.append({stop.position, stop.color});
     if (!fuzzyEqual(stops.last().position, 1.0))
-        append(1.0, faded(stops.last().color));
+        result.append({1.0, faded(stops.last().color)});
     return result;
 }
 
