@@ -5,7 +5,7 @@
 namespace zm {
 
 /// Swaps a layer's whole filter list, whatever was done to it.
-class SetLayerFiltersCommand : public StateCommand<QList<FilterInstance>>
+class SetLayerFiltersCommand : public StateCommand<QList<FilterInstance>, Layer>
 {
 public:
     SetLayerFiltersCommand(Document *document, const QUuid &layerId, const QList<FilterInstance> &filters,

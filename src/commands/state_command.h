@@ -33,9 +33,10 @@ auto stateOf(const Object *object, Getter getter)
 }
 
 /// The base of commands that set one value: the value before, the value after, and the setter between them, which a
-/// concrete command gives as apply(). The document outlives the command; the object is looked up by its id each time.
-/// Commands of one class with the same merge key, other than 0, and the same object merge into one step.
-template<typename State>
+/// concrete command gives as apply(). The document outlives the command; the object, of the class Object, is looked up by
+/// its id each time. Commands of one class with the same merge key, other than 0, and the same object merge into one
+/// step. An obsolete command does nothing, also where it is a child of another.
+template<typename State, typename Object = SceneObject>
 class StateCommand : public QUndoCommand
 {
 public:
@@ -56,7 +57,8 @@ public:
 
 protected:
     /// The id is null for a value of the document itself. Obsolete from the start when `before` is absent, which says
-    /// that there is no such object, or when nothing would change. `after` is the value as the setter would store it.
+    /// that there is no such object or that it cannot take the change, or when nothing would change. `after` is the value
+    /// as the setter would store it.
     StateCommand(Document *document, const QUuid &objectId, const std::optional<State> &before, const State &after,
                  const QString &text, QUndoCommand *parent, MergeId mergeId = MergeId::None, quint64 mergeKey = 0)
         : QUndoCommand(text, parent)
@@ -67,18 +69,33 @@ protected:
         , m_mergeId(mergeId)
         , m_mergeKey(mergeKey)
     {
-        setObsolete(isSameState(m_before, m_after));
+        setObsolete(!before || isSameState(m_before, m_after));
     }
 
     virtual void apply(const State &state) = 0;
 
     Document *document() const { return m_document; }
     QUuid objectId() const { return m_objectId; }
+    /// Null when there is no such object now, or one of another class.
+    const Object *object() const { return dynamic_cast<const Object *>(m_document->object(m_objectId)); }
+    const State &before() const { return m_before; }
+    const State &after() const { return m_after; }
+
+    /// For a merge by which the whole step comes to nothing although the later command, which has run by then, leaves
+    /// more behind than the states tell apart.
+    void returnToStart()
+    {
+        m_after = m_before;
+        apply(m_before);
+        setObsolete(true);
+    }
 
 private:
     void run(const State &state)
     {
-        if (!m_objectId.isNull() && !m_document->object(m_objectId))
+        if (isObsolete())
+            return;
+        if (!m_objectId.isNull() && !object())
             setObsolete(true);
         else
             apply(state);

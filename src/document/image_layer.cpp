@@ -19,9 +19,12 @@ QPointF clampedInto(const QSizeF &size, const QPointF &point)
     return {clampAxis(point.x(), size.width()), clampAxis(point.y(), size.height())};
 }
 
-std::optional<EditablePath> normalizedSelection(const std::optional<EditablePath> &selection, const QSizeF &size)
+} // namespace
+
+std::optional<EditablePath> normalizedRasterSelection(const std::optional<EditablePath> &selection,
+                                                      const QSizeF &layerSize)
 {
-    if (!selection || size.isEmpty())
+    if (!selection || layerSize.isEmpty())
         return std::nullopt;
     EditablePath path = withoutEmptyContours(*selection);
     if (path.contours.isEmpty())
@@ -29,17 +32,15 @@ std::optional<EditablePath> normalizedSelection(const std::optional<EditablePath
     path.fillRule = Qt::OddEvenFill;
     for (EditablePathContour &contour : path.contours) {
         for (EditablePathNode &node : contour.nodes) {
-            node.anchor = clampedInto(size, node.anchor);
+            node.anchor = clampedInto(layerSize, node.anchor);
             if (node.hasInControl)
-                node.inControl = clampedInto(size, node.inControl);
+                node.inControl = clampedInto(layerSize, node.inControl);
             if (node.hasOutControl)
-                node.outControl = clampedInto(size, node.outControl);
+                node.outControl = clampedInto(layerSize, node.outControl);
         }
     }
     return path;
 }
-
-} // namespace
 
 ImageLayer::ImageLayer(const QImage &image, const QString &name, const QUuid &id)
     : ImageLayer(ImageLayerSource(RasterImageSource{image}), name, id)
@@ -98,7 +99,7 @@ bool ImageLayer::setRasterImage(const QImage &image)
 
 bool ImageLayer::setRasterSelection(const std::optional<EditablePath> &selection)
 {
-    std::optional<EditablePath> normalized = normalizedSelection(selection, layerSize());
+    std::optional<EditablePath> normalized = normalizedRasterSelection(selection, layerSize());
     if (m_rasterSelection == normalized)
         return false;
     m_rasterSelection = std::move(normalized);

@@ -10,6 +10,11 @@ namespace zm {
 /// leave it.
 enum class RasterSurfacePolicy : qint32 { Fixed = 0, Expanding = 1 };
 
+/// The raster selection as an image layer of that size keeps it, in layer-local pixels: odd-even, without contours that
+/// have no node, and clamped into the layer. Nothing when no node is left or the layer is empty.
+std::optional<EditablePath> normalizedRasterSelection(const std::optional<EditablePath> &selection,
+                                                      const QSizeF &layerSize);
+
 /// A layer that holds pixels or an SVG picture.
 class ImageLayer : public Layer
 {
@@ -40,8 +45,7 @@ public:
     // Setters return whether something changed.
     bool setSource(const ImageLayerSource &source);
     bool setRasterImage(const QImage &image);
-    /// In layer-local pixels. The path becomes odd-even and is clamped into the layer; one that keeps no node, and any
-    /// path on an empty layer, is no selection.
+    /// Normalises as normalizedRasterSelection() tells.
     bool setRasterSelection(const std::optional<EditablePath> &selection);
     bool setRasterSurfacePolicy(RasterSurfacePolicy policy);
 

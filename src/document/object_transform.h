@@ -38,10 +38,16 @@ public:
     /// there, and then placed.
     QTransform matrix(const QRectF &localRect) const;
 
+    /// The transform with that anchor whose matrix(localRect) is the given affine matrix, with no vertical shear. A
+    /// matrix that flattens the rectangle comes as near as the limits above allow.
+    static ObjectTransform fromMatrix(const QTransform &matrix, const QRectF &localRect, const QPointF &anchor);
+
     /// Fuzzy on every component but the rotation, which is compared exactly.
     friend bool operator==(const ObjectTransform &a, const ObjectTransform &b);
 
 private:
+    QPointF anchorPoint(const QRectF &localRect) const;
+
     QPointF m_position{0.0, 0.0};
     QPointF m_scale{1.0, 1.0};
     QPointF m_shear{0.0, 0.0};
