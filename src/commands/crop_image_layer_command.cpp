@@ -33,7 +33,8 @@ CropImageLayerCommand::Step CropImageLayerCommand::stepFor(const ImageLayer *lay
         const QTransform matrix = crop->toImage * transform.matrix(QRectF(image.rect()));
         placed = ObjectTransform::fromMatrix(matrix, QRectF(QPointF(), crop->size), transform.anchor());
     }
-    return {CroppedLayerState{placedSource(*layer), layer->rasterSelection()}, image,
+    return {CroppedLayerState{placedSource(*layer), layer->rasterSelection()},
+            image,
             {{RasterImageSource{cropped}, placed}, std::nullopt}};
 }
 

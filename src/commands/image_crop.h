@@ -17,8 +17,8 @@ struct ImageCrop
 };
 
 /// The crop of a picture to the part of the rectangle that lies in it, turned about that part's centre by an angle in
-/// degrees. Pixels of the picture. Nothing when less than one pixel either way is left, for numbers that are not finite,
-/// and for more pixels than a raster may have.
+/// degrees. Pixels of the picture. Nothing when less than one pixel either way is left, for numbers that are not
+/// finite, and for more pixels than a raster may have.
 std::optional<ImageCrop> imageCrop(const QSize &imageSize, const QRectF &rectangle, double rotation);
 
 /// The cut pixels in RGBA8888, transparent where the turned rectangle leaves the picture. A crop that leaves all in its

@@ -17,8 +17,8 @@ StrokedShape strokedShape(const ShapeLayer &layer)
 /// Null unless the layer's outline comes from a generator and has a node.
 const ShapeLayer *convertible(const ShapeLayer *layer)
 {
-    const bool canConvert = layer && std::holds_alternative<GeneratorGeometry>(layer->geometry())
-        && !layer->generatedPath().isEmpty();
+    const bool canConvert =
+        layer && std::holds_alternative<GeneratorGeometry>(layer->geometry()) && !layer->generatedPath().isEmpty();
     return canConvert ? layer : nullptr;
 }
 
@@ -48,8 +48,7 @@ qint64 SetShapeGeometryCommand::undoMemoryBytes() const
 }
 
 ConvertShapeToPathCommand::ConvertShapeToPathCommand(Document *document, const QUuid &layerId, QUndoCommand *parent)
-    : StateCommand(document, layerId,
-                   stateOf(convertible(document->shapeLayer(layerId)), &ShapeLayer::geometry),
+    : StateCommand(document, layerId, stateOf(convertible(document->shapeLayer(layerId)), &ShapeLayer::geometry),
                    outlineAsPath(convertible(document->shapeLayer(layerId))), tr("Convert Shape to Path"), parent)
 {
 }

@@ -33,8 +33,8 @@ auto stateOf(const Object *object, Getter getter)
 }
 
 /// The base of commands that set one value: the value before, the value after, and the setter between them, which a
-/// concrete command gives as apply(). The document outlives the command; the object, of the class Object, is looked up by
-/// its id each time. Commands of one class with the same merge key, other than 0, and the same object merge into one
+/// concrete command gives as apply(). The document outlives the command; the object, of the class Object, is looked up
+/// by its id each time. Commands of one class with the same merge key, other than 0, and the same object merge into one
 /// step. An obsolete command does nothing, also where it is a child of another.
 template<typename State, typename Object = SceneObject>
 class StateCommand : public QUndoCommand
@@ -57,8 +57,8 @@ public:
 
 protected:
     /// The id is null for a value of the document itself. Obsolete from the start when `before` is absent, which says
-    /// that there is no such object or that it cannot take the change, or when nothing would change. `after` is the value
-    /// as the setter would store it.
+    /// that there is no such object or that it cannot take the change, or when nothing would change. `after` is the
+    /// value as the setter would store it.
     StateCommand(Document *document, const QUuid &objectId, const std::optional<State> &before, const State &after,
                  const QString &text, QUndoCommand *parent, MergeId mergeId = MergeId::None, quint64 mergeKey = 0)
         : QUndoCommand(text, parent)

@@ -30,8 +30,7 @@ qint64 SetTextLayerStateCommand::undoMemoryBytes() const
 }
 
 ResizeTextLayerCommand::ResizeTextLayerCommand(Document *document, const QUuid &layerId, const TextLayerState &state,
-                                               const ObjectTransform &transform, quint64 mergeKey,
-                                               QUndoCommand *parent)
+                                               const ObjectTransform &transform, quint64 mergeKey, QUndoCommand *parent)
     : StateCommand(document, layerId, stateOf(document->textLayer(layerId), placedText),
                    {normalizedTextState(state), transform}, tr("Resize Text"), parent, MergeId::ResizeText, mergeKey)
 {

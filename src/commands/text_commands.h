@@ -21,8 +21,8 @@ struct PlacedText
 class SetTextLayerStateCommand : public StateCommand<TextLayerState, TextLayer>, public UndoMemoryCost
 {
 public:
-    SetTextLayerStateCommand(Document *document, const QUuid &layerId, const TextLayerState &state,
-                             const QString &text, quint64 mergeKey = 0, QUndoCommand *parent = nullptr);
+    SetTextLayerStateCommand(Document *document, const QUuid &layerId, const TextLayerState &state, const QString &text,
+                             quint64 mergeKey = 0, QUndoCommand *parent = nullptr);
 
     qint64 undoMemoryBytes() const override;
 

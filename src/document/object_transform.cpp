@@ -68,8 +68,8 @@ QTransform ObjectTransform::matrix(const QRectF &localRect) const
 
 ObjectTransform ObjectTransform::fromMatrix(const QTransform &matrix, const QRectF &localRect, const QPointF &anchor)
 {
-    // The first row of the linear part is the scaled and rotated x axis; of the second row, what lies along that axis is
-    // shear, and what stands upright on it is the scale of y.
+    // The first row of the linear part is the scaled and rotated x axis; of the second row, what lies along that axis
+    // is shear, and what stands upright on it is the scale of y.
     const double scaleX = std::max(std::hypot(matrix.m11(), matrix.m12()), kMinimumScale);
     const QPointF axis(matrix.m11() / scaleX, matrix.m12() / scaleX);
     double scaleY = axis.x() * matrix.m22() - axis.y() * matrix.m21();
