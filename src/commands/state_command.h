@@ -81,8 +81,8 @@ protected:
     const State &before() const { return m_before; }
     const State &after() const { return m_after; }
 
-    /// For a merge by which the whole step comes to nothing although the later command, which has run by then, leaves
-    /// more behind than the states tell apart.
+    /// Ends a merge whose step comes to nothing although its states differ. The later command has run by then, so the
+    /// document goes back here.
     void returnToStart()
     {
         m_after = m_before;

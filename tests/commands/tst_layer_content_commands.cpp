@@ -39,33 +39,12 @@ EditablePath pathOf(int nodes)
     return {{contour}, Qt::OddEvenFill};
 }
 
-std::optional<EditablePath> selectionOf(int value)
+SizedShapeGeometry geometryOf(int value)
 {
-    return value == 2 ? std::nullopt : std::optional(pathOf(4 - value));
-}
-
-ShapeGeometry geometryOf(int value)
-{
-    if (value == 1)
-        return pathOf(3);
     GeneratorGeometry star{u"star5"_s, {}};
     star.parameters.set(u"spikes"_s, qint64(6 + value));
-    return star;
-}
-
-SizedShapeGeometry sizedGeometryOf(int value)
-{
-    return {geometryOf(value), {100.0, 80.0 + value}};
-}
-
-Fill fillOf(int value)
-{
-    return value == 1 ? Fill(GradientFill()) : Fill(QColor(value, 0, 0));
-}
-
-Stroke strokeOf(int value)
-{
-    return {QColor(0, 0, value), value * 2.0};
+    const QSizeF size(100.0, 80.0 + value);
+    return value == 1 ? SizedShapeGeometry{pathOf(3), size} : SizedShapeGeometry{star, size};
 }
 
 TextLayerState textOf(int value)
@@ -80,12 +59,12 @@ struct Scene
 {
     Scene()
     {
-        const auto [geometry, size] = sizedGeometryOf(0);
+        const auto [geometry, size] = geometryOf(0);
         for (uint n = 1; n <= 2; ++n) {
             document.insertObject(std::make_unique<ImageLayer>(kPictures[0], QString(), testId(n)));
-            document.setImageLayerRasterSelection(testId(n), selectionOf(0));
+            document.setImageLayerRasterSelection(testId(n), pathOf(4));
             document.insertObject(
-                std::make_unique<ShapeLayer>(geometry, size, strokeOf(0), fillOf(0), QString(), testId(n + 2)));
+                std::make_unique<ShapeLayer>(geometry, size, Stroke(), Fill(), QString(), testId(n + 2)));
             document.insertObject(std::make_unique<TextLayer>(textOf(0).blocks, 0.0, QString(), testId(n + 4)));
         }
     }
@@ -105,14 +84,15 @@ QUndoCommand *make(Kind kind, Document *d, const QUuid &id, int value, quint64 k
 {
     const RasterImageSource source{kPictures[value]};
     const ObjectTransform transform = transformOf(value);
-    const SizedShapeGeometry geometry = sizedGeometryOf(value);
+    const SizedShapeGeometry geometry = geometryOf(value);
+    const Stroke stroke{Qt::black, value * 2.0};
     switch (kind) {
     case Paint:
         return new PaintImageLayerCommand(d, id, source, transform, RasterSurfacePolicy(value != 0), {}, key);
     case SizeImage:
         return new ResizeImageLayerCommand(d, id, source, transform, key);
     case Select:
-        return new SetImageLayerRasterSelectionCommand(d, id, selectionOf(value), u"Select"_s, key);
+        return new SetImageLayerRasterSelectionCommand(d, id, pathOf(4 - value), u"Select"_s, key);
     case Crop: // 0: beside the picture
         return new CropImageLayerCommand(d, id, QRectF(value ? 1 : 9, 0, 2, 2), 45.0);
     case Convert:
@@ -124,9 +104,9 @@ QUndoCommand *make(Kind kind, Document *d, const QUuid &id, int value, quint64 k
     case SizeShape:
         return new ResizeShapeLayerCommand(d, id, geometry, transform, key, u"Resize Shape"_s);
     case Paste:
-        return new SetShapeFillCommand(d, id, fillOf(value), u"Fill"_s, key);
+        return new SetShapeFillCommand(d, id, QColor(value, 0, 0), u"Fill"_s, key);
     case Outline:
-        return new SetShapeStrokeCommand(d, id, strokeOf(value), geometry, transform, u"Stroke"_s, key);
+        return new SetShapeStrokeCommand(d, id, stroke, geometry, transform, u"Stroke"_s, key);
     case Write:
         return new SetTextLayerStateCommand(d, id, textOf(value), u"Write"_s, key);
     case SizeText:
@@ -257,7 +237,7 @@ private slots:
         split.blocks[0].runs.append(defaultTextRun());
         const QImage otherFormat = kPictures[0].convertToFormat(QImage::Format_RGBA64);
         const SvgImageSource hugeSvg{"<svg/>", {1e9, 1e9}};
-        const Stroke noWidth{strokeOf(0).color, qQNaN()};
+        const Stroke noWidth{Qt::black, qQNaN()};
         const auto fixed = RasterSurfacePolicy::Fixed;
         using SetSelection = SetImageLayerRasterSelectionCommand;
         const std::pair<const char *, QUndoCommand *> cases[] = {
@@ -267,7 +247,7 @@ private slots:
             {"clamped to the same selection", new SetSelection(d, testId(1), outside, {})},
             {"selection without nodes", new SetSelection(d, testId(2), EditablePath{{{}, {}}, {}}, {})},
             {"unknown generator", new ConvertShapeToPathCommand(d, testId(4))},
-            {"no width", new SetShapeStrokeCommand(d, testId(3), noWidth, sizedGeometryOf(0), still, {})},
+            {"no width", new SetShapeStrokeCommand(d, testId(3), noWidth, geometryOf(0), still, {})},
             {"text that normalises to the same", new SetTextLayerStateCommand(d, testId(5), split, {})},
             {"whole picture without a selection", new CropImageLayerCommand(d, testId(2), {-1, -1, 9, 9}, 0)},
         };
@@ -316,8 +296,8 @@ private slots:
     {
         Scene scene;
         const QString start = describe(scene.document);
-        for (const int stroke : {1, 0})
-            scene.push(new SetShapeStrokeCommand(&scene.document, testId(3), strokeOf(stroke), sizedGeometryOf(1),
+        for (const double width : {1.0, 0.0})
+            scene.push(new SetShapeStrokeCommand(&scene.document, testId(3), {Qt::black, width}, geometryOf(1),
                                                  transformOf(2), {}, 7));
         QCOMPARE(scene.history.count(), 0);
         QCOMPARE(describe(scene.document), start);
@@ -400,6 +380,21 @@ private slots:
                 }
             }
         }
+    }
+
+    void cropOfAnSvgGoesForthAndBack()
+    {
+        const QByteArray svg = "<svg width='10' height='8'><rect x='4' width='6' height='8' fill='red'/></svg>";
+        Scene scene;
+        scene.document.setImageLayerSource(testId(1), *svgSourceFromData(svg), {}, {});
+        const QString start = describe(scene.document);
+        auto *crop = new CropImageLayerCommand(&scene.document, testId(1), {4, 0, 6, 5}, 0.0);
+        QCOMPARE(crop->undoMemoryBytes(), svg.size() + 10 * 8 * 4 + 6 * 5 * 4 + kFourNodes);
+        scene.push(crop);
+        QCOMPARE(scene.document.imageLayer(testId(1))->rasterImage(), plainPicture(6, 5, Qt::red));
+        QVERIFY(scene.document.imageLayer(testId(1))->isRaster());
+        scene.history.undo();
+        QCOMPARE(describe(scene.document), start);
     }
 
     void cropTakesThePixelsUnderIt()
