@@ -26,11 +26,11 @@ Arguments::Arguments(const QStringList &words, const QList<OptionRule> &rules)
         else if (!rule->takesValue && equals >= 0)
             note(u"%1 takes no value"_s.arg(name));
         else if (!rule->takesValue)
-            m_options.insert(name, {});
+            m_options[name] = {};
         else if (equals >= 0)
-            m_options.insert(name, word.sliced(equals + 1));
+            m_options[name].append(word.sliced(equals + 1));
         else if (i + 1 < words.size())
-            m_options.insert(name, words[++i]);
+            m_options[name].append(words[++i]);
         else
             note(u"%1 needs a value"_s.arg(name));
     }

@@ -2,7 +2,7 @@
 
 #include <QHash>
 #include <QList>
-#include <QString>
+#include <QStringList>
 
 namespace zm::cli {
 
@@ -23,7 +23,10 @@ public:
     QString problem() const { return m_problem; }
     const QStringList &files() const { return m_files; }
     bool has(const QString &option) const { return m_options.contains(option); }
-    QString value(const QString &option) const { return m_options.value(option); }
+    /// Of an option that was given more than once, the last.
+    QString value(const QString &option) const { return values(option).isEmpty() ? QString() : values(option).last(); }
+    /// In the order given.
+    QStringList values(const QString &option) const { return m_options.value(option); }
 
     /// The option's whole number, or fallback when it was not given; a number out of range becomes a problem.
     int number(const QString &option, int fallback, int minimum, int maximum);
@@ -31,7 +34,7 @@ public:
 private:
     void note(const QString &problem);
 
-    QHash<QString, QString> m_options;
+    QHash<QString, QStringList> m_options;
     QStringList m_files;
     QString m_problem;
 };

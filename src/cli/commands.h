@@ -17,5 +17,6 @@ struct Command
 
 ExitStatus runInfo(const QStringList &words, const QString &usage);
 ExitStatus runExport(const QStringList &words, const QString &usage);
+ExitStatus runShapes(const QStringList &words, const QString &usage);
 
 } // namespace zm::cli

@@ -28,6 +28,12 @@ QList<Command> commands()
          "       zelmora export [options] --into DIR [--format jpeg|webp|webpTransparent|png|pngTransparent] "
          "INPUT..."_s,
          u"Writes flattened pictures; an output's suffix (jpg, webp, png) gives its format."_s, runExport},
+        {u"shapes"_s,
+         u"zelmora shapes SHEET.png\n"
+         "       zelmora shapes --generator ID [--set KEY=VALUE]... [--size WxH] OUTPUT.svg|png"_s,
+         u"Draws all shapes on one sheet, or one alone. Sizes are in units of the document; a PNG has a pixel for each "
+         "unit of --size, and 4 for each unit of the shape's own size."_s,
+         runShapes},
     };
 }
 
@@ -59,7 +65,7 @@ bool mayUseOpenGL(int argc, char **argv)
 
 ExitStatus run(const QStringList &words)
 {
-    const QString shortUsage = u"zelmora info|export ... (zelmora --help tells more)"_s;
+    const QString shortUsage = u"zelmora info|export|shapes ... (zelmora --help tells more)"_s;
     if (words.isEmpty())
         return wrongUsage(u"no command is given"_s, shortUsage);
     Console console;

@@ -84,6 +84,8 @@ private slots:
             u"none/out.png: Could not save the image: No such file or directory"_s);
         row("into no folder", u"export --into none photo.jpg"_s,
             u"none/photo.jpg: Could not save the image: No such file or directory"_s);
+        row("sheet in no folder", u"shapes none/sheet.png"_s,
+            u"none/sheet.png: Could not save the image: No such file or directory"_s);
         row("batch over its own input", u"export --into . photo.jpg"_s,
             u"photo.jpg: The output ./photo.jpg would replace another file of this call."_s);
     }
@@ -121,7 +123,18 @@ private slots:
                                       "export --into folder.png",
                                       "export --into . --format gif photo.jpg",
                                       "export --format png photo.jpg o.png",
-                                      "export --into . --transparent photo.jpg"})
+                                      "export --into . --transparent photo.jpg",
+                                      "shapes",
+                                      "shapes sheet.svg",
+                                      "shapes --set spikes=7 sheet.png",
+                                      "shapes --generator star5 star.jpg",
+                                      "shapes --generator star star.png",
+                                      "shapes --generator star5 --set rays=7 star.png",
+                                      "shapes --generator star5 --set spikes star.png",
+                                      "shapes --generator star5 --set spikes=many star.png",
+                                      "shapes --generator star5 --set tipRoundness=nan star.png",
+                                      "shapes --generator star5 --size 0x10 star.png",
+                                      "shapes --generator star5 --size 9000x10 star.png"})
             QTest::newRow(*arguments ? arguments : "nothing") << QString::fromLatin1(arguments);
     }
 
@@ -272,6 +285,35 @@ private slots:
         QVERIFY(!image.contains("sha256"_L1));
         QCOMPARE(image["pixelSize"_L1].toArray(), QJsonArray({300, 201}));
         QVERIFY(zelmora({u"info"_s, u"photo.jpg"_s}).output.contains("300 x 201"_L1));
+    }
+
+    void shapesAreDrawn()
+    {
+        const Run sheet = zelmora({u"shapes"_s, u"sheet.png"_s});
+        QCOMPARE(sheet.errors, QString());
+        QCOMPARE(sheet.status, 0);
+        QVERIFY(QImage(path("sheet.png")).pixelColor(0, 0).lightness() > 200);
+
+        const QStringList star{u"shapes"_s, u"--generator"_s, u"star5"_s,
+                               u"--set"_s,  u"spikes=3"_s,    u"--set=spikes=4"_s};
+        QCOMPARE(zelmora(star + QStringList{u"star.png"_s}).status, 0);
+        const QImage large(path("star.png"));
+        QCOMPARE(large.size(), QSize(400, 400));
+        QCOMPARE(large.pixelColor(200, 200), QColor(0xff, 0xdf, 0x00));
+        QCOMPARE(large.pixelColor(0, 0).alpha(), 0);
+
+        QCOMPARE(zelmora(star + QStringList{u"--size"_s, u"200x80"_s, u"star.svg"_s}).status, 0);
+        QFile file(path("star.svg"));
+        QVERIFY(file.open(QIODevice::ReadOnly));
+        const QByteArray svg = file.readAll();
+        QVERIFY(svg.contains(R"(viewBox="0 0 200 80")") && svg.contains(R"(stroke="#222222")"));
+        QCOMPARE(svg.count("L "), 7 + 1); // the last of the two values holds: four rays and the way back
+        QCOMPARE(zelmora({u"export"_s, u"--transparent"_s, u"star.svg"_s, u"drawn.png"_s}).status, 0);
+        const QImage drawn(path("drawn.png"));
+        QCOMPARE(drawn.size(), QSize(200, 80));
+        QCOMPARE(drawn.pixelColor(100, 40), QColor(0xff, 0xdf, 0x00));
+        QCOMPARE(drawn.pixelColor(50, 40).alpha(), 0);
+        QCOMPARE(listing().size(), m_before.size() + 4);
     }
 
     void helpAndVersionAreResults()

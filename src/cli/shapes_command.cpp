@@ -1,0 +1,204 @@
+#include "cli/arguments.h"
+#include "cli/commands.h"
+#include "cli/parameter_text.h"
+#include "document/editable_path.h"
+#include "generators/shape_generator.h"
+#include "generators/shape_generator_registry.h"
+#include "generators/shape_preview.h"
+#include "io/image_export.h"
+
+#include <QBuffer>
+#include <QFileInfo>
+#include <QPainter>
+#include <QRegularExpression>
+#include <QXmlStreamWriter>
+
+#include <cmath>
+
+using namespace Qt::StringLiterals;
+
+namespace zm::cli {
+
+namespace {
+
+// Of the sheet, in pixels.
+constexpr int kSheetColumns = 7;
+constexpr int kCellWidth = 190;
+constexpr int kCellHeight = 206;
+constexpr int kSheetMargin = 16;
+constexpr int kCaptionHeight = 34;
+constexpr double kSheetScale = 1.25; // a unit of the document; the largest shapes have 120
+constexpr QColor kSheetColor(0xee, 0xee, 0xec);
+constexpr QColor kCaptionColor(0x55, 0x57, 0x53);
+
+/// Pixels for a unit of one shape at its own size.
+constexpr double kShapeScale = 4.0;
+
+struct SheetCell
+{
+    const ShapeGenerator *generator;
+    ParameterValues values;
+    QString caption;
+};
+
+/// A cell for each shape, and for each form of a shape that comes in several.
+QList<SheetCell> sheetCells()
+{
+    QList<SheetCell> cells;
+    for (const auto &generator : ShapeGeneratorRegistry::instance().generators()) {
+        const QList<ParameterDefinition> parameters = generator->parameters();
+        const ParameterDefinition *definition = findParameter(parameters, u"form"_s);
+        const auto *form = definition ? std::get_if<IntegerRangeParameter>(definition) : nullptr;
+        if (!form) {
+            cells.append({generator.get(), {}, generator->label()});
+            continue;
+        }
+        for (qint64 i = form->minimum; i <= form->maximum; ++i) {
+            ParameterValues values;
+            values.set(form->id, i);
+            cells.append({generator.get(), values, u"%1 %2"_s.arg(generator->label()).arg(i)});
+        }
+    }
+    return cells;
+}
+
+QSize pixelSize(const QSizeF &size, double scale)
+{
+    return {int(std::ceil(size.width() * scale)), int(std::ceil(size.height() * scale))};
+}
+
+QImage sheet()
+{
+    const QList<SheetCell> cells = sheetCells();
+    const int rows = int(cells.size() + kSheetColumns - 1) / kSheetColumns;
+    QImage image(kSheetColumns * kCellWidth + 2 * kSheetMargin, rows * kCellHeight + 2 * kSheetMargin,
+                 QImage::Format_RGB32);
+    image.fill(kSheetColor);
+    QPainter painter(&image);
+    QFont font;
+    font.setPixelSize(14);
+    painter.setFont(font);
+    painter.setPen(kCaptionColor);
+    for (int i = 0; i < cells.size(); ++i) {
+        const QRect cell(kSheetMargin + i % kSheetColumns * kCellWidth, kSheetMargin + i / kSheetColumns * kCellHeight,
+                         kCellWidth, kCellHeight);
+        const QRect field = cell.adjusted(0, 0, 0, -kCaptionHeight);
+        const QSizeF size = cells[i].generator->defaultSize();
+        const QImage shape = shapePreview(*cells[i].generator, cells[i].values, size, pixelSize(size, kSheetScale));
+        QRect place(QPoint(), shape.size());
+        place.moveCenter(field.center());
+        painter.drawImage(place.topLeft(), shape);
+        painter.drawText(QRect(cell.left(), field.bottom() + 1, cell.width(), kCaptionHeight),
+                         Qt::AlignHCenter | Qt::AlignTop, cells[i].caption);
+    }
+    return image;
+}
+
+QByteArray pngBytes(const QImage &image)
+{
+    QBuffer buffer;
+    return image.save(&buffer, "png") ? buffer.data() : QByteArray();
+}
+
+QByteArray svgBytes(const ShapeGenerator &generator, const ParameterValues &values, const QSizeF &size)
+{
+    const auto number = [](double value) { return QString::number(value, 'g', 12); };
+    QByteArray bytes;
+    QXmlStreamWriter xml(&bytes);
+    xml.setAutoFormatting(true);
+    xml.writeStartDocument();
+    xml.writeStartElement(u"svg"_s);
+    xml.writeDefaultNamespace(u"http://www.w3.org/2000/svg"_s);
+    xml.writeAttribute(u"width"_s, number(size.width()));
+    xml.writeAttribute(u"height"_s, number(size.height()));
+    xml.writeAttribute(u"viewBox"_s, u"0 0 %1 %2"_s.arg(number(size.width()), number(size.height())));
+    xml.writeTextElement(u"title"_s, generator.label());
+    xml.writeEmptyElement(u"path"_s);
+    xml.writeAttribute(u"fill"_s, generator.defaultFillColor().name());
+    if (const Stroke stroke = shapePreviewStroke(generator); stroke.width > 0.0) {
+        xml.writeAttribute(u"stroke"_s, stroke.color.name());
+        xml.writeAttribute(u"stroke-width"_s, number(stroke.width));
+        xml.writeAttribute(u"stroke-linecap"_s, u"square"_s);
+        xml.writeAttribute(u"stroke-linejoin"_s, u"miter"_s);
+        xml.writeAttribute(u"stroke-miterlimit"_s, number(kPreviewMiterLimit));
+    }
+    const QPainterPath outline = shapePreviewOutline(generator, values, size);
+    xml.writeAttribute(u"fill-rule"_s, outline.fillRule() == Qt::OddEvenFill ? u"evenodd"_s : u"nonzero"_s);
+    xml.writeAttribute(u"d"_s, svgPathText(outline));
+    xml.writeEndDocument();
+    return bytes;
+}
+
+/// "WxH"; nothing for a side below 1 or too long for a picture.
+std::optional<QSize> sizeFromText(const QString &text)
+{
+    static const QRegularExpression pattern(u"^([0-9]{1,5})x([0-9]{1,5})$"_s);
+    const QRegularExpressionMatch match = pattern.match(text);
+    const QSize size(match.captured(1).toInt(), match.captured(2).toInt());
+    const bool fits = size.boundedTo({kMaximumExportSide, kMaximumExportSide}) == size;
+    return fits && !size.isEmpty() ? std::optional(size) : std::nullopt;
+}
+
+ExitStatus write(const QString &file, const QByteArray &bytes)
+{
+    Console console;
+    QString error;
+    if (!writeExportedImage(file, bytes, &error))
+        console.fail(file, error);
+    return console.finish();
+}
+
+} // namespace
+
+ExitStatus runShapes(const QStringList &words, const QString &usage)
+{
+    const Arguments arguments(words, {{u"--generator"_s, true}, {u"--set"_s, true}, {u"--size"_s, true}});
+    if (!arguments.problem().isEmpty())
+        return wrongUsage(arguments.problem(), usage);
+    if (arguments.files().size() != 1)
+        return wrongUsage(u"one output is needed"_s, usage);
+    const QString output = arguments.files().first();
+    const QString suffix = QFileInfo(output).suffix().toLower();
+
+    if (!arguments.has(u"--generator"_s)) {
+        if (arguments.has(u"--set"_s) || arguments.has(u"--size"_s))
+            return wrongUsage(u"--set and --size go with --generator"_s, usage);
+        if (suffix != "png"_L1)
+            return wrongUsage(u"the sheet's suffix is png"_s, usage);
+        return write(output, pngBytes(sheet()));
+    }
+
+    if (suffix != "png"_L1 && suffix != "svg"_L1)
+        return wrongUsage(u"the output's suffix is svg or png"_s, usage);
+    const ShapeGeneratorRegistry &registry = ShapeGeneratorRegistry::instance();
+    const ShapeGenerator *generator = registry.find(arguments.value(u"--generator"_s));
+    if (!generator) {
+        QStringList ids;
+        for (const auto &known : registry.generators())
+            ids.append(known->id());
+        return wrongUsage(
+            u"unknown generator %1; the generators are %2"_s.arg(arguments.value(u"--generator"_s), ids.join(", "_L1)),
+            usage);
+    }
+    ParameterValues values;
+    const QStringList assignments = arguments.values(u"--set"_s);
+    for (const QString &assignment : assignments) {
+        if (const QString problem = setParameterFromText(values, generator->parameters(), assignment);
+            !problem.isEmpty())
+            return wrongUsage(problem, usage);
+    }
+    QSizeF size = generator->defaultSize();
+    QSize pixels = pixelSize(size, kShapeScale);
+    if (arguments.has(u"--size"_s)) {
+        const std::optional<QSize> wished = sizeFromText(arguments.value(u"--size"_s));
+        if (!wished)
+            return wrongUsage(u"--size takes WxH with sides from 1 to %1"_s.arg(kMaximumExportSide), usage);
+        size = *wished;
+        pixels = *wished;
+    }
+    return write(output,
+                 suffix == "svg"_L1 ? svgBytes(*generator, values, size)
+                                    : pngBytes(shapePreview(*generator, values, size, pixels)));
+}
+
+} // namespace zm::cli

@@ -1,0 +1,32 @@
+#pragma once
+
+#include "filters/parameter_values.h"
+
+#include <QImage>
+#include <QPainterPath>
+#include <QSize>
+#include <QSizeF>
+
+namespace zm {
+
+class ShapeGenerator;
+
+// How a generator looks as a shape layer with its own colours, for pickers and sheets.
+
+/// The width of the line around a shape that has a stroke colour, in layer units.
+inline constexpr double kPreviewStrokeWidth = 2.0;
+/// As shape layers draw it: sharp corners are cut early.
+inline constexpr double kPreviewMiterLimit = 1.25;
+
+/// Width 0 for a generator without a stroke colour.
+Stroke shapePreviewStroke(const ShapeGenerator &generator);
+
+/// The outline in a layer's box of this size, in layer units: inset so that the line stays in the box.
+QPainterPath shapePreviewOutline(const ShapeGenerator &generator, const ParameterValues &values,
+                                 const QSizeF &logicalSize);
+
+/// The layer's box, filled and stroked on transparent RGBA8888, stretched to pixelSize. Sides count as 1 at least.
+QImage shapePreview(const ShapeGenerator &generator, const ParameterValues &values, const QSizeF &logicalSize,
+                    const QSize &pixelSize);
+
+} // namespace zm
