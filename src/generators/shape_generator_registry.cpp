@@ -8,8 +8,18 @@ namespace zm {
 
 ShapeGeneratorRegistry::ShapeGeneratorRegistry()
 {
+    m_generators.push_back(makeArrowShapeGenerator());
+    m_generators.push_back(makeBurstShapeGenerator());
+    m_generators.push_back(makeDiamondShapeGenerator());
+    m_generators.push_back(makeEllipseShapeGenerator());
+    m_generators.push_back(makeHalfCircleShapeGenerator());
+    m_generators.push_back(makeLightningBoltShapeGenerator());
+    m_generators.push_back(makePolygonShapeGenerator());
+    m_generators.push_back(makeRhombusShapeGenerator());
     m_generators.push_back(makeRoundedRectShapeGenerator());
     m_generators.push_back(makeStarShapeGenerator());
+    m_generators.push_back(makeTriangleShapeGenerator());
+    m_generators.push_back(makeVignetteShapeGenerator());
 }
 
 const ShapeGeneratorRegistry &ShapeGeneratorRegistry::instance()
