@@ -2,6 +2,7 @@
 #include "cli/commands.h"
 #include "cli/parameter_text.h"
 #include "document/editable_path.h"
+#include "generators/outline_stroke.h"
 #include "generators/shape_generator.h"
 #include "generators/shape_generator_registry.h"
 #include "generators/shape_preview.h"
@@ -120,7 +121,7 @@ QByteArray svgBytes(const ShapeGenerator &generator, const ParameterValues &valu
         xml.writeAttribute(u"stroke-width"_s, number(stroke.width));
         xml.writeAttribute(u"stroke-linecap"_s, u"square"_s);
         xml.writeAttribute(u"stroke-linejoin"_s, u"miter"_s);
-        xml.writeAttribute(u"stroke-miterlimit"_s, number(kPreviewMiterLimit));
+        xml.writeAttribute(u"stroke-miterlimit"_s, number(kOutlineMiterLimit));
     }
     const QPainterPath outline = shapePreviewOutline(generator, values, size);
     xml.writeAttribute(u"fill-rule"_s, outline.fillRule() == Qt::OddEvenFill ? u"evenodd"_s : u"nonzero"_s);

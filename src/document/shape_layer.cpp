@@ -4,10 +4,10 @@
 #include "base/pixel_limits.h"
 #include "base/sanitize.h"
 #include "document/valid_color.h"
+#include "generators/outline_stroke.h"
 #include "generators/shape_generator_registry.h"
 
 #include <QPainter>
-#include <QPen>
 #include <QSet>
 
 #include <algorithm>
@@ -42,21 +42,6 @@ EditablePath cleanPath(EditablePath path)
         }
     }
     return path;
-}
-
-/// How far a generated outline keeps from the box, so that a mitred stroke stays inside.
-double outlineInset(const Stroke &stroke)
-{
-    return stroke.width * 1.25;
-}
-
-QPen strokePen(const Stroke &stroke)
-{
-    if (stroke.width <= 0.0)
-        return Qt::NoPen;
-    QPen pen(stroke.color, stroke.width, Qt::SolidLine, Qt::SquareCap, Qt::MiterJoin);
-    pen.setMiterLimit(1.25);
-    return pen;
 }
 
 } // namespace
@@ -123,7 +108,7 @@ RenderedContent ShapeLayer::renderContent(const RenderServices *) const
     painter.setRenderHint(QPainter::Antialiasing);
     painter.scale(scaleX, scaleY);
     painter.setBrush(brush);
-    painter.setPen(strokePen(m_stroke));
+    painter.setPen(outlinePen(m_stroke));
     painter.drawPath(painterPath());
     return {image, size};
 }

@@ -15,8 +15,6 @@ class ShapeGenerator;
 
 /// The width of the line around a shape that has a stroke colour, in layer units.
 inline constexpr double kPreviewStrokeWidth = 2.0;
-/// As shape layers draw it: sharp corners are cut early.
-inline constexpr double kPreviewMiterLimit = 1.25;
 
 /// Width 0 for a generator without a stroke colour.
 Stroke shapePreviewStroke(const ShapeGenerator &generator);
