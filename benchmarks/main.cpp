@@ -4,6 +4,7 @@
 #include "export_bench.h"
 #include "io/image_allocation.h"
 #include "scene_bench.h"
+#include "shapes_bench.h"
 #include "startup_bench.h"
 
 #include <QGuiApplication>
@@ -25,6 +26,7 @@ constexpr BenchGroup kGroups[] = {
     {"scene"_L1, zm::bench::benchScene},
     {"blur"_L1, zm::bench::benchBlur},
     {"export"_L1, zm::bench::benchExport},
+    {"shapes"_L1, zm::bench::benchShapes},
     {"start"_L1, zm::bench::benchStartup},
 };
 
