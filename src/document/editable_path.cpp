@@ -2,7 +2,10 @@
 
 #include "document/editable_path_builder.h"
 
+#include <QRandomGenerator>
+
 #include <algorithm>
+#include <array>
 
 using namespace Qt::StringLiterals;
 
@@ -20,6 +23,18 @@ void addSegment(QPainterPath &outline, const EditablePathNode &from, const Edita
 }
 
 } // namespace
+
+QUuid newNodeId()
+{
+    thread_local QRandomGenerator generator = QRandomGenerator::securelySeeded();
+    std::array<quint32, 4> bits;
+    generator.fillRange(bits.data(), bits.size());
+    QUuid id = QUuid::fromBytes(bits.data());
+    // Version 4, variant 1: a random id (RFC 4122, 4.4).
+    id.data3 = ushort((id.data3 & 0x0fff) | 0x4000);
+    id.data4[0] = uchar((id.data4[0] & 0x3f) | 0x80);
+    return id;
+}
 
 bool EditablePath::isEmpty() const
 {

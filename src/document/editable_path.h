@@ -10,12 +10,16 @@
 
 namespace zm {
 
+/// A random id, as QUuid::createUuid() makes, which however asks the system for every one: a hundred times as long as
+/// drawing the node.
+QUuid newNodeId();
+
 /// A point of a node path with its Bézier handles, in local units. A handle that is not in use is ignored.
 struct EditablePathNode
 {
     enum class Type : qint32 { Corner = 0, Smooth = 1, Symmetric = 2 };
 
-    QUuid id = QUuid::createUuid();
+    QUuid id = newNodeId();
     QPointF anchor;
     QPointF inControl;
     QPointF outControl;

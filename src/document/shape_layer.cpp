@@ -37,7 +37,7 @@ EditablePath cleanPath(EditablePath path)
             contour.nodes.resize(kMaximumNodes);
         for (EditablePathNode &node : contour.nodes) {
             if (node.id.isNull() || ids.contains(node.id))
-                node.id = QUuid::createUuid();
+                node.id = newNodeId();
             ids.insert(node.id);
         }
     }

@@ -127,7 +127,8 @@ private slots:
         QTest::newRow("out of order") << QList<double>{1.0, 0.5, 0.0} << QList<double>{0.0, 0.5, 1.0};
         QTest::newRow("above one") << QList<double>{0.0, 1.5} << QList<double>{0.0, 1.0};
         QTest::newRow("hard edge") << QList<double>{0.0, 0.5, 0.5, 0.5, 1.0} << QList<double>{0.0, 0.5, 0.5, 1.0};
-        QTest::newRow("hard edges at the ends") << QList<double>{0.0, 0.0, 1.0, 1.0} << QList<double>{0.0, 0.0, 1.0, 1.0};
+        QTest::newRow("hard edges at the ends")
+            << QList<double>{0.0, 0.0, 1.0, 1.0} << QList<double>{0.0, 0.0, 1.0, 1.0};
     }
     void outerStopsFade()
     {
@@ -145,8 +146,9 @@ private slots:
             QVERIFY(std::abs(stops[i].first - painted[i]) < 1e-12);
             const bool isAdded = !positions.contains(painted[i]) && painted[i] != 1.0 && painted[i] != 0.0;
             QVERIFY(!isAdded);
-            const bool fades = (i == 0 && !positions.contains(0.0)) || (i + 1 == stops.size() && stops[i].first == 1.0
-                                                                       && positions.last() < 1.0 && positions.first() < 1.0);
+            const bool fades = (i == 0 && !positions.contains(0.0))
+                || (i + 1 == stops.size() && stops[i].first == 1.0 && positions.last() < 1.0
+                    && positions.first() < 1.0);
             QCOMPARE(stops[i].second.alpha(), fades ? 0 : 255);
         }
     }
@@ -192,9 +194,11 @@ private slots:
     void fillsTurnIntoGradients()
     {
         const GradientFill fresh = gradientFrom(QColor(Qt::red), GradientType::Radial);
-        QCOMPARE(fresh, (GradientFill{GradientType::Radial, {0.5, 0.5}, {1.0, 0.5}, {{0.0, Qt::red}, {1.0, Qt::white}}}));
+        QCOMPARE(fresh,
+                 (GradientFill{GradientType::Radial, {0.5, 0.5}, {1.0, 0.5}, {{0.0, Qt::red}, {1.0, Qt::white}}}));
         const GradientFill linear = gradientFrom(radial({0.1, 0.2}, {0.3, 0.4}), GradientType::Linear);
-        QCOMPARE(linear, (GradientFill{GradientType::Linear, {0.0, 0.5}, {1.0, 0.5}, {{0.0, Qt::red}, {1.0, Qt::blue}}}));
+        QCOMPARE(linear,
+                 (GradientFill{GradientType::Linear, {0.0, 0.5}, {1.0, 0.5}, {{0.0, Qt::red}, {1.0, Qt::blue}}}));
         QCOMPARE(gradientFrom(linear, GradientType::Linear), linear);
         QCOMPARE(gradientFrom(TextureFill(), GradientType::Linear).stops.first().color, QColor(Qt::black));
     }
@@ -203,7 +207,8 @@ private slots:
     {
         QTest::addColumn<EditablePath>("path");
         QTest::addColumn<QString>("outline");
-        const auto row = [](const char *name, bool closed, const QList<EditablePathNode> &nodes, const QString &outline) {
+        const auto row = [](const char *name, bool closed, const QList<EditablePathNode> &nodes,
+                            const QString &outline) {
             QTest::newRow(name) << EditablePath{{{nodes, closed}}, Qt::OddEvenFill} << outline;
         };
         row("lone node, closed", true, {node({5, 5})}, u"M 5 5"_s);
@@ -211,8 +216,7 @@ private slots:
         row("there and back", true, {node({0, 0}), node({4, 0})}, u"M 0 0 L 4 0 L 0 0"_s);
         row("only an out handle", false, {node({0, 0}, {}, QPointF(1, 2)), node({4, 0})}, u"M 0 0 C 1 2 4 0 4 0"_s);
         row("only an in handle", false, {node({0, 0}), node({4, 0}, QPointF(3, 2))}, u"M 0 0 C 0 0 3 2 4 0"_s);
-        row("closing curve", true,
-            {node({0, 0}, QPointF(0, 5)), node({4, 0}), node({4, 4}, {}, QPointF(4, 5))},
+        row("closing curve", true, {node({0, 0}, QPointF(0, 5)), node({4, 0}), node({4, 4}, {}, QPointF(4, 5))},
             u"M 0 0 L 4 0 L 4 4 C 4 5 0 5 0 0"_s);
     }
     void pathsBecomeOutlines()
@@ -241,6 +245,7 @@ private slots:
             QCOMPARE(round.type, EditablePathNode::Type::Smooth);
         QCOMPARE(path.contours[1].nodes[0].type, EditablePathNode::Type::Corner);
         QCOMPARE(svgPathText(painterPath(path)), svgPathText(outline));
+        QCOMPARE(path.contours[0].nodes[0].id.version(), QUuid::Random);
         QCOMPARE(findNode(path, path.contours[1].nodes[1].id), (EditablePathNodeIndex{1, 1}));
         QVERIFY(!findNode(path, QUuid::createUuid()));
         QVERIFY(editablePath(QPainterPath()).isEmpty());
