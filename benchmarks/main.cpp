@@ -6,6 +6,7 @@
 #include "scene_bench.h"
 #include "shapes_bench.h"
 #include "startup_bench.h"
+#include "vector_bench.h"
 
 #include <QGuiApplication>
 #include <QLoggingCategory>
@@ -24,6 +25,7 @@ struct BenchGroup
 
 constexpr BenchGroup kGroups[] = {
     {"scene"_L1, zm::bench::benchScene},
+    {"vectors"_L1, zm::bench::benchVectors},
     {"blur"_L1, zm::bench::benchBlur},
     {"export"_L1, zm::bench::benchExport},
     {"shapes"_L1, zm::bench::benchShapes},
