@@ -10,14 +10,22 @@ ShapeGeneratorRegistry::ShapeGeneratorRegistry()
 {
     m_generators.push_back(makeArrowShapeGenerator());
     m_generators.push_back(makeBurstShapeGenerator());
+    m_generators.push_back(makeCloudShapeGenerator());
     m_generators.push_back(makeDiamondShapeGenerator());
     m_generators.push_back(makeEllipseShapeGenerator());
     m_generators.push_back(makeHalfCircleShapeGenerator());
+    m_generators.push_back(makeHeartShapeGenerator());
     m_generators.push_back(makeLightningBoltShapeGenerator());
+    m_generators.push_back(makePaintSpotShapeGenerator());
     m_generators.push_back(makePolygonShapeGenerator());
     m_generators.push_back(makeRhombusShapeGenerator());
+    m_generators.push_back(makeRibbonShapeGenerator());
     m_generators.push_back(makeRoundedRectShapeGenerator());
+    m_generators.push_back(makeShieldBadgeShapeGenerator());
+    m_generators.push_back(makeSpeechBubbleShapeGenerator());
+    m_generators.push_back(makeSplodgeShapeGenerator());
     m_generators.push_back(makeStarShapeGenerator());
+    m_generators.push_back(makeThoughtBubbleShapeGenerator());
     m_generators.push_back(makeTriangleShapeGenerator());
     m_generators.push_back(makeVignetteShapeGenerator());
 }

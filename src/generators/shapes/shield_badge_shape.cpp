@@ -1,0 +1,171 @@
+#include "generators/cornered_outline.h"
+#include "generators/shape_generator.h"
+#include "generators/shape_generators.h"
+
+#include <algorithm>
+
+using namespace Qt::StringLiterals;
+
+namespace zm {
+
+namespace {
+
+// The right half of a shield from the middle of its top to its point, in parts of the box, x from the middle outwards.
+// The left half mirrors it.
+class HalfShield
+{
+public:
+    explicit HalfShield(const QPointF &top)
+        : m_top(top)
+    {
+    }
+
+    void lineTo(const QPointF &point) { m_sides.append({{}, {}, point, true}); }
+    void curveTo(const QPointF &first, const QPointF &second, const QPointF &point)
+    {
+        m_sides.append({first, second, point, false});
+    }
+
+    CorneredOutline unfolded(const QSizeF &size) const
+    {
+        const auto right = [&size](const QPointF &half) {
+            return QPointF((0.5 + half.x()) * size.width(), half.y() * size.height());
+        };
+        const auto left = [&right](const QPointF &half) { return right({-half.x(), half.y()}); };
+        CorneredOutline outline(right(m_top));
+        for (const Side &side : m_sides) {
+            if (side.isStraight)
+                outline.lineTo(right(side.end));
+            else
+                outline.curveTo(right(side.first), right(side.second), right(side.end));
+        }
+        for (qsizetype i = m_sides.size() - 1; i >= 0; --i) {
+            const Side &side = m_sides[i];
+            const QPointF end = left(i > 0 ? m_sides[i - 1].end : m_top);
+            if (side.isStraight)
+                outline.lineTo(end);
+            else
+                outline.curveTo(left(side.second), left(side.first), end);
+        }
+        return outline;
+    }
+
+private:
+    struct Side
+    {
+        QPointF first;
+        QPointF second;
+        QPointF end;
+        bool isStraight;
+    };
+
+    QPointF m_top;
+    QList<Side> m_sides;
+};
+
+class ShieldBadgeShapeGenerator final : public ShapeGenerator
+{
+    Q_DECLARE_TR_FUNCTIONS(ShieldBadgeShapeGenerator)
+
+public:
+    QString id() const override { return u"shield-badge"_s; }
+    QString label() const override { return tr("Shield Badge"); }
+    QSizeF defaultSize() const override { return {100.0, 120.0}; }
+    QColor defaultFillColor() const override { return QColor(0x31, 0x5c, 0x9d); }
+    QColor defaultStrokeColor() const override { return QColor(0x17, 0x28, 0x46); }
+
+    QList<ParameterDefinition> parameters() const override
+    {
+        return {integerParameter(u"form"_s, tr("Form"), 1, 1, 4), ratio(u"pointDepth"_s, tr("Point"), 0.65, 0.6, 1.0),
+                ratio(u"cornerRoundness"_s, tr("Corner Radius"), 0.08)};
+    }
+
+protected:
+    EditablePath outline(const QSizeF &size, const ShapeParameters &parameters) const override
+    {
+        const double point = parameters.real(u"pointDepth"_s);
+        const int form = parameters.integer(u"form"_s);
+        // The tops of the second and the third lose their character when they are rounded as much as the others.
+        const double largestRadius = std::min(size.width(), size.height()) * (form == 2 || form == 3 ? 0.16 : 0.3);
+        return half(form, point).unfolded(size).rounded(parameters.real(u"cornerRoundness"_s) * largestRadius);
+    }
+
+private:
+    static HalfShield half(int form, double point)
+    {
+        switch (form) {
+        default:
+            return heater(point);
+        case 2:
+            return shouldered(point);
+        case 3:
+            return scalloped(point);
+        case 4:
+            return crested(point);
+        }
+    }
+
+    // Down from the side at (x, y) to the point, which is the longer and the sharper the deeper it is.
+    static void drawFlank(HalfShield &half, double x, double y, double point)
+    {
+        const double drop = 1.0 - y;
+        half.curveTo({x, y + 0.46 * drop}, {0.5 * (0.86 - 0.5 * point), 1.0 - 0.22 * drop}, {0.0, 1.0});
+    }
+
+    // The knight's shield: a straight top and straight upper sides.
+    static HalfShield heater(double point)
+    {
+        HalfShield half({0.0, 0.0});
+        half.lineTo({0.5, 0.0});
+        half.lineTo({0.5, 1.12 - point});
+        drawFlank(half, 0.5, 1.12 - point, point);
+        return half;
+    }
+
+    // The sheriff's badge: a peak between two shoulders, and a waist below them.
+    static HalfShield shouldered(double point)
+    {
+        const double waist = 0.93 - 0.55 * point;
+        HalfShield half({0.0, 0.0});
+        half.curveTo({0.08, 0.075}, {0.22, 0.105}, {0.34, 0.045});
+        half.lineTo({0.5, 0.165});
+        half.curveTo({0.435, 0.165 + 0.35 * (waist - 0.165)}, {0.46, waist - 0.35 * (waist - 0.165)}, {0.46, waist});
+        drawFlank(half, 0.46, waist, point);
+        return half;
+    }
+
+    // The tournament shield: two hollows at the top, and full cheeks that run out into a small point.
+    static HalfShield scalloped(double point)
+    {
+        const double depth = (point - 0.6) / 0.4;
+        const double side = 0.52 - 0.30 * depth;
+        const QPointF cheek(0.26 - 0.08 * depth, 0.885 - 0.035 * depth);
+        const QPointF along(-0.10 + 0.01 * depth, 0.05 + 0.05 * depth);
+        HalfShield half({0.0, 0.03});
+        half.curveTo({0.12, 0.14}, {0.36, 0.14}, {0.5, 0.0});
+        half.lineTo({0.5, side});
+        half.curveTo({0.5, side + 0.56 * (cheek.y() - side)}, cheek - along * 1.2, cheek);
+        half.curveTo(cheek + along * 0.8, {0.035, 0.945}, {0.0, 1.0});
+        return half;
+    }
+
+    // The crest: a round top, and sides that swell.
+    static HalfShield crested(double point)
+    {
+        const double side = 0.86 - 0.6 * point;
+        HalfShield half({0.0, 0.0});
+        half.curveTo({0.18, 0.0}, {0.34, 0.04}, {0.45, 0.12});
+        half.curveTo({0.48, 0.12 + 0.3 * (side - 0.12)}, {0.5, side - 0.35 * (side - 0.12)}, {0.5, side});
+        drawFlank(half, 0.5, side, point);
+        return half;
+    }
+};
+
+} // namespace
+
+std::unique_ptr<ShapeGenerator> makeShieldBadgeShapeGenerator()
+{
+    return std::make_unique<ShieldBadgeShapeGenerator>();
+}
+
+} // namespace zm
