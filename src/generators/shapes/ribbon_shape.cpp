@@ -40,10 +40,8 @@ protected:
     EditablePath outline(const QSizeF &size, const ShapeParameters &parameters) const override
     {
         const double notch = parameters.real(u"notchDepth"_s);
-        const int form = parameters.integer(u"form"_s);
-        // The steps of the folded banner leave room for half as much.
-        const double largestRadius = std::min(size.width(), size.height()) * (form == 6 ? 0.15 : 0.3);
-        return cut(form, size, notch).rounded(parameters.real(u"cornerRoundness"_s) * largestRadius);
+        const double radius = parameters.real(u"cornerRoundness"_s) * std::min(size.width(), size.height()) * 0.3;
+        return cut(parameters.integer(u"form"_s), size, notch).rounded(radius);
     }
 
 private:
@@ -52,7 +50,7 @@ private:
         const double w = size.width();
         const double h = size.height();
         const double down = notch * h;
-        // Where both ends are cut, they share the width.
+        // Two cuts share the width.
         const double in = 0.6 * notch * w;
         switch (form) {
         default: // a bookmark with a swallow's tail
@@ -65,8 +63,14 @@ private:
             return polygon({{0, 0}, {w, 0}, {w - in, h / 2}, {w, h}, {0, h}, {in, h / 2}});
         case 5:
             return wavingBookmark(w, h, down);
-        case 6:
-            return foldedBanner(w, h, 0.7 * in);
+        case 6: // a church banner with a long tail between two short ones
+            return polygon({{0, 0},
+                            {w, 0},
+                            {w, h - 0.4 * down},
+                            {0.75 * w, h - down},
+                            {w / 2, h},
+                            {0.25 * w, h - down},
+                            {0, h - 0.4 * down}});
         }
     }
 
@@ -96,27 +100,6 @@ private:
         outline.lineTo({left, h});
         outline.curveTo({left - handle, 2 * h / 3}, {left + handle, h / 3}, {left, 0});
         return outline;
-    }
-
-    // A panel in front of two tails that come out from behind it lower down.
-    static CorneredOutline foldedBanner(double w, double h, double in)
-    {
-        const double fold = 0.14 * std::min(w, h);
-        const double tail = (fold + h) / 2;
-        return polygon({{0.13 * w, 0},
-                        {0.87 * w, 0},
-                        {0.87 * w, fold},
-                        {w, fold},
-                        {w - in, tail},
-                        {w, h},
-                        {0.72 * w, h},
-                        {0.72 * w, h - fold},
-                        {0.28 * w, h - fold},
-                        {0.28 * w, h},
-                        {0, h},
-                        {in, tail},
-                        {0, fold},
-                        {0.13 * w, fold}});
     }
 };
 
