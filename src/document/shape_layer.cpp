@@ -44,6 +44,26 @@ EditablePath cleanPath(EditablePath path)
     return path;
 }
 
+/// Qt's smooth rasteriser keeps a list of edges for each row of pixels and walks it for each edge, so its time grows
+/// with the square of the edges in a row: minutes for an outline of a million nodes, which the plain one draws in a
+/// second. These limits keep the smooth one to about a second as well.
+bool canBeSmoothed(const QPainterPath &outline, const QSizeF &box, bool isStroked)
+{
+    // A line around an outline has two edges and joins at every node.
+    const double share = isStroked ? 4.0 : 1.0;
+    constexpr double maximumElements = 100'000.0;
+    constexpr double maximumWork = 2e8;
+    if (share * outline.elementCount() > maximumElements)
+        return false;
+    const auto inBox = [&](const QPainterPath::Element &element) {
+        return QPointF(std::clamp(element.x, 0.0, box.width()), std::clamp(element.y, 0.0, box.height()));
+    };
+    double length = 0.0;
+    for (int i = 1; i < outline.elementCount(); ++i)
+        length += QLineF(inBox(outline.elementAt(i - 1)), inBox(outline.elementAt(i))).length();
+    return share * share * length * length / box.height() <= maximumWork;
+}
+
 } // namespace
 
 bool operator==(const SizedShapeGeometry &a, const SizedShapeGeometry &b)
@@ -105,7 +125,7 @@ RenderedContent ShapeLayer::renderContent(const RenderServices *) const
     if (m_fill.texture())
         brush.setTransform(brush.transform() * QTransform::fromScale(1.0 / scaleX, 1.0 / scaleY));
     QPainter painter(&image);
-    painter.setRenderHint(QPainter::Antialiasing);
+    painter.setRenderHint(QPainter::Antialiasing, canBeSmoothed(painterPath(), size, m_stroke.width > 0.0));
     painter.scale(scaleX, scaleY);
     painter.setBrush(brush);
     painter.setPen(outlinePen(m_stroke));
