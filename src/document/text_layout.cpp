@@ -7,6 +7,7 @@
 #include <QFontMetricsF>
 #include <QPainter>
 #include <QTextBlock>
+#include <QTextBoundaryFinder>
 #include <QTextCursor>
 #include <QTextDocument>
 #include <QTextLayout>
@@ -18,59 +19,55 @@ namespace zm {
 
 namespace {
 
-/// Properties of a run's format beyond those of QTextCharFormat.
-enum FormatProperty {
-    /// The run's fill as it is, since a brush no longer tells the generator or the fractions of a gradient.
-    RunFill = QTextFormat::UserProperty + 1,
-    DrawnUnderline = QTextFormat::UserProperty + 3,
-    DrawnOverline,
-    DrawnStrikeOut,
-};
-
-QTextBlockFormat blockFormat(const TextParagraph &paragraph)
+/// Whether a line may break nowhere within thousands of characters.
+bool hasEndlessWord(const TextParagraph &paragraph)
 {
-    QTextBlockFormat format;
-    format.setAlignment(paragraph.alignment);
-    format.setLayoutDirection(paragraph.direction);
-    format.setLineHeight(paragraph.lineHeight * 100.0, QTextBlockFormat::ProportionalHeight);
-    return format;
-}
-
-QTextCharFormat charFormat(const TextRun &run, const QSize &fillSize, TextLines lines)
-{
-    QTextCharFormat format;
-    format.setFont(run.font);
-    format.setForeground(run.fill.brushFor(fillSize));
-    format.setProperty(RunFill, QVariant::fromValue(run.fill));
-    format.setUnderlineColor(run.underlineColor);
-    format.setProperty(QTextFormat::TextBaselineOffset, run.baselineOffset);
-    format.setTextOutline(run.outlineWidth > 0.0 ? QPen(run.outlineColor, run.outlineWidth) : QPen(Qt::NoPen));
-    const bool asFormats = lines == TextLines::AsFormats;
-    format.setUnderlineStyle(asFormats && run.underline ? QTextCharFormat::SingleUnderline
-                                                        : QTextCharFormat::NoUnderline);
-    format.setFontOverline(asFormats && run.overline);
-    format.setFontStrikeOut(asFormats && run.strikeOut);
-    if (lines == TextLines::ByHand) {
-        const auto mark = [&format](FormatProperty property, bool flag) {
-            if (flag)
-                format.setProperty(property, true);
-        };
-        mark(DrawnUnderline, run.underline);
-        mark(DrawnOverline, run.overline);
-        mark(DrawnStrikeOut, run.strikeOut);
+    constexpr qsizetype longestWord = 5'000;
+    qsizetype length = 0;
+    for (const TextRun &run : paragraph.runs)
+        length += run.text.size();
+    if (length <= longestWord)
+        return false;
+    QString text;
+    text.reserve(length);
+    for (const TextRun &run : paragraph.runs)
+        text += run.text;
+    QTextBoundaryFinder finder(QTextBoundaryFinder::Line, text);
+    qsizetype wordStart = 0;
+    for (qsizetype end = finder.toNextBoundary(); end >= 0; end = finder.toNextBoundary()) {
+        if (end - wordStart > longestWord)
+            return true;
+        wordStart = end;
     }
-    return format;
+    return false;
 }
 
-void insertRuns(QTextCursor &cursor, const TextParagraph &paragraph, const QSize &fillSize, TextLines lines)
+QTextOption::WrapMode wrapMode(const TextLayerState &state)
+{
+    // Without a width the box follows the longest line; QTextDocument::adjustSize() alone would break lines to make a
+    // pleasing shape.
+    if (state.textWidth <= 0.0)
+        return QTextOption::NoWrap;
+    // The mode that prefers to break between words looks through the rest of the word for each line, so that an endless
+    // one takes a time that grows with the square of its length.
+    if (std::ranges::any_of(state.blocks, hasEndlessWord))
+        return QTextOption::WrapAnywhere;
+    return QTextOption::WrapAtWordBoundaryOrAnywhere;
+}
+
+void insertRuns(QTextCursor &cursor, const TextParagraph &paragraph, RunFormats &formats)
 {
     for (const TextRun &run : paragraph.runs) {
-        const QTextCharFormat format = charFormat(run, fillSize, lines);
-        if (run.text.isEmpty())
-            cursor.setBlockCharFormat(format);
-        else
-            cursor.insertText(run.text, format);
+        if (!run.text.isEmpty())
+            cursor.insertText(run.text, formats.formatOf(run));
     }
+}
+
+bool isSolid(const TextLayerState &state)
+{
+    return std::ranges::all_of(state.blocks, [](const TextParagraph &paragraph) {
+        return std::ranges::all_of(paragraph.runs, [](const TextRun &run) { return run.fill.isSolid(); });
+    });
 }
 
 /// One decoration under or through a stretch of a line, in the document's coordinates.
@@ -85,82 +82,59 @@ void drawDecoration(QPainter &painter, double startX, double endX, double y, con
     painter.drawLine(QPointF(left, y), QPointF(right, y));
 }
 
-void drawFragmentDecorations(QPainter &painter, const QTextFragment &fragment, const QTextBlock &block,
-                             const QPointF &origin)
+/// Where a fragment and a line of its block meet, in characters of the block.
+struct Stretch
 {
-    const QTextCharFormat format = fragment.charFormat();
-    const bool hasUnderline = format.boolProperty(DrawnUnderline);
-    const bool hasOverline = format.boolProperty(DrawnOverline);
-    const bool hasStrikeOut = format.boolProperty(DrawnStrikeOut);
-    if (!hasUnderline && !hasOverline && !hasStrikeOut)
-        return;
+    int start = 0;
+    int end = 0;
+};
+
+void drawStretchDecorations(QPainter &painter, const QTextCharFormat &format, const QTextLine &line,
+                            const Stretch &stretch, const QPointF &origin)
+{
     const QFontMetricsF metrics(format.font());
-    const int fragmentStart = fragment.position() - block.position();
+    const double startX = origin.x() + line.cursorToX(stretch.start);
+    const double endX = origin.x() + line.cursorToX(stretch.end);
+    const double baseline = origin.y() + line.y() + line.ascent();
+    const auto draw = [&](DrawnLineProperty property, double position) {
+        const double y = baseline + position + metrics.lineWidth() / 2.0;
+        if (format.boolProperty(property))
+            drawDecoration(painter, startX, endX, y, format.foreground(), metrics.lineWidth());
+    };
+    // All three add their distance to the baseline: documents are drawn alike everywhere.
+    draw(DrawnUnderline, metrics.underlinePos());
+    draw(DrawnOverline, metrics.overlinePos());
+    draw(DrawnStrikeOut, metrics.strikeOutPos());
+}
+
+void drawBlockDecorations(QPainter &painter, const QTextBlock &block, const QPointF &origin)
+{
     const QTextLayout &layout = *block.layout();
-    for (int i = 0; i < layout.lineCount(); ++i) {
-        const QTextLine line = layout.lineAt(i);
-        const int start = std::max(fragmentStart, line.textStart());
-        const int end = std::min(fragmentStart + fragment.length(), line.textStart() + line.textLength());
-        if (start >= end)
+    const auto endOf = [&layout](int i) { return layout.lineAt(i).textStart() + layout.lineAt(i).textLength(); };
+    int first = 0; // fragments follow each other as the lines do: the first line that reaches into this one
+    for (auto it = block.begin(); !it.atEnd(); ++it) {
+        const QTextFragment fragment = it.fragment();
+        const QTextCharFormat format = fragment.charFormat();
+        if (!format.hasProperty(DrawnUnderline) && !format.hasProperty(DrawnOverline)
+            && !format.hasProperty(DrawnStrikeOut))
             continue;
-        const double startX = origin.x() + line.cursorToX(start);
-        const double endX = origin.x() + line.cursorToX(end);
-        const double baseline = origin.y() + line.y() + line.ascent();
-        const auto draw = [&](bool wanted, double position) {
-            const double y = baseline + position + metrics.lineWidth() / 2.0;
-            if (wanted)
-                drawDecoration(painter, startX, endX, y, format.foreground(), metrics.lineWidth());
-        };
-        // All three add their distance to the baseline: documents are drawn alike everywhere.
-        draw(hasUnderline, metrics.underlinePos());
-        draw(hasOverline, metrics.overlinePos());
-        draw(hasStrikeOut, metrics.strikeOutPos());
+        const int start = fragment.position() - block.position();
+        const int end = start + fragment.length();
+        while (first < layout.lineCount() && endOf(first) <= start)
+            ++first;
+        for (int i = first; i < layout.lineCount() && layout.lineAt(i).textStart() < end; ++i) {
+            const QTextLine line = layout.lineAt(i);
+            const Stretch stretch{std::max(start, line.textStart()), std::min(end, endOf(i))};
+            if (stretch.start < stretch.end)
+                drawStretchDecorations(painter, format, line, stretch, origin);
+        }
     }
 }
 
 void drawDecorations(QPainter &painter, const QTextDocument &document)
 {
-    for (QTextBlock block = document.begin(); block.isValid(); block = block.next()) {
-        const QPointF origin = document.documentLayout()->blockBoundingRect(block).topLeft();
-        for (auto fragment = block.begin(); !fragment.atEnd(); ++fragment)
-            drawFragmentDecorations(painter, fragment.fragment(), block, origin);
-    }
-}
-
-TextRun runFrom(const QTextCharFormat &format, const QString &text)
-{
-    TextRun run;
-    run.text = text;
-    run.font = format.font();
-    const QVariant fill = format.property(RunFill);
-    run.fill = fill.canConvert<Fill>() ? fill.value<Fill>() : Fill::fromBrush(format.foreground());
-    const QPen outline = format.textOutline();
-    if (outline.style() != Qt::NoPen) {
-        run.outlineColor = outline.color();
-        run.outlineWidth = outline.widthF();
-    }
-    run.underlineColor = format.underlineColor();
-    run.baselineOffset = format.baselineOffset();
-    run.underline = format.fontUnderline() || format.underlineStyle() == QTextCharFormat::SingleUnderline;
-    run.overline = format.fontOverline();
-    run.strikeOut = format.fontStrikeOut();
-    return run;
-}
-
-TextParagraph paragraphFrom(const QTextBlock &block)
-{
-    TextParagraph paragraph;
-    const QTextBlockFormat format = block.blockFormat();
-    paragraph.alignment = format.alignment();
-    if (format.hasProperty(QTextFormat::LayoutDirection))
-        paragraph.direction = format.layoutDirection();
-    if (format.lineHeightType() == QTextBlockFormat::ProportionalHeight)
-        paragraph.lineHeight = format.lineHeight() / 100.0;
-    for (auto fragment = block.begin(); !fragment.atEnd(); ++fragment)
-        paragraph.runs.append(runFrom(fragment.fragment().charFormat(), fragment.fragment().text()));
-    if (paragraph.runs.isEmpty())
-        paragraph.runs.append(runFrom(block.charFormat(), {}));
-    return paragraph;
+    for (QTextBlock block = document.begin(); block.isValid(); block = block.next())
+        drawBlockDecorations(painter, block, document.documentLayout()->blockBoundingRect(block).topLeft());
 }
 
 } // namespace
@@ -170,17 +144,17 @@ std::unique_ptr<QTextDocument> textDocument(const TextLayerState &state, const Q
     auto document = std::make_unique<QTextDocument>();
     document->setDocumentMargin(0.0);
     document->setUndoRedoEnabled(false);
-    if (state.textWidth <= 0.0) {
-        // Without a width the box follows the longest line; adjustSize() alone would break lines to a pleasing shape.
-        QTextOption option = document->defaultTextOption();
-        option.setWrapMode(QTextOption::NoWrap);
-        document->setDefaultTextOption(option);
-    }
+    QTextOption option = document->defaultTextOption();
+    option.setWrapMode(wrapMode(state));
+    document->setDefaultTextOption(option);
+
+    RunFormats formats(fillSize, lines);
     QTextCursor cursor(document.get());
     cursor.beginEditBlock();
     bool isFirst = true;
     for (const TextParagraph &paragraph : state.blocks) {
-        const QTextCharFormat format = charFormat(paragraph.runs.first(), fillSize, lines);
+        // An empty run gives its height to the block by the block's own format.
+        const QTextCharFormat format = formats.formatOf(paragraph.runs.first());
         if (isFirst) {
             cursor.setBlockFormat(blockFormat(paragraph));
             cursor.setBlockCharFormat(format);
@@ -188,27 +162,27 @@ std::unique_ptr<QTextDocument> textDocument(const TextLayerState &state, const Q
             cursor.insertBlock(blockFormat(paragraph), format);
         }
         isFirst = false;
-        insertRuns(cursor, paragraph, fillSize, lines);
+        insertRuns(cursor, paragraph, formats);
     }
     cursor.endEditBlock();
-    if (state.textWidth > 0.0)
-        document->setTextWidth(state.textWidth);
-    else
-        document->adjustSize();
+    // What adjustSize() comes to where lines do not wrap, without the layouts it tries on the way.
+    document->setTextWidth(state.textWidth > 0.0 ? state.textWidth : document->idealWidth());
     return document;
 }
 
 std::unique_ptr<QTextDocument> fittedTextDocument(const TextLayerState &state, TextLines lines)
 {
-    const QSizeF size = textDocument(state, {}, TextLines::AsFormats)->size();
-    return textDocument(state, coveringPixels(size), lines);
+    std::unique_ptr<QTextDocument> document = textDocument(state, {}, lines);
+    const QSize box = coveringPixels(document->size());
+    // Colours look the same in every box, and nothing is painted into a box that is too large.
+    return isSolid(state) || !isAllocatableRasterSize(box) ? std::move(document) : textDocument(state, box, lines);
 }
 
 TextLayerState textStateFromDocument(const QTextDocument &document, double textWidth)
 {
     TextLayerState state{{}, textWidth};
     for (QTextBlock block = document.begin(); block.isValid(); block = block.next())
-        state.blocks.append(paragraphFrom(block));
+        state.blocks.append(paragraphFromBlock(block));
     return normalizedTextState(state);
 }
 

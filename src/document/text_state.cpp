@@ -4,6 +4,7 @@
 #include "document/valid_color.h"
 
 #include <algorithm>
+#include <cmath>
 #include <optional>
 
 using namespace Qt::StringLiterals;
@@ -16,14 +17,65 @@ constexpr int kDefaultPixelSize = 56;
 constexpr double kMinimumLineHeight = 0.5;
 constexpr double kMaximumLineHeight = 4.0;
 
+// Text layouts count in 32-bit fixed-point numbers that end at 33,554,432; beyond these limits they overflow. Glyphs
+// above some 16,000 pixels are not drawn at all.
+constexpr int kMaximumPixelSize = 10'000;
+constexpr double kMaximumPointSize = kMaximumPixelSize * 72.0 / 96.0;
+constexpr double kMaximumSpacing = 10'000.0;
+constexpr double kMaximumTextWidth = 16'777'216.0;
+
+QFont cleanFont(QFont font)
+{
+    const bool isInPoints = font.pixelSize() < 1;
+    if (isInPoints && !(font.pointSizeF() > 0.0))
+        font.setPixelSize(kDefaultPixelSize);
+    else if (isInPoints && font.pointSizeF() > kMaximumPointSize)
+        font.setPointSizeF(kMaximumPointSize);
+    else if (font.pixelSize() > kMaximumPixelSize)
+        font.setPixelSize(kMaximumPixelSize);
+    if (std::abs(font.letterSpacing()) > kMaximumSpacing)
+        font.setLetterSpacing(font.letterSpacingType(), std::copysign(kMaximumSpacing, font.letterSpacing()));
+    if (std::abs(font.wordSpacing()) > kMaximumSpacing)
+        font.setWordSpacing(std::copysign(kMaximumSpacing, font.wordSpacing()));
+    // The lines are flags of the run alone.
+    font.setUnderline(false);
+    font.setOverline(false);
+    font.setStrikeOut(false);
+    return font;
+}
+
+/// What a paragraph can hold. An end of line within it becomes the separator that Shift+Return makes; the characters
+/// that QTextDocument keeps for its frames and half a surrogate pair become the replacement character.
+QString cleanText(QString text)
+{
+    text.replace("\r\n"_L1, "\n"_L1);
+    for (qsizetype i = 0; i < text.size(); ++i) {
+        const char16_t c = text.at(i).unicode();
+        if (c == u'\n' || c == u'\r' || c == QChar::ParagraphSeparator)
+            text[i] = QChar::LineSeparator;
+        else if (c == 0xfdd0 || c == 0xfdd1)
+            text[i] = QChar::ReplacementCharacter;
+        else if (QChar::isHighSurrogate(c) && i + 1 < text.size() && text.at(i + 1).isLowSurrogate())
+            ++i;
+        else if (QChar::isSurrogate(c))
+            text[i] = QChar::ReplacementCharacter;
+    }
+    return text;
+}
+
+/// One of the four alignments that a paragraph can have.
+Qt::Alignment cleanAlignment(Qt::Alignment alignment)
+{
+    for (const Qt::AlignmentFlag known : {Qt::AlignJustify, Qt::AlignHCenter, Qt::AlignRight}) {
+        if (alignment.testFlag(known))
+            return known;
+    }
+    return Qt::AlignLeft;
+}
+
 TextRun cleanRun(TextRun run)
 {
-    if (run.font.pixelSize() < 1 && !(run.font.pointSizeF() > 0.0))
-        run.font.setPixelSize(kDefaultPixelSize);
-    // The lines are flags of the run alone.
-    run.font.setUnderline(false);
-    run.font.setOverline(false);
-    run.font.setStrikeOut(false);
+    run.font = cleanFont(run.font);
     run.outlineColor = validOrBlack(run.outlineColor);
     run.outlineWidth = std::max(finiteOr(run.outlineWidth, 0.0), 0.0);
     run.underlineColor = validOrBlack(run.underlineColor);
@@ -48,6 +100,8 @@ QList<TextRun> joinedRuns(const QList<TextRun> &runs)
     }
     if (joined.isEmpty())
         joined.append(format.value_or(defaultTextRun()));
+    for (TextRun &run : joined) // joined first: two runs may have held one surrogate pair
+        run.text = cleanText(run.text);
     return joined;
 }
 
@@ -71,10 +125,13 @@ bool hasSameFormat(const TextRun &a, const TextRun &b)
 TextLayerState normalizedTextState(const TextLayerState &state)
 {
     TextLayerState result = state;
-    result.textWidth = std::max(finiteOr(state.textWidth, 0.0), 0.0);
+    result.textWidth = std::clamp(finiteOr(state.textWidth, 0.0), 0.0, kMaximumTextWidth);
     if (result.blocks.isEmpty())
         result.blocks.append(TextParagraph());
     for (TextParagraph &paragraph : result.blocks) {
+        paragraph.alignment = cleanAlignment(paragraph.alignment);
+        if (paragraph.direction != Qt::LeftToRight && paragraph.direction != Qt::RightToLeft)
+            paragraph.direction = Qt::LayoutDirectionAuto;
         paragraph.lineHeight = std::clamp(finiteOr(paragraph.lineHeight, TextParagraph().lineHeight),
                                           kMinimumLineHeight, kMaximumLineHeight);
         paragraph.runs = joinedRuns(paragraph.runs);
