@@ -6,6 +6,7 @@
 #include "scene_bench.h"
 #include "shapes_bench.h"
 #include "startup_bench.h"
+#include "text_bench.h"
 #include "vector_bench.h"
 
 #include <QGuiApplication>
@@ -27,6 +28,7 @@ constexpr BenchGroup kGroups[] = {
     {"scene"_L1, zm::bench::benchScene},
     {"vectors"_L1, zm::bench::benchVectors},
     {"blur"_L1, zm::bench::benchBlur},
+    {"text"_L1, zm::bench::benchText},
     {"export"_L1, zm::bench::benchExport},
     {"shapes"_L1, zm::bench::benchShapes},
     {"start"_L1, zm::bench::benchStartup},

@@ -5,6 +5,8 @@
 #include <QPen>
 #include <QTextBlock>
 
+#include <algorithm>
+
 namespace zm {
 
 namespace {
@@ -15,8 +17,8 @@ enum CarriedProperty {
     CarriedFill = QTextFormat::UserProperty + 1,
     CarriedBrush,
     BrushHash = QTextFormat::UserProperty + 6,
-    /// Set where the font is oblique, which Qt's formats take for italic.
-    CarriedOblique,
+    /// The run's font: Qt's formats take oblique for italic, and do not tell an asked for pitch from one left open.
+    CarriedFont,
     /// The paragraph's factor, since its percentage is rounded.
     CarriedLineHeight,
 };
@@ -44,6 +46,33 @@ Fill fillFromFormat(const QTextCharFormat &format)
     if (carried.canConvert<Fill>() && format.foreground() == format.brushProperty(CarriedBrush))
         return carried.value<Fill>();
     return Fill::fromBrush(format.foreground());
+}
+
+/// Whether the format still has each property that the font gave it. Its lines are the run's own.
+bool hasPropertiesOf(const QTextCharFormat &format, const QFont &font)
+{
+    QTextCharFormat asMade;
+    asMade.setFont(font);
+    for (const int line : {QTextFormat::FontUnderline, QTextFormat::TextUnderlineStyle, QTextFormat::FontOverline,
+                           QTextFormat::FontStrikeOut})
+        asMade.clearProperty(line);
+    const QMap<int, QVariant> properties = asMade.properties();
+    return std::all_of(properties.keyValueBegin(), properties.keyValueEnd(),
+                       [&format](const auto &entry) { return format.property(entry.first) == entry.second; });
+}
+
+QFont fontFromFormat(const QTextCharFormat &format)
+{
+    QFont font = format.font();
+    const QVariant property = format.property(CarriedFont);
+    if (!property.canConvert<QFont>())
+        return font;
+    const auto carried = property.value<QFont>();
+    if (hasPropertiesOf(format, carried))
+        return carried;
+    if (font.italic() && carried.style() == QFont::StyleOblique)
+        font.setStyle(QFont::StyleOblique);
+    return font;
 }
 
 double lineHeightFromFormat(const QTextBlockFormat &format)
@@ -90,8 +119,7 @@ QTextCharFormat RunFormats::formatOf(const TextRun &run)
 {
     QTextCharFormat format;
     format.setFont(run.font);
-    if (run.font.style() == QFont::StyleOblique)
-        format.setProperty(CarriedOblique, true);
+    format.setProperty(CarriedFont, run.font);
     if (run.fill.isSolid()) {
         format.setForeground(run.fill.brushFor(m_fillSize));
     } else {
@@ -125,9 +153,7 @@ TextRun runFromFormat(const QTextCharFormat &format, const QString &text)
 {
     TextRun run;
     run.text = text;
-    run.font = format.font();
-    if (format.fontItalic() && format.boolProperty(CarriedOblique))
-        run.font.setStyle(QFont::StyleOblique);
+    run.font = fontFromFormat(format);
     run.fill = fillFromFormat(format);
     if (format.hasProperty(QTextFormat::TextOutline)) {
         const QPen outline = format.textOutline();

@@ -53,9 +53,9 @@ TextRun defaultTextRun();
 /// Equal in all but the text.
 bool hasSameFormat(const TextRun &a, const TextRun &b);
 
-/// The state as a layer keeps it: numbers, texts and fonts cleaned, runs of one format joined, and at least one paragraph
-/// with at least one run, which may be empty. Fonts have at most 10,000 pixels or 7,500 points, spacings of letters and
-/// words at most 10,000, and the width at most 16,777,216.
+/// The state as a layer keeps it: numbers, texts and fonts cleaned, runs of one format joined, and at least one
+/// paragraph with at least one run, which may be empty. Fonts have at most 10,000 pixels or 7,500 points, spacings of
+/// letters and words at most 10,000, and the width at most 16,777,216.
 TextLayerState normalizedTextState(const TextLayerState &state);
 
 /// One paragraph for each line of the text, however its lines end, in the format of the given run.
