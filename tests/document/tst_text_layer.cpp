@@ -16,8 +16,6 @@
 using namespace Qt::StringLiterals;
 using namespace zm;
 
-Q_DECLARE_METATYPE(zm::TextLayerState)
-
 namespace {
 
 constexpr double kNaN = std::numeric_limits<double>::quiet_NaN();
@@ -25,13 +23,22 @@ constexpr double kInfinity = std::numeric_limits<double>::infinity();
 // Text layouts count in sixty-fourths of a pixel.
 constexpr double kLayoutStep = 1.0 / 32.0;
 
-TextRun run(const QString &text, int pixelSize = 20, const Fill &fill = {})
+using Change = std::function<void(TextRun &)>;
+
+TextRun run(const QString &text, int pixelSize = 20, const Fill &fill = {}, const Change &change = {})
 {
     TextRun run = defaultTextRun();
     run.text = text;
     run.font.setPixelSize(pixelSize);
     run.fill = fill;
+    if (change)
+        change(run);
     return run;
+}
+
+void underline(TextRun &run)
+{
+    run.underline = true;
 }
 
 /// As a file gives it: without its picture.
@@ -41,18 +48,6 @@ Fill texture(const QString &generatorId)
     fill.generatorId = generatorId;
     fill.mapping = 2;
     return fill;
-}
-
-TextRun underlined(TextRun run)
-{
-    run.underline = true;
-    return run;
-}
-
-TextRun with(TextRun run, const std::function<void(TextRun &)> &change)
-{
-    change(run);
-    return run;
 }
 
 TextLayerState state(const QList<TextRun> &runs, double width = 0.0, Qt::Alignment alignment = Qt::AlignLeft)
@@ -88,37 +83,27 @@ QList<double> inkedBands(const QImage &image)
     return middles;
 }
 
-/// The colour of the ink of a column.
-QColor inkAt(const QImage &image, int x)
-{
-    QColor strongest(Qt::transparent);
-    for (int y = 0; y < image.height(); ++y) {
-        if (image.pixelColor(x, y).alpha() > strongest.alpha())
-            strongest = image.pixelColor(x, y);
-    }
-    return strongest;
-}
-
 TextRun randomRun(QRandomGenerator &random)
 {
     static const QStringList texts{
         {}, u"plain"_s, u"two\u2028lines"_s, u"שלום"_s, u"😀 e\u0301"_s, u"a\ufffc\tb"_s, QString(2, QChar(0))};
     const auto oneOf = [&random](const auto &list) { return list[random.bounded(int(std::size(list)))]; };
     TextRun made = run(oneOf(texts), 1 + random.bounded(300));
+    QFont &font = made.font;
     if (random.bounded(2))
-        made.font.setPointSizeF(0.5 + random.bounded(90.0));
-    made.font.setFamilies(oneOf(QList<QStringList>{{u"DejaVu Sans"_s}, {u"None"_s, u"DejaVu Serif"_s}, {}}));
-    made.font.setStyleName(oneOf(QStringList{{}, u"Condensed"_s}));
-    made.font.setWeight(QFont::Weight(1 + random.bounded(1000)));
-    made.font.setStyle(QFont::Style(random.bounded(3)));
-    made.font.setStretch(random.bounded(4001));
-    made.font.setCapitalization(QFont::Capitalization(random.bounded(5)));
-    made.font.setLetterSpacing(QFont::SpacingType(random.bounded(2)), random.bounded(200) - 50.5);
-    made.font.setWordSpacing(random.bounded(20) - 9.25);
-    made.font.setHintingPreference(QFont::HintingPreference(random.bounded(4)));
-    made.font.setStyleStrategy(oneOf(QList{QFont::PreferDefault, QFont::NoAntialias, QFont::NoFontMerging}));
-    made.font.setKerning(random.bounded(2));
-    made.font.setFixedPitch(random.bounded(2));
+        font.setPointSizeF(0.5 + random.bounded(90.0));
+    font.setFamilies(oneOf(QList<QStringList>{{u"DejaVu Sans"_s}, {u"None"_s, u"DejaVu Serif"_s}, {}}));
+    font.setStyleName(oneOf(QStringList{{}, u"Condensed"_s}));
+    font.setWeight(QFont::Weight(1 + random.bounded(1000)));
+    font.setStyle(QFont::Style(random.bounded(3)));
+    font.setStretch(random.bounded(4001));
+    font.setCapitalization(QFont::Capitalization(random.bounded(5)));
+    font.setLetterSpacing(QFont::SpacingType(random.bounded(2)), random.bounded(200) - 50.5);
+    font.setWordSpacing(random.bounded(20) - 9.25);
+    font.setHintingPreference(QFont::HintingPreference(random.bounded(4)));
+    font.setStyleStrategy(oneOf(QList{QFont::PreferDefault, QFont::NoAntialias, QFont::NoFontMerging}));
+    font.setKerning(random.bounded(2));
+    font.setFixedPitch(random.bounded(2));
     const QColor color(random.bounded(256), 0, random.bounded(256), random.bounded(256));
     const double third = 1.0 / (1 + random.bounded(9));
     made.fill = oneOf(
@@ -128,9 +113,8 @@ TextRun randomRun(QRandomGenerator &random)
     made.outlineWidth = random.bounded(2) * third;
     made.underlineColor = color.lighter();
     made.baselineOffset = random.bounded(3) * third - 0.3;
-    made.underline = random.bounded(2);
-    made.overline = random.bounded(2);
-    made.strikeOut = random.bounded(2);
+    for (const auto flag : {&TextRun::underline, &TextRun::overline, &TextRun::strikeOut})
+        made.*flag = random.bounded(2);
     return made;
 }
 
@@ -155,57 +139,57 @@ class TestTextLayer : public QObject
     Q_OBJECT
 
 private slots:
-    void statesAreNormalized_data()
-    {
-        QTest::addColumn<TextLayerState>("given");
-        QTest::addColumn<TextLayerState>("expected");
-        const auto height = [](double lineHeight) {
-            return TextLayerState{{TextParagraph{{run(u"a"_s)}, Qt::AlignLeft, Qt::LayoutDirectionAuto, lineHeight}},
-                                  0.0};
-        };
-        const auto number = [](double width, double offset) {
-            return state({with(run(u"a"_s), [=](TextRun &r) { r.outlineWidth = width, r.baselineOffset = offset; })});
-        };
-        const auto points = [](double size) {
-            return state(
-                {with(run(u"a"_s), [=](TextRun &r) { r.font = QFont(u"Arial"_s), r.font.setPointSizeF(size); })});
-        };
-        QTest::newRow("no paragraphs") << TextLayerState{} << state({defaultTextRun()});
-        QTest::newRow("no runs") << state({}, 90.0) << state({defaultTextRun()}, 90.0);
-        QTest::newRow("line height 9") << height(9.0) << height(4.0);
-        QTest::newRow("line height NaN") << height(kNaN) << height(1.18);
-        QTest::newRow("line height 0.1") << height(0.1) << height(0.5);
-        QTest::newRow("equal runs") << state({run(u"a"_s), run({}, 9), run(u"b"_s), run(u"c"_s, 21)})
-                                    << state({run(u"ab"_s), run(u"c"_s, 21)});
-        QTest::newRow("only empty runs") << state({run({}, 9), run({}, 8)}) << state({run({}, 9)});
-        QTest::newRow("no font size") << points(kNaN) << state({run(u"a"_s, 56)});
-        QTest::newRow("endless font size") << points(kInfinity) << points(7500.0);
-        QTest::newRow("huge pixels") << state({run(u"a"_s, std::numeric_limits<int>::max())})
-                                     << state({run(u"a"_s, 10'000)});
-        QTest::newRow("numbers below range") << number(-1.0, kNaN) << number(0.0, 0.0);
-        QTest::newRow("numbers not finite") << number(kNaN, kInfinity) << number(0.0, 0.0);
-        QTest::newRow("negative width") << state({run(u"a"_s)}, -1.0) << state({run(u"a"_s)});
-        QTest::newRow("width NaN") << state({run(u"a"_s)}, kNaN) << state({run(u"a"_s)});
-        QTest::newRow("no alignment") << state({run(u"a"_s)}, 0.0, Qt::AlignVCenter) << state({run(u"a"_s)});
-        QTest::newRow("invalid colours") << state(
-            {with(run(u"a"_s), [](TextRun &r) { r.outlineColor = r.underlineColor = QColor(); })})
-                                         << state({run(u"a"_s)});
-        QTest::newRow("lines of the font")
-            << state({with(run(u"a"_s), [](TextRun &r) { r.font.setUnderline(true), r.font.setStrikeOut(true); })})
-            << state({run(u"a"_s)});
-        QTest::newRow("ends of lines within")
-            << state({run(u"a\r\nb\rc\nd\u2029e"_s)}) << state({run(u"a\u2028b\u2028c\u2028d\u2028e"_s)});
-        QTest::newRow("half a surrogate")
-            << state({run(u"a"_s + QChar(0xd83d)), run(u"b"_s, 21)}) << state({run(u"a\ufffd"_s), run(u"b"_s, 21)});
-        QTest::newRow("a pair in two runs") << state({run(QChar(0xd83d)), run(QChar(0xde00))}) << state({run(u"😀"_s)});
-    }
     void statesAreNormalized()
     {
-        QFETCH(TextLayerState, given);
-        QFETCH(TextLayerState, expected);
-        const TextLayer layer(given.blocks, given.textWidth, u"text"_s);
-        QCOMPARE(layer.state(), expected);
-        QCOMPARE(normalizedTextState(expected), expected);
+        const auto height = [](double lineHeight) {
+            TextLayerState made = state({run(u"a"_s)});
+            made.blocks[0].lineHeight = lineHeight;
+            return made;
+        };
+        const auto changed = [](const Change &change) { return state({run(u"a"_s, 20, {}, change)}); };
+        const auto numbers = [&changed](double outline, double offset) {
+            return changed([=](TextRun &r) { r.outlineWidth = outline, r.baselineOffset = offset; });
+        };
+        const auto points = [&changed](double size) {
+            return changed([size](TextRun &r) { r.font = QFont(u"Arial"_s), r.font.setPointSizeF(size); });
+        };
+        const TextLayerState plain = state({run(u"a"_s)});
+        const auto &runs = plain.blocks[0].runs;
+        const struct Row
+        {
+            const char *name;
+            TextLayerState given, expected;
+        } rows[] = {
+            {"no paragraphs", {}, state({defaultTextRun()})},
+            {"no runs", state({}, 90.0), state({defaultTextRun()}, 90.0)},
+            {"line height 9", height(9.0), height(4.0)},
+            {"line height NaN", height(kNaN), height(1.18)},
+            {"line height 0.1", height(0.1), height(0.5)},
+            {"equal runs", state({run(u"a"_s), run({}, 9), run(u"b"_s), run(u"c"_s, 21)}),
+             state({run(u"ab"_s), run(u"c"_s, 21)})},
+            {"only empty runs", state({run({}, 9), run({}, 8)}), state({run({}, 9)})},
+            {"no font size", points(kNaN), state({run(u"a"_s, 56)})},
+            {"endless font size", points(kInfinity), points(7500.0)},
+            {"huge pixels", state({run(u"a"_s, std::numeric_limits<int>::max())}), state({run(u"a"_s, 10'000)})},
+            {"negative outline, offset NaN", numbers(-1.0, kNaN), plain},
+            {"outline NaN, offset endless", numbers(kNaN, kInfinity), plain},
+            {"negative width", state(runs, -1.0), plain},
+            {"width NaN", state(runs, kNaN), plain},
+            {"no alignment", state(runs, 0.0, Qt::AlignVCenter), plain},
+            {"invalid colours", changed([](TextRun &r) { r.outlineColor = r.underlineColor = QColor(); }), plain},
+            {"lines of the font", changed([](TextRun &r) { r.font.setUnderline(true), r.font.setStrikeOut(true); }),
+             plain},
+            {"ends of lines within", state({run(u"a\r\nb\rc\nd\u2029e"_s)}),
+             state({run(u"a\u2028b\u2028c\u2028d\u2028e"_s)})},
+            {"half a surrogate", state({run(u"a"_s + QChar(0xd83d)), run(u"b"_s, 21)}),
+             state({run(u"a\ufffd"_s), run(u"b"_s, 21)})},
+            {"a pair in two runs", state({run(QChar(0xd83d)), run(QChar(0xde00))}), state({run(u"😀"_s)})},
+        };
+        for (const auto &row : rows) {
+            const TextLayer layer(row.given.blocks, row.given.textWidth, u"text"_s);
+            QVERIFY2(layer.state() == row.expected, row.name);
+            QVERIFY2(normalizedTextState(row.expected) == row.expected, row.name);
+        }
     }
 
     void plainTextIsSplitAtEveryEndOfLine()
@@ -238,39 +222,32 @@ private slots:
         QCOMPARE(imageOf(text).width(), 200);
     }
 
-    void linesLieAsTheirParagraphSays_data()
-    {
-        QTest::addColumn<QString>("text");
-        QTest::addColumn<Qt::Alignment>("alignment");
-        QTest::addColumn<Qt::LayoutDirection>("direction");
-        QTest::addColumn<double>("share"); // of the free width that lies to the left
-        const auto row = [](const char *name, const QString &text, Qt::Alignment alignment,
-                            Qt::LayoutDirection direction,
-                            double share) { QTest::newRow(name) << text << alignment << direction << share; };
-        const QString hebrew = u"שלום"_s;
-        row("left", u"word"_s, Qt::AlignLeft, Qt::LayoutDirectionAuto, 0.0);
-        row("centre", u"word"_s, Qt::AlignHCenter, Qt::LayoutDirectionAuto, 0.5);
-        row("right", u"word"_s, Qt::AlignRight, Qt::LayoutDirectionAuto, 1.0);
-        row("Hebrew starts on the right", hebrew, Qt::AlignLeft, Qt::LayoutDirectionAuto, 1.0);
-        row("Hebrew told to go left to right", hebrew, Qt::AlignLeft, Qt::LeftToRight, 0.0);
-        row("a word told to go right to left", u"word"_s, Qt::AlignLeft, Qt::RightToLeft, 1.0);
-    }
     void linesLieAsTheirParagraphSays()
     {
-        QFETCH(QString, text);
-        QFETCH(Qt::Alignment, alignment);
-        QFETCH(Qt::LayoutDirection, direction);
-        QFETCH(double, share);
+        const struct Row
+        {
+            QString text;
+            Qt::Alignment alignment;
+            Qt::LayoutDirection direction;
+            double share; // of the free width that lies to the left
+        } rows[] = {
+            {u"word"_s, Qt::AlignLeft, Qt::LayoutDirectionAuto, 0.0},
+            {u"word"_s, Qt::AlignHCenter, Qt::LayoutDirectionAuto, 0.5},
+            {u"word"_s, Qt::AlignRight, Qt::LayoutDirectionAuto, 1.0},
+            {u"שלום"_s, Qt::AlignLeft, Qt::LayoutDirectionAuto, 1.0},
+            {u"שלום"_s, Qt::AlignLeft, Qt::LeftToRight, 0.0},
+            {u"word"_s, Qt::AlignLeft, Qt::RightToLeft, 1.0},
+        };
+        const TextParagraph longer{{run(u"a much longer line"_s)}};
         for (const double width : {0.0, 500.0}) {
-            const TextLayerState two{
-                {TextParagraph{{run(text)}, alignment, direction}, TextParagraph{{run(u"a much longer line"_s)}}},
-                width};
-            const auto document = layoutOf(two);
-            const QRectF line = document->firstBlock().layout()->lineAt(0).naturalTextRect();
-            const double free = document->size().width() - line.width();
-            QVERIFY(free > 50.0);
-            QVERIFY2(std::abs(line.left() - free * share) <= 2.0 * kLayoutStep,
-                     qPrintable(QString::number(line.left())));
+            for (const Row &row : rows) {
+                const auto document = layoutOf({{{{run(row.text)}, row.alignment, row.direction}, longer}, width});
+                const QRectF line = document->firstBlock().layout()->lineAt(0).naturalTextRect();
+                const double free = document->size().width() - line.width();
+                QVERIFY(free > 50.0);
+                QVERIFY2(std::abs(line.left() - free * row.share) <= 2.0 * kLayoutStep,
+                         qPrintable(u"row %1, width %2"_s.arg(&row - rows).arg(width)));
+            }
         }
     }
 
@@ -316,34 +293,35 @@ private slots:
 
     void anUnderlineOverTwoRunsTakesTheFillOfEach()
     {
-        const TextLayerState text = state({underlined(run(u"          "_s, 40, QColor(Qt::red))),
-                                           underlined(run(u"          "_s, 40, QColor(Qt::blue)))});
+        const TextLayerState text = state({run(u" "_s.repeated(10), 40, QColor(Qt::red), underline),
+                                           run(u" "_s.repeated(10), 40, QColor(Qt::blue), underline)});
         const auto document = layoutOf(text);
         const int border = int(document->firstBlock().layout()->lineAt(0).cursorToX(10));
         const QImage image = imageOf(text);
+        const int row = int(inkedBands(image).value(0));
         for (int x = 0; x < image.width(); ++x) {
             if (std::abs(x - border) > 3) // the caps of both reach over the border
-                QCOMPARE(inkAt(image, x).rgb(), QColor(x < border ? Qt::red : Qt::blue).rgb());
+                QCOMPARE(image.pixelColor(x, row).rgb(), QColor(x < border ? Qt::red : Qt::blue).rgb());
         }
     }
 
     void gradientsStretchOverTheBoxOfTheText()
     {
         const GradientFill gradient{GradientType::Linear, {0.0, 0.0}, {1.0, 0.0}, {{0.0, Qt::red}, {1.0, Qt::blue}}};
-        TextLayerState text = state({underlined(run(QString(10, u' '), 40, gradient))});
+        TextLayerState text = state({run(QString(10, u' '), 40, gradient, underline)});
         text.blocks.append(TextParagraph{{run(QString(20, u' '), 40)}});
         const QImage image = imageOf(text);
+        const int row = int(inkedBands(image).value(0));
         for (const double at : {0.1, 0.25, 0.4}) {
-            const QColor color = inkAt(image, int(image.width() * at));
-            QVERIFY2(std::abs(color.blueF() - at) < 0.03,
-                     qPrintable(color.name())); // a pixel of the line, and rounding
-            QVERIFY(std::abs(color.redF() - (1.0 - at)) < 0.03);
+            const QColor color = image.pixelColor(int(image.width() * at), row);
+            QVERIFY2(std::abs(color.blueF() - at) < 0.03, qPrintable(color.name())); // half a pixel, and rounding
+            QVERIFY2(std::abs(color.redF() + at - 1.0) < 0.03, qPrintable(color.name()));
         }
     }
 
     void onlyTheFillGivesColour()
     {
-        const TextLayerState textured = state({underlined(run(u"text"_s, 40, texture(u"wood"_s)))});
+        const TextLayerState textured = state({run(u"text"_s, 40, texture(u"wood"_s), underline)});
         QCOMPARE(inkedBands(imageOf(textured)), QList<double>());
         const QImage before = imageOf(state({run(u"text"_s)}));
         const QPalette palette = QGuiApplication::palette();
@@ -431,29 +409,26 @@ private slots:
     {
         QTest::addColumn<TextLayerState>("text");
         for (const double n : {1e300, -1e300, 1e6}) {
-            const auto absurd = [n](const std::function<void(TextRun &)> &change) {
-                return state({underlined(with(run(u"Hg word"_s), change))}, 300.0);
+            const Change changes[] = {
+                [n](TextRun &r) { r.font.setLetterSpacing(QFont::AbsoluteSpacing, n); },
+                [n](TextRun &r) { r.font.setLetterSpacing(QFont::PercentageSpacing, n); },
+                [n](TextRun &r) { r.baselineOffset = n; },
+                [n](TextRun &r) { r.outlineWidth = n; },
             };
-            const QByteArray number = QByteArray::number(n);
-            QTest::newRow("letter spacing " + number)
-                << absurd([n](TextRun &r) { r.font.setLetterSpacing(QFont::AbsoluteSpacing, n); });
-            QTest::newRow("letter spacing in percent " + number)
-                << absurd([n](TextRun &r) { r.font.setLetterSpacing(QFont::PercentageSpacing, n); });
-            QTest::newRow("baseline offset " + number) << absurd([n](TextRun &r) { r.baselineOffset = n; });
-            QTest::newRow("outline " + number) << absurd([n](TextRun &r) { r.outlineWidth = n; });
-            QTest::newRow("width " + number) << state({run(u"Hg word"_s)}, n, Qt::AlignRight);
+            const char *names[] = {"letter spacing", "letter spacing in percent", "baseline offset", "outline"};
+            for (int i = 0; i < 4; ++i)
+                QTest::addRow("%s %g", names[i], n) << state({run(u"Hg word"_s, 20, {}, changes[i])}, 300.0);
+            QTest::addRow("width %g", n) << state({run(u"Hg word"_s)}, n, Qt::AlignRight);
         }
         for (const int size : {10'000, 1'000'000, std::numeric_limits<int>::max()})
-            QTest::addRow("font of %d pixels", size) << state({underlined(run(u"Hg"_s, size))});
+            QTest::addRow("font of %d pixels", size) << state({run(u"Hg"_s, size, {}, underline)});
         for (const double width : {0.0, 1.0, 1200.0})
             QTest::addRow("a word of 200,000 letters, width %g", width) << state({run(QString(200'000, u'a'))}, width);
-        QTest::newRow("odd characters") << state(
-            {underlined(run(QString(QChar(0)) + QChar(0xdc00) + u"\u2028\ufffc\ufdd0\ufdd1\u202e\uffff"_s))});
+        const QString odd = QString(QChar(0)) + QChar(0xdc00) + u"\u2028\ufffc\ufdd0\ufdd1\u202e\uffff"_s;
+        QTest::newRow("odd characters") << state({run(odd, 20, {}, underline)});
         QList<TextRun> runs;
         for (int i = 0; i < 3000; ++i)
-            runs.append(underlined(
-                run(u"run "_s, 4,
-                    GradientFill{GradientType::Linear, {}, {1, 1}, {{0, QColor(i % 255, i / 255, 0)}, {1, Qt::red}}})));
+            runs.append(run(u"run "_s, 4, gradientFrom(QColor(i % 255, i / 255, 0), GradientType::Linear), underline));
         QTest::newRow("thousands of gradients") << state(runs, 40.0);
         GradientFill many;
         many.stops.assign(kMaximumGradientStops, GradientStop{0.5, Qt::red});
