@@ -1,7 +1,5 @@
 #include "document/image_layer.h"
 
-#include "base/pixel_limits.h"
-
 #include <QPainter>
 #include <QSvgRenderer>
 
@@ -58,12 +56,9 @@ RenderedContent ImageLayer::renderContent(const RenderServices *) const
     if (const RasterImageSource *raster = rasterSource())
         return {raster->image, layerSize()};
     // An SVG may ask for any size; one that no raster may have is not drawn.
-    QImage image;
-    if (isAllocatableRasterSize(pixelSize()))
-        image = QImage(pixelSize(), QImage::Format_RGBA8888);
+    QImage image = transparentContentImage(layerSize());
     if (image.isNull())
         return {image, layerSize()};
-    image.fill(Qt::transparent);
     QSvgRenderer renderer;
     renderer.setAnimationEnabled(false);
     if (renderer.load(svgSource()->data) && renderer.isValid()) {

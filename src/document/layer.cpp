@@ -1,6 +1,19 @@
 #include "document/layer.h"
 
+#include "base/pixel_limits.h"
+
 namespace zm {
+
+QImage transparentContentImage(const QSizeF &size)
+{
+    const QSize pixels = coveringPixels(size);
+    QImage image;
+    if (isAllocatableRasterSize(pixels))
+        image = QImage(pixels, QImage::Format_RGBA8888);
+    if (!image.isNull())
+        image.fill(Qt::transparent);
+    return image;
+}
 
 Layer::~Layer() = default;
 

@@ -23,6 +23,10 @@ struct RenderedContent
     QSizeF size;
 };
 
+/// Transparent pixels in QImage::Format_RGBA8888 that cover a box of layer units, to draw content into. Null for a box
+/// beyond what a raster may have.
+QImage transparentContentImage(const QSizeF &size);
+
 /// A scene object with content that can be drawn and a stack of filters over it.
 class Layer : public SceneObject
 {

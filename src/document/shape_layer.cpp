@@ -1,7 +1,6 @@
 #include "document/shape_layer.h"
 
 #include "base/fuzzy.h"
-#include "base/pixel_limits.h"
 #include "base/sanitize.h"
 #include "document/valid_color.h"
 #include "generators/outline_stroke.h"
@@ -111,17 +110,13 @@ ShapeLayer::ShapeLayer(const ShapeGeometry &geometry, const QSizeF &size, const 
 RenderedContent ShapeLayer::renderContent(const RenderServices *) const
 {
     const QSizeF size = layerSize();
-    const QSize pixelSize = coveringPixels(size);
-    QImage image;
-    if (isAllocatableRasterSize(pixelSize))
-        image = QImage(pixelSize, QImage::Format_RGBA8888);
+    QImage image = transparentContentImage(size);
     if (image.isNull())
         return {image, size};
-    image.fill(Qt::transparent);
 
-    const double scaleX = pixelSize.width() / size.width();
-    const double scaleY = pixelSize.height() / size.height();
-    QBrush brush = m_fill.brushFor(pixelSize);
+    const double scaleX = image.width() / size.width();
+    const double scaleY = image.height() / size.height();
+    QBrush brush = m_fill.brushFor(image.size());
     if (m_fill.texture())
         brush.setTransform(brush.transform() * QTransform::fromScale(1.0 / scaleX, 1.0 / scaleY));
     QPainter painter(&image);

@@ -190,13 +190,9 @@ RenderedContent renderText(const TextLayerState &state)
 {
     const std::unique_ptr<QTextDocument> document = fittedTextDocument(state, TextLines::ByHand);
     const QSizeF size = sizeOfAtLeastOne(document->size());
-    const QSize pixelSize = coveringPixels(size);
-    QImage image;
-    if (isAllocatableRasterSize(pixelSize))
-        image = QImage(pixelSize, QImage::Format_RGBA8888);
+    QImage image = transparentContentImage(size);
     if (image.isNull())
         return {image, size};
-    image.fill(Qt::transparent);
     QPainter painter(&image);
     painter.setRenderHints(QPainter::Antialiasing | QPainter::TextAntialiasing);
     document->drawContents(&painter, QRectF(QPointF(), size));
