@@ -32,7 +32,7 @@ QList<Command> commands()
          u"zelmora shapes SHEET.png\n"
          "       zelmora shapes --generator ID [--set KEY=VALUE]... [--size WxH] OUTPUT.svg|png"_s,
          u"Draws all shapes on one sheet, or one alone. Sizes are in units of the document; a PNG has a pixel for each "
-         "unit of --size, and 4 for each unit of the shape's own size."_s,
+         "unit of --size, and 4 for each unit of the shape's own size. Percentages are written as fractions."_s,
          runShapes},
     };
 }

@@ -1,3 +1,4 @@
+#include "base/pixel_limits.h"
 #include "cli/arguments.h"
 #include "cli/commands.h"
 #include "cli/parameter_text.h"
@@ -42,12 +43,18 @@ struct SheetCell
     QString caption;
 };
 
+/// The controls of the panel, and what a document may hold besides.
+QList<ParameterDefinition> settableParameters(const ShapeGenerator &generator)
+{
+    return generator.parameters() + generator.hiddenParameters();
+}
+
 /// A cell for each shape, and for each form of a shape that comes in several.
 QList<SheetCell> sheetCells()
 {
     QList<SheetCell> cells;
     for (const auto &generator : ShapeGeneratorRegistry::instance().generators()) {
-        const QList<ParameterDefinition> parameters = generator->parameters();
+        const QList<ParameterDefinition> parameters = settableParameters(*generator);
         const ParameterDefinition *definition = findParameter(parameters, u"form"_s);
         const auto *form = definition ? std::get_if<IntegerRangeParameter>(definition) : nullptr;
         if (!form) {
@@ -61,11 +68,6 @@ QList<SheetCell> sheetCells()
         }
     }
     return cells;
-}
-
-QSize pixelSize(const QSizeF &size, double scale)
-{
-    return {int(std::ceil(size.width() * scale)), int(std::ceil(size.height() * scale))};
 }
 
 QImage sheet()
@@ -85,7 +87,8 @@ QImage sheet()
                          kCellWidth, kCellHeight);
         const QRect field = cell.adjusted(0, 0, 0, -kCaptionHeight);
         const QSizeF size = cells[i].generator->defaultSize();
-        const QImage shape = shapePreview(*cells[i].generator, cells[i].values, size, pixelSize(size, kSheetScale));
+        const QImage shape =
+            shapePreview(*cells[i].generator, cells[i].values, size, coveringPixels(size * kSheetScale));
         QRect place(QPoint(), shape.size());
         place.moveCenter(field.center());
         painter.drawImage(place.topLeft(), shape);
@@ -103,25 +106,25 @@ QByteArray pngBytes(const QImage &image)
 
 QByteArray svgBytes(const ShapeGenerator &generator, const ParameterValues &values, const QSizeF &size)
 {
-    const auto number = [](double value) { return QString::number(value, 'g', 12); };
     QByteArray bytes;
     QXmlStreamWriter xml(&bytes);
     xml.setAutoFormatting(true);
     xml.writeStartDocument();
     xml.writeStartElement(u"svg"_s);
     xml.writeDefaultNamespace(u"http://www.w3.org/2000/svg"_s);
-    xml.writeAttribute(u"width"_s, number(size.width()));
-    xml.writeAttribute(u"height"_s, number(size.height()));
-    xml.writeAttribute(u"viewBox"_s, u"0 0 %1 %2"_s.arg(number(size.width()), number(size.height())));
+    xml.writeAttribute(u"width"_s, svgNumber(size.width()));
+    xml.writeAttribute(u"height"_s, svgNumber(size.height()));
+    xml.writeAttribute(u"viewBox"_s, u"0 0 %1 %2"_s.arg(svgNumber(size.width()), svgNumber(size.height())));
     xml.writeTextElement(u"title"_s, generator.label());
     xml.writeEmptyElement(u"path"_s);
     xml.writeAttribute(u"fill"_s, generator.defaultFillColor().name());
     if (const Stroke stroke = shapePreviewStroke(generator); stroke.width > 0.0) {
         xml.writeAttribute(u"stroke"_s, stroke.color.name());
-        xml.writeAttribute(u"stroke-width"_s, number(stroke.width));
+        xml.writeAttribute(u"stroke-width"_s, svgNumber(stroke.width));
         xml.writeAttribute(u"stroke-linecap"_s, u"square"_s);
         xml.writeAttribute(u"stroke-linejoin"_s, u"miter"_s);
-        xml.writeAttribute(u"stroke-miterlimit"_s, number(kOutlineMiterLimit));
+        // SVG compares the whole length of the corner, from the inner to the outer edge, instead.
+        xml.writeAttribute(u"stroke-miterlimit"_s, svgNumber(std::hypot(1.0, 2.0 * kOutlineMiterLimit)));
     }
     const QPainterPath outline = shapePreviewOutline(generator, values, size);
     xml.writeAttribute(u"fill-rule"_s, outline.fillRule() == Qt::OddEvenFill ? u"evenodd"_s : u"nonzero"_s);
@@ -143,8 +146,8 @@ std::optional<QSize> sizeFromText(const QString &text)
 ExitStatus write(const QString &file, const QByteArray &bytes)
 {
     Console console;
-    QString error;
-    if (!writeExportedImage(file, bytes, &error))
+    QString error = u"Could not render the image."_s;
+    if (bytes.isEmpty() || !writeExportedImage(file, bytes, &error))
         console.fail(file, error);
     return console.finish();
 }
@@ -184,12 +187,12 @@ ExitStatus runShapes(const QStringList &words, const QString &usage)
     ParameterValues values;
     const QStringList assignments = arguments.values(u"--set"_s);
     for (const QString &assignment : assignments) {
-        if (const QString problem = setParameterFromText(values, generator->parameters(), assignment);
+        if (const QString problem = setParameterFromText(values, settableParameters(*generator), assignment);
             !problem.isEmpty())
             return wrongUsage(problem, usage);
     }
     QSizeF size = generator->defaultSize();
-    QSize pixels = pixelSize(size, kShapeScale);
+    QSize pixels = coveringPixels(size * kShapeScale);
     if (arguments.has(u"--size"_s)) {
         const std::optional<QSize> wished = sizeFromText(arguments.value(u"--size"_s));
         if (!wished)

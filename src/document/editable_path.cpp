@@ -1,7 +1,5 @@
 #include "document/editable_path.h"
 
-#include "document/editable_path_builder.h"
-
 #include <QRandomGenerator>
 
 #include <algorithm>
@@ -72,31 +70,11 @@ QPainterPath painterPath(const EditablePath &path)
     return outline;
 }
 
-EditablePath editablePath(const QPainterPath &outline)
-{
-    EditablePathBuilder builder(outline.fillRule());
-    for (int i = 0; i < outline.elementCount(); ++i) {
-        const QPainterPath::Element element = outline.elementAt(i);
-        if (element.isMoveTo()) {
-            builder.moveTo(element);
-        } else if (element.isLineTo()) {
-            builder.lineTo(element);
-        } else if (element.isCurveTo() && i + 2 < outline.elementCount()) {
-            builder.curveTo(element, outline.elementAt(i + 1), outline.elementAt(i + 2));
-            i += 2;
-        }
-        const bool endsSubpath = i + 1 == outline.elementCount() || outline.elementAt(i + 1).isMoveTo();
-        if (endsSubpath && builder.isBackAtStart())
-            builder.close();
-    }
-    return builder.path();
-}
-
 QRectF pathBounds(const EditablePath &path, double handleRadius)
 {
     if (path.isEmpty())
         return {};
-    const double radius = std::max(handleRadius, 0.0);
+    const double radius = handleRadius > 0.0 ? handleRadius : 0.0; // also for NaN
     QRectF bounds;
     const auto addSquare = [&](const QPointF &centre) {
         if (radius > 0.0)
@@ -128,9 +106,13 @@ EditablePath translated(const EditablePath &path, const QPointF &offset)
     return result;
 }
 
+QString svgNumber(double value)
+{
+    return QString::number(value, 'g', 12);
+}
+
 QString svgPathText(const QPainterPath &outline)
 {
-    const auto number = [](double value) { return QString::number(value, 'g', 12); };
     QString text;
     for (int i = 0; i < outline.elementCount(); ++i) {
         const QPainterPath::Element element = outline.elementAt(i);
@@ -139,7 +121,7 @@ QString svgPathText(const QPainterPath &outline)
             : element.isLineTo()                ? "L "_L1
             : element.isCurveTo()               ? "C "_L1
                                                 : ""_L1;
-        text += command + number(element.x) + u' ' + number(element.y) + u' ';
+        text += command + svgNumber(element.x) + u' ' + svgNumber(element.y) + u' ';
     }
     return text.trimmed();
 }

@@ -67,16 +67,15 @@ std::optional<EditablePathNodeIndex> findNode(const EditablePath &path, const QU
 /// a lone move.
 QPainterPath painterPath(const EditablePath &path);
 
-/// Nodes for a drawn outline, with new ids and the outline's fill rule. A subpath that ends where it began is closed; a
-/// node whose handles lie on one line is smooth.
-EditablePath editablePath(const QPainterPath &outline);
-
 /// What the path covers, with the squares of side 2 * handleRadius around its anchors and the handles in use. Null for
 /// a path that covers nothing.
 QRectF pathBounds(const EditablePath &path, double handleRadius);
 
 /// The path moved by an offset.
 EditablePath translated(const EditablePath &path, const QPointF &offset);
+
+/// A coordinate as an SVG holds it, with twelve digits.
+QString svgNumber(double value);
 
 /// The outline in the words of an SVG path, "M x y L x y C x y x y x y".
 QString svgPathText(const QPainterPath &outline);

@@ -1,8 +1,7 @@
 #include "document/editable_path_builder.h"
 
 #include "base/fuzzy.h"
-
-#include <cmath>
+#include "base/geometry.h"
 
 namespace zm {
 
@@ -23,7 +22,7 @@ bool runsStraightThrough(const EditablePathNode &node)
         return false;
     const QPointF in = node.anchor - node.inControl;
     const QPointF out = node.outControl - node.anchor;
-    const double lengths = std::hypot(in.x(), in.y()) * std::hypot(out.x(), out.y());
+    const double lengths = lengthOf(in) * lengthOf(out);
     // The cosine of an angle below a third of a degree, which the eye does not see as a corner.
     constexpr double straightCosine = 0.99998;
     return QPointF::dotProduct(in, out) >= straightCosine * lengths;
@@ -80,6 +79,26 @@ EditablePath EditablePathBuilder::path() const
         }
     }
     return path;
+}
+
+EditablePath editablePath(const QPainterPath &outline)
+{
+    EditablePathBuilder builder(outline.fillRule());
+    for (int i = 0; i < outline.elementCount(); ++i) {
+        const QPainterPath::Element element = outline.elementAt(i);
+        if (element.isMoveTo()) {
+            builder.moveTo(element);
+        } else if (element.isLineTo()) {
+            builder.lineTo(element);
+        } else if (element.isCurveTo() && i + 2 < outline.elementCount()) {
+            builder.curveTo(element, outline.elementAt(i + 1), outline.elementAt(i + 2));
+            i += 2;
+        }
+        const bool endsSubpath = i + 1 == outline.elementCount() || outline.elementAt(i + 1).isMoveTo();
+        if (endsSubpath && builder.isBackAtStart())
+            builder.close();
+    }
+    return builder.path();
 }
 
 } // namespace zm

@@ -31,4 +31,8 @@ private:
     EditablePath m_path;
 };
 
+/// Nodes for a drawn outline, with new ids and the outline's fill rule. A subpath that ends where it began is closed; a
+/// node whose handles lie on one line is smooth.
+EditablePath editablePath(const QPainterPath &outline);
+
 } // namespace zm

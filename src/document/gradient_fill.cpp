@@ -1,5 +1,6 @@
 #include "document/gradient_fill.h"
 
+#include "base/geometry.h"
 #include "base/sanitize.h"
 #include "document/valid_color.h"
 
@@ -25,11 +26,6 @@ QPointF clampedIntoBox(const QPointF &point)
     return {std::clamp(point.x(), 0.0, 1.0), std::clamp(point.y(), 0.0, 1.0)};
 }
 
-double length(const QPointF &offset)
-{
-    return std::hypot(offset.x(), offset.y());
-}
-
 GradientStop cleanStop(const GradientStop &stop)
 {
     return {std::clamp(finiteOr(stop.position, 0.0), 0.0, 1.0), validOrBlack(stop.color)};
@@ -40,8 +36,10 @@ GradientStop cleanStop(const GradientStop &stop)
 GradientFill cleanGradient(const GradientFill &gradient)
 {
     GradientFill clean = gradient;
+    if (gradient.type != GradientType::Radial)
+        clean.type = GradientType::Linear;
     if (!isFinite(gradient.start) || !isFinite(gradient.end)) {
-        const QLineF points = defaultGradientPoints(gradient.type);
+        const QLineF points = defaultGradientPoints(clean.type);
         clean.start = points.p1();
         clean.end = points.p2();
     }
@@ -104,7 +102,7 @@ GradientFill withRadialOrigin(const GradientFill &gradient, const QPointF &perce
 
 double radialRadius(const GradientFill &gradient)
 {
-    return length(clampedIntoBox(gradient.end) - clampedIntoBox(gradient.start)) * 100.0;
+    return lengthOf(clampedIntoBox(gradient.end) - clampedIntoBox(gradient.start)) * 100.0;
 }
 
 GradientFill withRadialRadius(const GradientFill &gradient, double percent)
@@ -115,7 +113,7 @@ GradientFill withRadialRadius(const GradientFill &gradient, double percent)
     GradientFill resized = gradient;
     resized.start = clampedIntoBox(gradient.start);
     const QPointF offset = clampedIntoBox(gradient.end) - resized.start;
-    const QPointF direction = length(offset) < shortestLength ? QPointF(1.0, 0.0) : offset / length(offset);
+    const QPointF direction = lengthOf(offset) < shortestLength ? QPointF(1.0, 0.0) : offset / lengthOf(offset);
     resized.end = resized.start + direction * radius;
     return resized;
 }

@@ -33,9 +33,9 @@ struct GradientFill
 
 inline constexpr qsizetype kMaximumGradientStops = 1'000'000;
 
-/// The gradient as a fill keeps it: points that are not finite become the default ones, positions are limited to 0..1,
-/// an invalid colour becomes black, stops above the limit are dropped. A single stop is doubled, and no stops become
-/// two transparent ones.
+/// The gradient as a fill keeps it: an unknown type becomes linear, points that are not finite the default ones,
+/// positions are limited to 0..1, an invalid colour becomes black, stops above the limit are dropped. A single stop is
+/// doubled, and no stops become two transparent ones.
 GradientFill cleanGradient(const GradientFill &gradient);
 
 /// By position; equal positions keep their order.

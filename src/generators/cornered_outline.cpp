@@ -1,5 +1,6 @@
 #include "generators/cornered_outline.h"
 
+#include "base/geometry.h"
 #include "document/editable_path_builder.h"
 
 #include <algorithm>
@@ -15,15 +16,10 @@ constexpr double kSmoothTurn = 2.0 * std::numbers::pi / 180.0;
 // What two corners may use up of the side between them.
 constexpr double kSharedLength = 0.98;
 
-double lengthOf(const QPointF &vector)
-{
-    return std::hypot(vector.x(), vector.y());
-}
-
 QPointF unit(const QPointF &vector)
 {
-    const double length = lengthOf(vector);
-    return length > 0.0 ? vector / length : QPointF();
+    const double size = lengthOf(vector);
+    return size > 0.0 ? vector / size : QPointF();
 }
 
 double turnBetween(const CubicCurve &in, const CubicCurve &out)

@@ -1,6 +1,9 @@
 #include "generators/curved_outlines.h"
 
+#include "base/geometry.h"
 #include "document/editable_path_builder.h"
+
+#include <QTransform>
 
 #include <algorithm>
 #include <cmath>
@@ -9,9 +12,18 @@ namespace zm {
 
 namespace {
 
-double length(const QPointF &vector)
+/// What the curves of a path cover. QPainterPath takes the rounding of large and nearly symmetric arcs for a cubic term
+/// and then misses their ends; measured at unit size the rounding stays below what it sees.
+QRectF coveredBy(const EditablePath &path)
 {
-    return std::hypot(vector.x(), vector.y());
+    const QPainterPath outline = painterPath(path);
+    const QRectF hull = outline.controlPointRect();
+    const double reach =
+        std::max({std::abs(hull.left()), std::abs(hull.right()), std::abs(hull.top()), std::abs(hull.bottom())});
+    if (reach <= 0.0)
+        return {};
+    const QRectF covered = QTransform::fromScale(1.0 / reach, 1.0 / reach).map(outline).boundingRect();
+    return {covered.topLeft() * reach, covered.size() * reach};
 }
 
 } // namespace
@@ -23,7 +35,7 @@ EditablePath smoothedPolygon(const QList<QPointF> &anchors, double strength)
     // The chord between the neighbours gives the direction, the nearer gap's share the length.
     const auto handle = [&](qsizetype index, double gap) {
         const QPointF chord = at(index + 1) - at(index - 1);
-        const double chordLength = length(chord);
+        const double chordLength = lengthOf(chord);
         constexpr double share = 0.39;
         return chordLength > 0.0 ? chord * (gap * share * strength / chordLength) : QPointF();
     };
@@ -34,7 +46,7 @@ EditablePath smoothedPolygon(const QList<QPointF> &anchors, double strength)
     for (qsizetype i = 0; i < count; ++i) {
         const QPointF from = at(i);
         const QPointF to = at(i + 1);
-        const double gap = length(to - from);
+        const double gap = lengthOf(to - from);
         if (strength > 0.0)
             builder.curveTo(from + handle(i, gap), to - handle(i + 1, gap), to);
         else if (i + 1 < count)
@@ -57,7 +69,7 @@ void bulgeTo(EditablePathBuilder &builder, const QPointF &from, const QPointF &t
 
 EditablePath fittedInto(EditablePath path, const QRectF &box)
 {
-    const QRectF covered = pathBounds(path, 0.0);
+    const QRectF covered = coveredBy(path);
     if (covered.width() <= 0.0 || covered.height() <= 0.0)
         return path;
     const double scaleX = box.width() / covered.width();

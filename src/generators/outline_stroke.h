@@ -8,7 +8,8 @@ namespace zm {
 
 // How the line around a shape is drawn, wherever shapes are shown.
 
-/// In widths; low, so that sharp corners are cut early.
+/// How far a corner may reach beyond the line's outer edges, in widths along them; low, so that sharp corners are cut
+/// early.
 inline constexpr double kOutlineMiterLimit = 1.25;
 
 /// How far a generated outline keeps from its box on each side, so that a mitred stroke stays inside.

@@ -6,7 +6,7 @@
 
 namespace zm {
 
-CornerCurve cornerCurve(const QPointF &previous, const QPointF &vertex, const QPointF &next, double cut)
+CubicCurve cornerCurve(const QPointF &previous, const QPointF &vertex, const QPointF &next, double cut)
 {
     const QPointF start = vertex + (previous - vertex) * cut;
     const QPointF end = vertex + (next - vertex) * cut;
@@ -24,7 +24,7 @@ EditablePath roundedPolygon(const QList<QPointF> &vertices, double roundness, do
             draw(vertices[i]);
             continue;
         }
-        const CornerCurve corner =
+        const CubicCurve corner =
             cornerCurve(vertices[(i + count - 1) % count], vertices[i], vertices[(i + 1) % count], cut);
         draw(corner.start);
         builder.curveTo(corner.firstControl, corner.secondControl, corner.end);

@@ -1,6 +1,7 @@
 #pragma once
 
 #include "document/editable_path.h"
+#include "generators/cubic_curve.h"
 
 #include <QSizeF>
 
@@ -19,16 +20,7 @@ EditablePath roundedPolygon(const QList<QPointF> &vertices, double roundness, do
 EditablePath roundedRectangle(const QRectF &rectangle, const QSizeF &radii);
 
 /// One corner of a contour that is being drawn: from the point `cut` of the way to the previous vertex to the point
-/// `cut` of the way to the next.
-struct CornerCurve
-{
-    QPointF start;
-    QPointF firstControl;
-    QPointF secondControl;
-    QPointF end;
-};
-
-/// The quadratic curve with the vertex as its control, raised to a cubic.
-CornerCurve cornerCurve(const QPointF &previous, const QPointF &vertex, const QPointF &next, double cut);
+/// `cut` of the way to the next, the quadratic curve with the vertex as its control, raised to a cubic.
+CubicCurve cornerCurve(const QPointF &previous, const QPointF &vertex, const QPointF &next, double cut);
 
 } // namespace zm

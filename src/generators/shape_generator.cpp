@@ -19,8 +19,9 @@ double ShapeParameters::real(const QString &id) const
     const auto *range = definition ? std::get_if<RealRangeParameter>(definition) : nullptr;
     Q_ASSERT(range);
     const double stored = m_values.number(id, range->defaultValue);
-    const bool isPercentage = range->flags.testFlag(ParameterFlag::Percent) && stored > 1.0;
-    return std::clamp(isPercentage ? stored / 100.0 : stored, range->minimum, range->maximum);
+    if (!range->flags.testFlag(ParameterFlag::Percent))
+        return std::max(stored, range->minimum); // the outline itself limits a length
+    return std::clamp(stored > 1.0 ? stored / 100.0 : stored, range->minimum, range->maximum);
 }
 
 int ShapeParameters::integer(const QString &id) const

@@ -9,19 +9,19 @@
 
 namespace zm {
 
-/// The stored values of a generator as it reads them: present and numeric, or the default, and limited to what the
-/// definition allows.
+/// The stored values of a generator as it reads them: present and numeric, or the default.
 class ShapeParameters
 {
 public:
     /// Keeps references: both outlive the reader.
     ShapeParameters(const QList<ParameterDefinition> &definitions, const ParameterValues &values);
 
-    /// A fraction, where a stored number above 1 is a percentage, or a length in layer units.
+    /// A fraction within its limits, where a stored number above 1 is a percentage, or a length in layer units, which
+    /// may exceed the panel's limit.
     double real(const QString &id) const;
-    /// Rounded, halves away from zero.
+    /// Rounded, halves away from zero, within its limits.
     int integer(const QString &id) const;
-    /// A value that is no control: rounded and at least minimum.
+    /// A value that is no control of the panel: rounded and at least minimum.
     int undeclaredInteger(const QString &id, int defaultValue, int minimum) const;
 
 private:
@@ -51,6 +51,9 @@ public:
     virtual QColor defaultStrokeColor() const { return {}; }
     /// The controls in the panel's order.
     virtual QList<ParameterDefinition> parameters() const = 0;
+
+    /// Values that the outline reads too, though the panel does not show them.
+    virtual QList<ParameterDefinition> hiddenParameters() const { return {}; }
 
     /// The outline in the box from (0, 0) to size, in layer units. Never fails: a side that is not finite or below 1
     /// counts as 1, values that are not declared are ignored, and missing ones take their default.

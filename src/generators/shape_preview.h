@@ -1,5 +1,6 @@
 #pragma once
 
+#include "filters/compound_values.h"
 #include "filters/parameter_values.h"
 
 #include <QImage>

@@ -1,3 +1,4 @@
+#include "document/editable_path_builder.h"
 #include "document/scene_renderer.h"
 #include "document/scene_snapshot.h"
 #include "generators/shape_generator_registry.h"
@@ -114,6 +115,9 @@ private slots:
 
     void pathsAreCleaned()
     {
+        const EditablePath sound = rectanglePath({0, 0, 10, 10});
+        const auto shared = layer(1, sound);
+        QVERIFY(std::get<EditablePath>(shared->geometry()).contours[0].nodes.isSharedWith(sound.contours[0].nodes));
         EditablePath path = rectanglePath({0, 0, 10, 10});
         path.contours[0].nodes[1].id = path.contours[0].nodes[0].id;
         path.contours[0].nodes[2].id = {};

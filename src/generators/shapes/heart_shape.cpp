@@ -37,8 +37,8 @@ protected:
         const double cleft = parameters.real(u"cleftDepth"_s) * 0.4;
         const double tip = parameters.real(u"tipSharpness"_s);
 
-        // Half a heart in parts of the box, x from the middle outwards.
-        // Without a cleft the lobes move together, and the top is one dome.
+        // Half a heart in parts of the box, x from the middle outwards. Without a cleft the lobes move together, and
+        // the top is one dome.
         const double parting = std::min(cleft / 0.12, 1.0);
         const double parted = parting * (2.0 - parting);
         const QPointF lobeTop((0.25 + 0.02 * lobes) * (0.35 + 0.65 * parted), 0.0);

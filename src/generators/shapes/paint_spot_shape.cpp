@@ -1,3 +1,4 @@
+#include "base/geometry.h"
 #include "document/editable_path_builder.h"
 #include "generators/curved_outlines.h"
 #include "generators/rounded_outlines.h"
@@ -45,11 +46,6 @@ double thrown(const SpotForm &form, int index, Throw what)
     bits = (bits ^ (bits >> 15)) * 0x2c1b3c6du;
     bits = (bits ^ (bits >> 12)) * 0x297a2d39u;
     return double(bits ^ (bits >> 15)) / 4294967296.0;
-}
-
-double lengthOf(const QPointF &vector)
-{
-    return std::hypot(vector.x(), vector.y());
 }
 
 // The uneven body that the spikes shoot out of: an ellipse whose shorter radius is 1, which swells and shrinks on the

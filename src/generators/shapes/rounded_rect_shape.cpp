@@ -1,4 +1,3 @@
-#include "document/editable_path_builder.h"
 #include "generators/rounded_outlines.h"
 #include "generators/shape_generator.h"
 #include "generators/shape_generators.h"

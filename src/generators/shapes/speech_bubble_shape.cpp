@@ -61,6 +61,10 @@ public:
         return {pixels(u"cornerRadius"_s, tr("Corner Radius"), 4.0),
                 ratio(u"pointerLength"_s, tr("Pointer"), 0.22, 0.08, 0.45)};
     }
+    QList<ParameterDefinition> hiddenParameters() const override
+    {
+        return {integerParameter(u"form"_s, tr("Form"), 1, 1, qint64(kPointers.size()))};
+    }
 
 protected:
     EditablePath outline(const QSizeF &size, const ShapeParameters &parameters) const override

@@ -50,7 +50,7 @@ protected:
                 draw(vertex(i));
                 continue;
             }
-            const CornerCurve tip = cornerCurve(vertex(i - 1), vertex(i), vertex(i + 1), tipCut);
+            const CubicCurve tip = cornerCurve(vertex(i - 1), vertex(i), vertex(i + 1), tipCut);
             draw(tip.start);
             builder.curveTo(tip.firstControl, tip.secondControl, tip.end);
         }

@@ -101,6 +101,10 @@ public:
         return {pixels(u"cornerRadius"_s, tr("Corner Radius"), 18.0),
                 ratio(u"pointerLength"_s, tr("Tip"), 0.22, 0.08, 0.45)};
     }
+    QList<ParameterDefinition> hiddenParameters() const override
+    {
+        return {integerParameter(u"form"_s, tr("Form"), 1, 1, qint64(kTrails.size()))};
+    }
 
 protected:
     EditablePath outline(const QSizeF &size, const ShapeParameters &parameters) const override
