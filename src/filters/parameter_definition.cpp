@@ -4,6 +4,7 @@
 #include <cmath>
 #include <concepts>
 #include <tuple>
+#include <utility>
 
 namespace zm {
 
@@ -18,19 +19,22 @@ void setNumbers(NumericParameter<Number> &parameter, Number defaultValue, Number
 }
 
 /// Compared as texts: a stored text may name an integer option and the other way round.
-QString optionText(const ParameterValue &value)
+std::optional<QString> optionText(const ParameterValue &value)
 {
     if (const qint64 *integer = std::get_if<qint64>(&value))
         return QString::number(*integer);
+    if (const double *number = std::get_if<double>(&value))
+        return QString::number(*number, 'g', 17);
     const QString *text = std::get_if<QString>(&value);
-    return text ? *text : QString();
+    return text ? std::optional(*text) : std::nullopt;
 }
 
 std::optional<ParameterValue> acceptedOption(const QList<ParameterOption> &options, const ParameterValue &value)
 {
+    const std::optional<QString> text = optionText(value);
     const auto option =
-        std::ranges::find(options, optionText(value), [](const ParameterOption &row) { return optionText(row.value); });
-    return option == options.end() ? std::nullopt : std::optional(option->value);
+        std::ranges::find(options, text, [](const ParameterOption &row) { return optionText(row.value); });
+    return text && option != options.end() ? std::optional(option->value) : std::nullopt;
 }
 
 std::optional<ParameterValue> sameKind(const ParameterValue &own, const ParameterValue &value)
@@ -38,12 +42,12 @@ std::optional<ParameterValue> sameKind(const ParameterValue &own, const Paramete
     return own.index() == value.index() && isStorable(value) ? std::optional(value) : std::nullopt;
 }
 
-// Limited before the cast: a double beyond the integer type would be undefined behaviour.
+// A double at or beyond the ends of the integer type must not be cast.
 qint64 roundedInteger(double value, const NumericParameter<qint64> &limits)
 {
-    if (!std::isfinite(value))
+    if (!(value > double(limits.minimum))) // also for NaN
         return limits.minimum;
-    return qint64(std::round(std::clamp(value, double(limits.minimum), double(limits.maximum))));
+    return value < double(limits.maximum) ? qint64(std::round(value)) : limits.maximum;
 }
 
 struct Acceptance
@@ -88,6 +92,11 @@ struct Acceptance
             return ShapeMask{*generatorId};
         return sameKind(ShapeMask(), value);
     }
+    std::optional<ParameterValue> operator()(const LightSourcesParameter &control) const
+    {
+        const LightSources *lights = std::get_if<LightSources>(&value);
+        return lights && lights->size() <= control.maximumCount ? sameKind(control.defaultValue, value) : std::nullopt;
+    }
     std::optional<ParameterValue> operator()(const ParameterHead &) const { return std::nullopt; }
 
     template<typename Control>
@@ -120,6 +129,8 @@ std::optional<ParameterValue> defaultValue(const ParameterDefinition &definition
 
 double snapped(double value, double minimum, double maximum, double step)
 {
+    if (minimum > maximum)
+        std::swap(minimum, maximum);
     if (!std::isfinite(value))
         return minimum;
     const double limited = std::clamp(value, minimum, maximum);

@@ -102,8 +102,14 @@ struct TexturePickerParameter : ParameterHead
     QList<ParameterOption> options;
 };
 
+/// A control of the document or the panel, which no file keeps.
+struct NotStoredParameter : ParameterHead
+{
+    NotStoredParameter() { flags = ParameterFlag::NotStored; }
+};
+
 /// A button without a value of its own.
-struct ColorPresetParameter : ParameterHead
+struct ColorPresetParameter : NotStoredParameter
 {
     QList<ColorPreset> presets;
     /// The i-th colour of a preset goes to the key made of this and i.
@@ -146,12 +152,12 @@ struct ShapeParameter : ParameterHead
 };
 
 /// A button that starts something, without a value.
-struct FilterActionParameter : ParameterHead
+struct FilterActionParameter : NotStoredParameter
 {
     QString buttonLabel;
 };
 
-struct DocumentColorParameter : ParameterHead
+struct DocumentColorParameter : NotStoredParameter
 {
     QColor defaultValue = Qt::white;
 };
@@ -181,13 +187,13 @@ const ParameterHead &parameterHead(const ParameterDefinition &definition);
 std::optional<ParameterValue> defaultValue(const ParameterDefinition &definition);
 
 /// The nearest value of the grid that starts at the minimum, within the limits; a number that is not finite becomes the
-/// minimum, and a step of 0 or less does not snap.
+/// minimum, and a step of 0 or less does not snap. Limits the wrong way round are swapped.
 double snapped(double value, double minimum, double maximum, double step);
 /// Halves round away from zero; a step below 1 counts as 1.
 qint64 snapped(qint64 value, qint64 minimum, qint64 maximum, qint64 step);
 
 /// The value as the control stores it: of its own kind, numbers snapped, a shape as a mask, an option as the option's
-/// own value. Nothing for a value of another kind, a text that is no option, and for a button.
+/// own value. Nothing for a value of another kind, a text that is no option, too many lights, and for a button.
 std::optional<ParameterValue> acceptedValue(const ParameterDefinition &definition, const ParameterValue &value);
 
 /// A real range. Limits that are the wrong way round are swapped, and the default is snapped into them.

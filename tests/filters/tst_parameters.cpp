@@ -116,6 +116,8 @@ private slots:
         QVERIFY(parameterHead(swapped).flags.testFlag(ParameterFlag::Percent));
         QCOMPARE(*defaultValue(integerParameter(u"b"_s, u"B"_s, 99, 1, 6)), ParameterValue(qint64(6)));
         QVERIFY(!defaultValue(FilterActionParameter()));
+        QVERIFY(parameterHead(DocumentColorParameter()).flags.testFlag(ParameterFlag::NotStored));
+        QCOMPARE(snapped(5.0, 2.0, 0.0, 0.5), 2.0);
     }
 
     void controlsAcceptTheirOwnKind()
@@ -126,6 +128,11 @@ private slots:
         QCOMPARE(*acceptedValue(integer, 2.5), ParameterValue(qint64(3)));
         QCOMPARE(*acceptedValue(integer, 1e300), ParameterValue(qint64(6)));
         QCOMPARE(*acceptedValue(integer, kNaN), ParameterValue(qint64(1)));
+        QCOMPARE(*acceptedValue(integerParameter(u"i"_s, {}, 0, kLeast, kMost), 1e300), ParameterValue(kMost));
+        QVERIFY(!acceptedValue(choice({u""_s}), true));
+        LightSourcesParameter oneLight;
+        oneLight.maximumCount = 1;
+        QVERIFY(!acceptedValue(oneLight, LightSources(2)));
         QVERIFY(!acceptedValue(real, u"0.5"_s));
         QVERIFY(!acceptedValue(ColorParameter(), QColor()));
         QCOMPARE(*acceptedValue(choice({qint64(0), qint64(1)}), u"1"_s), ParameterValue(qint64(1)));
