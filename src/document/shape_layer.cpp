@@ -25,8 +25,33 @@ bool hasFinitePoints(const EditablePathNode &node)
     return isFinite(node.anchor) && isFinite(node.inControl) && isFinite(node.outControl);
 }
 
+bool isKnownType(EditablePathNode::Type type)
+{
+    using enum EditablePathNode::Type;
+    return type == Corner || type == Smooth || type == Symmetric;
+}
+
+bool isClean(const EditablePath &path)
+{
+    if (path.contours.size() > kMaximumContours)
+        return false;
+    QSet<QUuid> ids;
+    for (const EditablePathContour &contour : path.contours) {
+        if (contour.nodes.size() > kMaximumNodes)
+            return false;
+        for (const EditablePathNode &node : contour.nodes) {
+            if (!hasFinitePoints(node) || !isKnownType(node.type) || node.id.isNull() || ids.contains(node.id))
+                return false;
+            ids.insert(node.id);
+        }
+    }
+    return true;
+}
+
 EditablePath cleanPath(EditablePath path)
 {
+    if (isClean(path))
+        return path; // and goes on sharing its nodes
     if (path.contours.size() > kMaximumContours)
         path.contours.resize(kMaximumContours);
     QSet<QUuid> ids;
@@ -35,6 +60,8 @@ EditablePath cleanPath(EditablePath path)
         if (contour.nodes.size() > kMaximumNodes)
             contour.nodes.resize(kMaximumNodes);
         for (EditablePathNode &node : contour.nodes) {
+            if (!isKnownType(node.type))
+                node.type = EditablePathNode::Type::Corner;
             if (node.id.isNull() || ids.contains(node.id))
                 node.id = newNodeId();
             ids.insert(node.id);
@@ -84,7 +111,7 @@ SizedShapeGeometry cleanGeometry(const SizedShapeGeometry &geometry)
 
 Stroke cleanStroke(const Stroke &stroke)
 {
-    const double width = std::max(finiteOr(stroke.width, 0.0), 0.0);
+    const double width = std::clamp(finiteOr(stroke.width, 0.0), 0.0, kMaximumSide);
     return {width > 0.0 ? validOrBlack(stroke.color) : stroke.color, width};
 }
 
@@ -147,6 +174,8 @@ bool ShapeLayer::setGeometry(const ShapeGeometry &geometry)
 
 bool ShapeLayer::setSizedGeometry(const SizedShapeGeometry &geometry)
 {
+    if (m_shape == geometry)
+        return false;
     SizedShapeGeometry clean = cleanGeometry(geometry);
     if (m_shape == clean)
         return false;

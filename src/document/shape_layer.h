@@ -29,13 +29,14 @@ struct SizedShapeGeometry
     friend bool operator==(const SizedShapeGeometry &a, const SizedShapeGeometry &b);
 };
 
-/// The geometry as a layer keeps it: of a path, every coordinate finite, ids present and unique, and no more contours
-/// and nodes than a document can hold.
+/// The geometry as a layer keeps it: of a path, every coordinate finite, types known, ids present and unique, and no
+/// more contours and nodes than a document can hold.
 ShapeGeometry cleanGeometry(const ShapeGeometry &geometry);
 /// The same, with each side at least 1 and at most what a document can hold; one that is not finite becomes 1.
 SizedShapeGeometry cleanGeometry(const SizedShapeGeometry &geometry);
 
-/// A width that is not finite or negative becomes 0; an invalid colour of a visible stroke becomes black.
+/// A width that is not finite or negative becomes 0, an absurd one that of the largest box; an invalid colour of a
+/// visible stroke becomes black.
 Stroke cleanStroke(const Stroke &stroke);
 
 /// The bytes that an undo step holding the geometry answers for.
