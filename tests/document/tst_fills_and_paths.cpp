@@ -138,7 +138,8 @@ private slots:
         gradient.stops.clear();
         for (const double position : positions)
             gradient.stops.append({position, QColor(10, 20, 30)});
-        const QGradient *brush = Fill(gradient).brushFor({200, 100}).gradient();
+        const QBrush filled = Fill(gradient).brushFor({200, 100});
+        const QGradient *brush = filled.gradient();
         QCOMPARE(brush->coordinateMode(), QGradient::LogicalMode);
         const QGradientStops stops = brush->stops();
         QCOMPARE(stops.size(), painted.size());
