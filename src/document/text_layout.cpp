@@ -19,27 +19,44 @@ namespace zm {
 
 namespace {
 
-/// Whether a line may break nowhere within thousands of characters.
-bool hasEndlessWord(const TextParagraph &paragraph)
+/// Whether words are so long that to break between them would take seconds: Qt looks through the rest of a word for
+/// each of its lines, a time that grows with the square of its length.
+bool hasEndlessWords(const TextLayerState &state)
 {
-    constexpr qsizetype longestWord = 5'000;
-    qsizetype length = 0;
-    for (const TextRun &run : paragraph.runs)
-        length += run.text.size();
-    if (length <= longestWord)
-        return false;
-    QString text;
-    text.reserve(length);
-    for (const TextRun &run : paragraph.runs)
-        text += run.text;
-    QTextBoundaryFinder finder(QTextBoundaryFinder::Line, text);
-    qsizetype wordStart = 0;
-    for (qsizetype end = finder.toNextBoundary(); end >= 0; end = finder.toNextBoundary()) {
-        if (end - wordStart > longestWord)
-            return true;
-        wordStart = end;
+    constexpr double longestWait = 5e8; // squared characters; half a second
+    double wait = 0.0;
+    for (const TextParagraph &paragraph : state.blocks) {
+        QString text;
+        for (const TextRun &run : paragraph.runs)
+            text += run.text;
+        if (double(text.size()) * double(text.size()) <= longestWait / 100.0)
+            continue; // no need to look for its words
+        QTextBoundaryFinder finder(QTextBoundaryFinder::Line, text);
+        qsizetype wordStart = 0;
+        for (qsizetype end = finder.toNextBoundary(); end >= 0; end = finder.toNextBoundary()) {
+            const double length = double(end - wordStart);
+            wait += length * length;
+            wordStart = end;
+        }
     }
-    return false;
+    return wait > longestWait;
+}
+
+/// Whether a line that is not broken could be longer than layouts can count.
+bool mayBeTooWide(const TextLayerState &state)
+{
+    return std::ranges::any_of(state.blocks, [](const TextParagraph &paragraph) {
+        double width = 0.0;
+        for (const TextRun &run : paragraph.runs) {
+            const QFont &font = run.font;
+            const bool isFactor = font.letterSpacingType() == QFont::PercentageSpacing;
+            const double spacing = std::abs(font.letterSpacing());
+            const double glyph = QFontMetricsF(font).maxWidth() * (isFactor ? std::max(spacing / 100.0, 1.0) : 1.0)
+                + (isFactor ? 0.0 : spacing) + std::abs(font.wordSpacing());
+            width += glyph * double(run.text.size());
+        }
+        return width > kMaximumTextWidth;
+    });
 }
 
 QTextOption::WrapMode wrapMode(const TextLayerState &state)
@@ -48,11 +65,29 @@ QTextOption::WrapMode wrapMode(const TextLayerState &state)
     // pleasing shape.
     if (state.textWidth <= 0.0)
         return QTextOption::NoWrap;
-    // The mode that prefers to break between words looks through the rest of the word for each line, so that an endless
-    // one takes a time that grows with the square of its length.
-    if (std::ranges::any_of(state.blocks, hasEndlessWord))
-        return QTextOption::WrapAnywhere;
-    return QTextOption::WrapAtWordBoundaryOrAnywhere;
+    // A document has one mode for all its paragraphs.
+    return hasEndlessWords(state) ? QTextOption::WrapAnywhere : QTextOption::WrapAtWordBoundaryOrAnywhere;
+}
+
+void setWrapMode(QTextDocument &document, QTextOption::WrapMode mode)
+{
+    QTextOption option = document.defaultTextOption();
+    option.setWrapMode(mode);
+    document.setDefaultTextOption(option);
+}
+
+/// Makes the box as wide as the longest line: what QTextDocument::adjustSize() comes to where lines do not wrap,
+/// without the layouts that it tries on the way.
+void fitWidth(QTextDocument &document, const TextLayerState &state)
+{
+    if (mayBeTooWide(state)) {
+        setWrapMode(document, QTextOption::WrapAnywhere);
+        document.setTextWidth(kMaximumTextWidth);
+        if (document.idealWidth() > kMaximumTextWidth / 2.0)
+            return; // most likely broken, and too large to be drawn in any case
+        setWrapMode(document, QTextOption::NoWrap);
+    }
+    document.setTextWidth(document.idealWidth());
 }
 
 void insertRuns(QTextCursor &cursor, const TextParagraph &paragraph, RunFormats &formats)
@@ -89,10 +124,9 @@ struct Stretch
     int end = 0;
 };
 
-void drawStretchDecorations(QPainter &painter, const QTextCharFormat &format, const QTextLine &line,
-                            const Stretch &stretch, const QPointF &origin)
+void drawStretchDecorations(QPainter &painter, const QTextCharFormat &format, const QFontMetricsF &metrics,
+                            const QTextLine &line, const Stretch &stretch, const QPointF &origin)
 {
-    const QFontMetricsF metrics(format.font());
     const double startX = origin.x() + line.cursorToX(stretch.start);
     const double endX = origin.x() + line.cursorToX(stretch.end);
     const double baseline = origin.y() + line.y() + line.ascent();
@@ -118,6 +152,7 @@ void drawBlockDecorations(QPainter &painter, const QTextBlock &block, const QPoi
         if (!format.hasProperty(DrawnUnderline) && !format.hasProperty(DrawnOverline)
             && !format.hasProperty(DrawnStrikeOut))
             continue;
+        const QFontMetricsF metrics(format.font());
         const int start = fragment.position() - block.position();
         const int end = start + fragment.length();
         while (first < layout.lineCount() && endOf(first) <= start)
@@ -126,7 +161,7 @@ void drawBlockDecorations(QPainter &painter, const QTextBlock &block, const QPoi
             const QTextLine line = layout.lineAt(i);
             const Stretch stretch{std::max(start, line.textStart()), std::min(end, endOf(i))};
             if (stretch.start < stretch.end)
-                drawStretchDecorations(painter, format, line, stretch, origin);
+                drawStretchDecorations(painter, format, metrics, line, stretch, origin);
         }
     }
 }
@@ -144,9 +179,7 @@ std::unique_ptr<QTextDocument> textDocument(const TextLayerState &state, const Q
     auto document = std::make_unique<QTextDocument>();
     document->setDocumentMargin(0.0);
     document->setUndoRedoEnabled(false);
-    QTextOption option = document->defaultTextOption();
-    option.setWrapMode(wrapMode(state));
-    document->setDefaultTextOption(option);
+    setWrapMode(*document, wrapMode(state));
 
     RunFormats formats(fillSize, lines);
     QTextCursor cursor(document.get());
@@ -165,8 +198,10 @@ std::unique_ptr<QTextDocument> textDocument(const TextLayerState &state, const Q
         insertRuns(cursor, paragraph, formats);
     }
     cursor.endEditBlock();
-    // What adjustSize() comes to where lines do not wrap, without the layouts it tries on the way.
-    document->setTextWidth(state.textWidth > 0.0 ? state.textWidth : document->idealWidth());
+    if (state.textWidth > 0.0)
+        document->setTextWidth(state.textWidth);
+    else
+        fitWidth(*document, state);
     return document;
 }
 
@@ -174,8 +209,8 @@ std::unique_ptr<QTextDocument> fittedTextDocument(const TextLayerState &state, T
 {
     std::unique_ptr<QTextDocument> document = textDocument(state, {}, lines);
     const QSize box = coveringPixels(document->size());
-    // Colours look the same in every box, and nothing is painted into a box that is too large.
-    return isSolid(state) || !isAllocatableRasterSize(box) ? std::move(document) : textDocument(state, box, lines);
+    // Colours look the same in every box.
+    return isSolid(state) ? std::move(document) : textDocument(state, box, lines);
 }
 
 TextLayerState textStateFromDocument(const QTextDocument &document, double textWidth)

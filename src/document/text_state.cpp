@@ -17,12 +17,11 @@ constexpr int kDefaultPixelSize = 56;
 constexpr double kMinimumLineHeight = 0.5;
 constexpr double kMaximumLineHeight = 4.0;
 
-// Text layouts count in 32-bit fixed-point numbers that end at 33,554,432; beyond these limits they overflow. Glyphs
-// above some 16,000 pixels are not drawn at all.
+// Text layouts count in 32-bit fixed-point numbers; beyond these limits a single glyph may overflow them. Glyphs above
+// some 16,000 pixels are not drawn at all.
 constexpr int kMaximumPixelSize = 10'000;
 constexpr double kMaximumPointSize = kMaximumPixelSize * 72.0 / 96.0;
 constexpr double kMaximumSpacing = 10'000.0;
-constexpr double kMaximumTextWidth = 16'777'216.0;
 
 QFont cleanFont(QFont font)
 {
@@ -83,6 +82,12 @@ TextRun cleanRun(TextRun run)
     return run;
 }
 
+bool hasSameFormat(const TextRun &a, TextRun b)
+{
+    b.text = a.text;
+    return a == b;
+}
+
 QList<TextRun> joinedRuns(const QList<TextRun> &runs)
 {
     QList<TextRun> joined;
@@ -113,13 +118,6 @@ TextRun defaultTextRun()
     run.font = QFont(u"Arial"_s);
     run.font.setPixelSize(kDefaultPixelSize);
     return run;
-}
-
-bool hasSameFormat(const TextRun &a, const TextRun &b)
-{
-    return a.font == b.font && a.fill == b.fill && a.outlineColor == b.outlineColor && a.outlineWidth == b.outlineWidth
-        && a.underlineColor == b.underlineColor && a.baselineOffset == b.baselineOffset && a.underline == b.underline
-        && a.overline == b.overline && a.strikeOut == b.strikeOut;
 }
 
 TextLayerState normalizedTextState(const TextLayerState &state)

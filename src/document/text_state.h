@@ -37,6 +37,9 @@ struct TextParagraph
     friend bool operator==(const TextParagraph &a, const TextParagraph &b) = default;
 };
 
+/// The widest text box, in layer units: a little less than 8,388,607, where Qt's layouts end a line in any case.
+inline constexpr double kMaximumTextWidth = 8'000'000.0;
+
 /// All that a text layer shows: a plain value that the history and the file carry.
 struct TextLayerState
 {
@@ -50,15 +53,13 @@ struct TextLayerState
 /// A run without text: "Arial" at 56 pixels, filled and outlined in black, no outline and no lines.
 TextRun defaultTextRun();
 
-/// Equal in all but the text.
-bool hasSameFormat(const TextRun &a, const TextRun &b);
-
 /// The state as a layer keeps it: numbers, texts and fonts cleaned, runs of one format joined, and at least one
 /// paragraph with at least one run, which may be empty. Fonts have at most 10,000 pixels or 7,500 points, spacings of
 /// letters and words at most 10,000, and the width at most 16,777,216.
 TextLayerState normalizedTextState(const TextLayerState &state);
 
-/// One paragraph for each line of the text, however its lines end, in the format of the given run.
+/// One paragraph for each line of the text, however its lines end, in the format of the given run, whose own text does
+/// not count.
 TextLayerState textStateFromPlainText(const QString &text, const TextRun &format, double textWidth = 0.0);
 
 /// The bytes that an undo step holding the state answers for.

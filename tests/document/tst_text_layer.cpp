@@ -424,6 +424,8 @@ private slots:
             QTest::addRow("font of %d pixels", size) << state({run(u"Hg"_s, size, {}, underline)});
         for (const double width : {0.0, 1.0, 1200.0})
             QTest::addRow("a word of 200,000 letters, width %g", width) << state({run(QString(200'000, u'a'))}, width);
+        QTest::newRow("longer than layouts can count") << state({run(QString(4'000, u'W'), 10'000)});
+        QTest::newRow("long, but not longer") << state({run(QString(300'000, u'i'), 10)});
         const QString odd = QString(QChar(0)) + QChar(0xdc00) + u"\u2028\ufffc\ufdd0\ufdd1\u202e\uffff"_s;
         QTest::newRow("odd characters") << state({run(odd, 20, {}, underline)});
         QList<TextRun> runs;
@@ -439,6 +441,8 @@ private slots:
         QFETCH(TextLayerState, text);
         const RenderedContent content = TextLayer(text.blocks, text.textWidth, u"text"_s).renderContent(nullptr);
         QVERIFY(std::isfinite(content.size.width()) && content.size.width() >= 1.0);
+        if (text.textWidth == 0.0 && text.blocks[0].runs[0].text.size() > 1000)
+            QVERIFY(content.size.width() > 100'000.0);
         QVERIFY(std::isfinite(content.size.height()) && content.size.height() >= 1.0);
         const QSize pixels = coveringPixels(content.size);
         QCOMPARE(content.image.size(), isAllocatableRasterSize(pixels) ? pixels : QImage().size());
