@@ -128,7 +128,8 @@ QByteArray svgBytes(const ShapeGenerator &generator, const ParameterValues &valu
     }
     const QPainterPath outline = shapePreviewOutline(generator, values, size);
     xml.writeAttribute(u"fill-rule"_s, outline.fillRule() == Qt::OddEvenFill ? u"evenodd"_s : u"nonzero"_s);
-    xml.writeAttribute(u"d"_s, svgPathText(outline));
+    // Every contour of a shape is closed; said so, its line has a corner where it began.
+    xml.writeAttribute(u"d"_s, svgPathText(outline).replace(" M "_L1, " Z M "_L1) + " Z"_L1);
     xml.writeEndDocument();
     return bytes;
 }
