@@ -6,9 +6,9 @@ namespace zm {
 
 class EditablePathBuilder;
 
-/// A closed curve through the anchors. At strength 1 it runs smoothly; lower strengths shorten the handles, and 0
-/// leaves the polygon, with corner nodes without handles. Handles never pass the middle of the gap between anchors that
-/// they lie in, so that uneven anchors make no loops.
+/// A closed curve through the anchors, of which no two neighbours may coincide. At strength 1 it is a spline without a
+/// jump in its curvature; lower strengths shorten the handles, and 0 leaves the polygon, with corner nodes without
+/// handles.
 EditablePath smoothedPolygon(const QList<QPointF> &anchors, double strength);
 
 /// Draws a curve from `from` to `to` that swells to the left of its way in y-down coordinates, which is outwards on an
