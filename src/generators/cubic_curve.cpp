@@ -77,4 +77,14 @@ CubicCurve CubicCurve::piece(double from, double to) const
     return {first, first + derivativeAt(from) * third, last - derivativeAt(to) * third, last};
 }
 
+double endCurvature(double handle, double aside)
+{
+    return 2.0 / 3.0 * aside / (handle * handle);
+}
+
+double handleForCurvature(double curvature, double aside)
+{
+    return std::sqrt(2.0 / 3.0 * aside / curvature);
+}
+
 } // namespace zm

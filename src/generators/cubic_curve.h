@@ -26,4 +26,12 @@ struct CubicCurve
     CubicCurve piece(double from, double to) const;
 };
 
+/// The curvature at an end of a cubic curve, from the length of the handle there and the distance of the other control
+/// from that handle's line.
+double endCurvature(double handle, double aside);
+
+/// The length of the handle that gives an end this curvature. Curves that meet in one direction and with one curvature
+/// show no joint, in a stretched box neither.
+double handleForCurvature(double curvature, double aside);
+
 } // namespace zm

@@ -1,4 +1,5 @@
 #include "document/editable_path_builder.h"
+#include "generators/cubic_curve.h"
 #include "generators/shape_generator.h"
 #include "generators/shape_generators.h"
 
@@ -41,11 +42,18 @@ protected:
         // the top is one dome.
         const double parting = std::min(cleft / 0.12, 1.0);
         const double parted = parting * (2.0 - parting);
-        const QPointF lobeTop((0.25 + 0.02 * lobes) * (0.35 + 0.65 * parted), 0.0);
-        const QPointF shoulder(0.5, 0.275 + 0.06 * lobes);
-        const double fullness = 0.58 + (0.25 * lobes - 0.12) * parted + 0.10 * lobes * (1.0 - parted);
+        const QPointF lobeTop((0.24 + 0.02 * lobes) * (0.2 + 0.8 * parted), 0.0);
+        const QPointF shoulder(0.5, 0.22 + (0.26 - 0.11 * lobes) * lobes);
         const double tipHalfAngle = (64.0 - 74.0 * tip + 24.0 * tip * tip) * std::numbers::pi / 180.0;
         const QPointF tipRise = QPointF(std::sin(tipHalfAngle), -std::cos(tipHalfAngle)) * (0.18 + 0.07 * tip);
+
+        // The handles of the lobe's outer quarter set the curvature at its two ends. The curves next to it take that
+        // over, so that the lobe is round all the way.
+        const double outerWidth = 0.5 - lobeTop.x();
+        const double over = outerWidth * (0.55 + 0.05 * lobes);
+        const double down = shoulder.y() * (0.505 - 0.025 * lobes);
+        const double topCurvature = endCurvature(over, shoulder.y() - down);
+        const double shoulderCurvature = endCurvature(down, outerWidth - over);
 
         const auto right = [&](const QPointF &half) {
             return QPointF((0.5 + half.x()) * size.width(), half.y() * size.height());
@@ -53,11 +61,13 @@ protected:
         const auto left = [&](const QPointF &half) { return right({-half.x(), half.y()}); };
         const QPointF cleftPoint(0.0, cleft);
         const QPointF tipPoint(0.0, 1.0);
-        const QPointF outOfCleft(0.06 + 0.04 * lobes, cleft * 0.36);
-        const QPointF intoLobe(lobeTop.x() * (1.0 - fullness), 0.0);
-        const QPointF outOfLobe(lobeTop.x() + (0.5 - lobeTop.x()) * fullness, 0.0);
-        const QPointF intoShoulder(0.5, shoulder.y() * (1.0 - fullness));
-        const QPointF outOfShoulder(0.5, shoulder.y() + (1.0 - shoulder.y()) * (0.36 - 0.07 * tip));
+        const QPointF outOfCleft(lobeTop.x() * 0.25, cleft * (0.5 - 0.1 * lobes));
+        // A cleft of next to nothing would leave no handle.
+        const double fromInside = std::max(handleForCurvature(topCurvature, outOfCleft.y()), 0.2 * lobeTop.x());
+        const QPointF intoLobe(lobeTop.x() - fromInside, 0.0);
+        const QPointF outOfLobe(lobeTop.x() + over, 0.0);
+        const QPointF intoShoulder(0.5, shoulder.y() - down);
+        const QPointF outOfShoulder(0.5, shoulder.y() + handleForCurvature(shoulderCurvature, 0.5 - tipRise.x()));
 
         EditablePathBuilder builder;
         builder.moveTo(right(cleftPoint));
