@@ -1,8 +1,12 @@
+#include "base/geometry.h"
 #include "generators/cornered_outline.h"
+#include "generators/cubic_curve.h"
 #include "generators/shape_generator.h"
 #include "generators/shape_generators.h"
 
 #include <algorithm>
+#include <cmath>
+#include <numbers>
 
 using namespace Qt::StringLiterals;
 
@@ -86,7 +90,8 @@ protected:
         const double point = parameters.real(u"pointDepth"_s);
         const int form = parameters.integer(u"form"_s);
         // The tops of the second and the third lose their character when they are rounded as much as the others.
-        const double largestRadius = std::min(size.width(), size.height()) * (form == 2 || form == 3 ? 0.16 : 0.3);
+        const double share = form == 2 ? 0.1 : form == 3 ? 0.16 : 0.3;
+        const double largestRadius = share * std::min(size.width(), size.height());
         return half(form, point).unfolded(size).rounded(parameters.real(u"cornerRoundness"_s) * largestRadius);
     }
 
@@ -105,32 +110,51 @@ private:
         }
     }
 
-    // Down from the side at (x, y) to the point, which is the longer and the sharper the deeper it is.
-    static void drawFlank(HalfShield &half, double x, double y, double point)
+    // Straight down from the side and round to the point, which is the longer and the sharper the deeper it is.
+    struct Flank
     {
-        const double drop = 1.0 - y;
-        half.curveTo({x, y + 0.46 * drop}, {0.5 * (0.86 - 0.5 * point), 1.0 - 0.22 * drop}, {0.0, 1.0});
-    }
+        Flank(double x, double y, double point, double fullness = 0.48)
+            : start(x, y)
+            , first(x, y + fullness * (1.0 - y))
+            , second(0.5 * (0.86 - 0.5 * point), 1.0 - 0.22 * (1.0 - y))
+        {
+        }
+
+        // The second control of a curve that runs into the flank without a jump in its curvature, by the first one.
+        QPointF controlAfter(const QPointF &control) const
+        {
+            const double curvature = endCurvature(first.y() - start.y(), start.x() - second.x());
+            return start - QPointF(0.0, handleForCurvature(curvature, start.x() - control.x()));
+        }
+
+        QPointF start, first, second;
+    };
+
+    static void draw(HalfShield &half, const Flank &flank) { half.curveTo(flank.first, flank.second, {0.0, 1.0}); }
 
     // The knight's shield: a straight top and straight upper sides.
     static HalfShield heater(double point)
     {
+        const Flank flank(0.5, 1.12 - point, point);
         HalfShield half({0.0, 0.0});
         half.lineTo({0.5, 0.0});
-        half.lineTo({0.5, 1.12 - point});
-        drawFlank(half, 0.5, 1.12 - point, point);
+        half.lineTo(flank.start);
+        draw(half, flank);
         return half;
     }
 
     // The sheriff's badge: a peak between two shoulders, and a waist below them.
     static HalfShield shouldered(double point)
     {
-        const double waist = 0.93 - 0.55 * point;
+        const Flank flank(0.47, 0.85 - 0.4 * point, point);
+        const QPointF shoulder(0.5, 0.165);
+        const double height = flank.start.y() - shoulder.y();
+        const QPointF inwards(0.455 - 0.08 * height, shoulder.y() + 0.4 * height);
         HalfShield half({0.0, 0.0});
         half.curveTo({0.08, 0.075}, {0.22, 0.105}, {0.34, 0.045});
-        half.lineTo({0.5, 0.165});
-        half.curveTo({0.435, 0.165 + 0.35 * (waist - 0.165)}, {0.46, waist - 0.35 * (waist - 0.165)}, {0.46, waist});
-        drawFlank(half, 0.46, waist, point);
+        half.lineTo(shoulder);
+        half.curveTo(inwards, flank.controlAfter(inwards), flank.start);
+        draw(half, flank);
         return half;
     }
 
@@ -138,25 +162,39 @@ private:
     static HalfShield scalloped(double point)
     {
         const double depth = (point - 0.6) / 0.4;
-        const double side = 0.52 - 0.30 * depth;
-        const QPointF cheek(0.26 - 0.08 * depth, 0.885 - 0.035 * depth);
-        const QPointF along(-0.10 + 0.01 * depth, 0.05 + 0.05 * depth);
+        const QPointF side(0.5, 0.52 - 0.30 * depth);
+        const QPointF cheek(0.26 - 0.06 * depth, 0.89 - 0.06 * depth);
+        const QPointF beforePoint(0.04, 0.945);
+        // Near an arc, with a curvature that grows a little towards the cheek.
+        const double chord = lengthOf(cheek - side);
+        const QPointF downSide = side + QPointF(0.0, 0.39 * chord);
+        const double angle = (70.0 - 18.0 * depth) * std::numbers::pi / 180.0;
+        const QPointF along(-std::sin(angle), std::cos(angle));
+        const auto aside = [&](const QPointF &other) {
+            const QPointF offset = other - cheek;
+            return std::abs(along.x() * offset.y() - along.y() * offset.x());
+        };
+        const double handle = 0.36 * chord;
+        const double onwards = handleForCurvature(endCurvature(handle, aside(downSide)), aside(beforePoint));
         HalfShield half({0.0, 0.03});
         half.curveTo({0.12, 0.14}, {0.36, 0.14}, {0.5, 0.0});
-        half.lineTo({0.5, side});
-        half.curveTo({0.5, side + 0.56 * (cheek.y() - side)}, cheek - along * 1.2, cheek);
-        half.curveTo(cheek + along * 0.8, {0.035, 0.945}, {0.0, 1.0});
+        half.lineTo(side);
+        half.curveTo(downSide, cheek - along * handle, cheek);
+        half.curveTo(cheek + along * onwards, beforePoint, {0.0, 1.0});
         return half;
     }
 
     // The crest: a round top, and sides that swell.
     static HalfShield crested(double point)
     {
-        const double side = 0.86 - 0.6 * point;
+        const Flank flank(0.5, 0.76 - 0.4 * point, point, 0.54);
+        const QPointF shoulder(0.455, 0.12);
+        const QPointF toFlank = flank.start - shoulder;
+        const QPointF outwards = shoulder + QPointF(0.425 * toFlank.x(), 0.25 * toFlank.y());
         HalfShield half({0.0, 0.0});
-        half.curveTo({0.18, 0.0}, {0.34, 0.04}, {0.45, 0.12});
-        half.curveTo({0.48, 0.12 + 0.3 * (side - 0.12)}, {0.5, side - 0.35 * (side - 0.12)}, {0.5, side});
-        drawFlank(half, 0.5, side, point);
+        half.curveTo({0.18, 0.0}, {0.345, 0.04}, shoulder);
+        half.curveTo(outwards, flank.controlAfter(outwards), flank.start);
+        draw(half, flank);
         return half;
     }
 };
