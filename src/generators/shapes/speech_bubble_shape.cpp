@@ -70,7 +70,8 @@ protected:
     EditablePath outline(const QSizeF &size, const ShapeParameters &parameters) const override
     {
         const BubbleBox bubble(size, parameters);
-        const Pointer &pointer = kPointers[parameters.undeclaredInteger(u"form"_s, 1, 0) % kPointers.size()];
+        const Pointer &form = kPointers[parameters.undeclaredInteger(u"form"_s, 1, 0) % kPointers.size()];
+        const Pointer pointer = strengthened(form, (bubble.tip.y() - bubble.box.bottom()) / size.width());
         const QRectF &box = bubble.box;
         const double radius = bubble.cornerRadius;
         const double handle = radius * (1.0 - kQuarterArc);
@@ -100,6 +101,20 @@ protected:
     }
 
 private:
+    // A pointer that is long for the box's width, in parts of it, would look like a tentacle: its root becomes a
+    // quarter as wide as the pointer is long, where the box has room, and its edges become straighter.
+    static Pointer strengthened(Pointer pointer, double length)
+    {
+        const double leastX = std::max(pointer.left.x - 0.13, 0.08);
+        pointer.left.x = std::min(pointer.left.x, std::max(pointer.right.x - length / 4.0, leastX));
+        const double straightness = 0.7 * std::clamp((length - 0.6) / 0.6, 0.0, 1.0);
+        for (PointerEdge *edge : {&pointer.right, &pointer.left}) {
+            edge->nearHandle += (QPointF(1.0, 1.0) / 3.0 - edge->nearHandle) * straightness;
+            edge->tipHandle += (QPointF(2.0, 2.0) / 3.0 - edge->tipHandle) * straightness;
+        }
+        return pointer;
+    }
+
     // From the right end of the lower edge over the pointer to the end of the lower left corner. With a large radius
     // the pointer may stand on that corner.
     static void drawLowerEdge(EditablePathBuilder &builder, const BubbleBox &bubble, const Pointer &pointer,
