@@ -25,11 +25,11 @@ struct TrailBubble
     double height;
 };
 
-constexpr std::array kThree{TrailBubble{{0.22, 0.26}, 0.40}, TrailBubble{{0.66, 0.63}, 0.26},
-                            TrailBubble{{1.0, 0.91}, 0.18}};
+constexpr std::array kThree{TrailBubble{{0.22, 0.26}, 0.42}, TrailBubble{{0.66, 0.63}, 0.30},
+                            TrailBubble{{1.0, 0.885}, 0.23}};
 constexpr std::array kTwo{TrailBubble{{0.30, 0.31}, 0.48}, TrailBubble{{0.92, 0.84}, 0.32}};
-constexpr std::array kArc{TrailBubble{{0.05, 0.30}, 0.36}, TrailBubble{{0.38, 0.66}, 0.28},
-                          TrailBubble{{1.0, 0.90}, 0.20}};
+constexpr std::array kArc{TrailBubble{{0.05, 0.30}, 0.38}, TrailBubble{{0.38, 0.66}, 0.30},
+                          TrailBubble{{1.0, 0.885}, 0.23}};
 constexpr std::array kPlumb{TrailBubble{{0.80, 0.29}, 0.42}, TrailBubble{{1.0, 0.82}, 0.28}};
 
 constexpr std::array<std::span<const TrailBubble>, 4> kTrails{kTwo, kThree, kArc, kPlumb};
@@ -111,8 +111,9 @@ protected:
     {
         const BubbleBox bubble(size, parameters);
         EditablePath path = fittedInto(puffs(bubble), bubble.box);
-        for (const TrailBubble &small : kTrails[parameters.undeclaredInteger(u"form"_s, 1, 0) % kTrails.size()])
-            path.contours += trailBubble(bubble, small, size).contours;
+        const auto form = kTrails[parameters.undeclaredInteger(u"form"_s, 1, 0) % kTrails.size()];
+        for (const QRectF &small : trail(bubble, form, size))
+            path.contours += roundedRectangle(small, small.size() / 2.0).contours;
         return path;
     }
 
@@ -150,16 +151,45 @@ private:
         return builder.path();
     }
 
-    static EditablePath trailBubble(const BubbleBox &bubble, const TrailBubble &small, const QSizeF &size)
+    // Round bubbles, or flatter ones in a wide box, like the puffs above.
+    static QList<QRectF> trail(const BubbleBox &bubble, std::span<const TrailBubble> form, const QSizeF &size)
     {
         const QPointF start(0.46 * size.width(), bubble.box.bottom());
         const QPointF way = bubble.tip - start;
-        const double high = std::min(small.height * way.y(), 0.5 * small.height * size.width());
-        // Flatter in a wide box, like the puffs above.
-        const double wide = high * std::clamp(size.width() / size.height(), 1.0, 1.6);
-        const QPointF centre(start.x() + small.centre.x() * way.x(), start.y() + small.centre.y() * way.y());
-        const QRectF box(centre.x() - wide / 2.0, centre.y() - high / 2.0, wide, high);
-        return roundedRectangle(box, box.size() / 2.0);
+        const double flatness = std::clamp(size.width() / size.height(), 1.0, 1.6);
+        const auto heightOf = [&](double part) { return part * std::min(way.y(), 0.8 * size.width()); };
+        // Bubbles that the width keeps small begin close to the box all the same.
+        const double first = form.front().centre.y();
+        const double spread = (1.0 - std::min(first, 0.9 * heightOf(form.front().height) / way.y())) / (1.0 - first);
+
+        QList<QRectF> bubbles;
+        for (const TrailBubble &small : form) {
+            const double high = heightOf(small.height);
+            const double down = 1.0 - (1.0 - small.centre.y()) * spread;
+            QRectF box(0.0, 0.0, flatness * high, high);
+            box.moveCenter(start + QPointF(small.centre.x() * way.x(), down * way.y()));
+            if (!bubbles.isEmpty())
+                appendBetween(bubbles, box);
+            bubbles.append(box);
+        }
+        return bubbles;
+    }
+
+    // More bubbles for a height that could take them, with even gaps, so that a long trail does not fall
+    // apart.
+    static void appendBetween(QList<QRectF> &bubbles, const QRectF &next)
+    {
+        const QRectF last = bubbles.last();
+        const double usual = (last.height() + next.height()) / 2.0;
+        const QPointF way = next.center() - last.center();
+        const int count = int((way.y() / usual - 1.0) / 1.2);
+        const double gap = way.y() / (count + 1) - usual;
+        for (int i = 1; i <= count; ++i) {
+            QRectF box(QPointF(), last.size() + (next.size() - last.size()) * (double(i) / (count + 1)));
+            const double down = i * (gap + (last.height() + box.height()) / 2.0);
+            box.moveCenter(last.center() + way * (down / way.y()));
+            bubbles.append(box);
+        }
     }
 };
 
