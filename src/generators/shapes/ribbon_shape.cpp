@@ -40,8 +40,10 @@ protected:
     EditablePath outline(const QSizeF &size, const ShapeParameters &parameters) const override
     {
         const double notch = parameters.real(u"notchDepth"_s);
-        const double radius = parameters.real(u"cornerRoundness"_s) * std::min(size.width(), size.height()) * 0.3;
-        return cut(parameters.integer(u"form"_s), size, notch).rounded(radius);
+        const int form = parameters.integer(u"form"_s);
+        // A larger radius would swallow the wave of the fifth.
+        const double largest = (form == 5 ? 0.14 : 0.3) * std::min(size.width(), size.height());
+        return cut(form, size, notch).rounded(parameters.real(u"cornerRoundness"_s) * largest);
     }
 
 private:
