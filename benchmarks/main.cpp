@@ -25,12 +25,9 @@ struct BenchGroup
 };
 
 constexpr BenchGroup kGroups[] = {
-    {"scene"_L1, zm::bench::benchScene},
-    {"vectors"_L1, zm::bench::benchVectors},
-    {"blur"_L1, zm::bench::benchBlur},
-    {"text"_L1, zm::bench::benchText},
-    {"export"_L1, zm::bench::benchExport},
-    {"shapes"_L1, zm::bench::benchShapes},
+    {"scene"_L1, zm::bench::benchScene},   {"vectors"_L1, zm::bench::benchVectors},
+    {"blur"_L1, zm::bench::benchBlur},     {"text"_L1, zm::bench::benchText},
+    {"export"_L1, zm::bench::benchExport}, {"shapes"_L1, zm::bench::benchShapes},
     {"start"_L1, zm::bench::benchStartup},
 };
 

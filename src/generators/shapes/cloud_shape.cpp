@@ -54,13 +54,13 @@ constexpr std::array kSignTower{Puff{{15, 168}, 0.46}, Puff{{68, 116}, 1.20}, Pu
 // Puffs all the way round.
 constexpr std::array kBalloon{Puff{{16, 33}, 0.68}, Puff{{44, 14}, 0.66}, Puff{{82, 14}, 0.60}, Puff{{106, 35}, 0.66},
                               Puff{{99, 62}, 0.70}, Puff{{64, 70}, 0.60}, Puff{{26, 64}, 0.60}};
-constexpr std::array kBalloonTower{Puff{{12, 160}, 0.48}, Puff{{6, 84}, 0.50}, Puff{{74, 72}, 1.16},
+constexpr std::array kBalloonTower{Puff{{12, 160}, 0.48}, Puff{{6, 84}, 0.50},   Puff{{74, 72}, 1.16},
                                    Puff{{68, 128}, 0.54}, Puff{{68, 186}, 0.52}, Puff{{76, 234}, 0.54},
                                    Puff{{6, 226}, 1.10}};
 // A long bank that rises to the right.
 constexpr std::array kBank{Puff{{14, 56}, 0.80}, Puff{{34, 42}, 0.56},  Puff{{58, 27}, 0.62},
                            Puff{{92, 24}, 0.76}, Puff{{109, 47}, 0.58}, Puff{{106, 78}, 0.84}};
-constexpr std::array kBankTower{Puff{{2, 236}, 0.56}, Puff{{8, 166}, 0.52}, Puff{{16, 100}, 0.50},
+constexpr std::array kBankTower{Puff{{2, 236}, 0.56}, Puff{{8, 166}, 0.52},  Puff{{16, 100}, 0.50},
                                 Puff{{72, 88}, 1.20}, Puff{{70, 190}, 0.46}, Puff{{62, 296}, 0.52}};
 
 constexpr std::array kForms{CloudForm{{{24, 78}, kFairWeather}, {{24, 296}, kFairTower}, true},
