@@ -220,11 +220,8 @@ void ShapeLayer::deriveOutline() const
     } else {
         const auto &geometry = std::get<GeneratorGeometry>(m_shape.geometry);
         const ShapeGenerator *generator = ShapeGeneratorRegistry::instance().find(geometry.generatorId);
-        const double inset = outlineInset(m_stroke);
-        const QSizeF box(std::max(layerSize().width() - 2.0 * inset, 1.0),
-                         std::max(layerSize().height() - 2.0 * inset, 1.0));
         m_generatedPath =
-            generator ? translated(generator->generate(box, geometry.parameters), {inset, inset}) : EditablePath();
+            generator ? outlineInBox(*generator, geometry.parameters, layerSize(), m_stroke) : EditablePath();
     }
     m_painterPath = zm::painterPath(m_generatedPath);
     m_pathDirty = false;

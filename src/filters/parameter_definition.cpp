@@ -141,6 +141,8 @@ double snapped(double value, double minimum, double maximum, double step)
 
 qint64 snapped(qint64 value, qint64 minimum, qint64 maximum, qint64 step)
 {
+    if (minimum > maximum)
+        std::swap(minimum, maximum);
     // Unsigned arithmetic: the distance of two limits may exceed a signed number.
     const quint64 stride = quint64(std::max<qint64>(step, 1));
     const quint64 distance = quint64(std::clamp(value, minimum, maximum)) - quint64(minimum);

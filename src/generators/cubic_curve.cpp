@@ -1,5 +1,7 @@
 #include "generators/cubic_curve.h"
 
+#include "base/geometry.h"
+
 #include <cmath>
 
 namespace zm {
@@ -16,7 +18,7 @@ void walk(const CubicCurve &curve, const Visit &visit)
     for (int i = 0; i < kLengthSteps; ++i) {
         const QPointF point = curve.pointAt((i + 1.0) / kLengthSteps);
         const QPointF step = point - previous;
-        if (!visit(double(i) / kLengthSteps, std::hypot(step.x(), step.y())))
+        if (!visit(double(i) / kLengthSteps, lengthOf(step)))
             return;
         previous = point;
     }

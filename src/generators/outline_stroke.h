@@ -1,10 +1,15 @@
 #pragma once
 
+#include "document/editable_path.h"
 #include "filters/compound_values.h"
 
 #include <QPen>
+#include <QSizeF>
 
 namespace zm {
+
+class ParameterValues;
+class ShapeGenerator;
 
 // How the line around a shape is drawn, wherever shapes are shown.
 
@@ -18,14 +23,11 @@ inline double outlineInset(const Stroke &stroke)
     return stroke.width * 1.25;
 }
 
+/// The generator's outline in a box from (0, 0) to size that holds its stroke too.
+EditablePath outlineInBox(const ShapeGenerator &generator, const ParameterValues &values, const QSizeF &size,
+                          const Stroke &stroke);
+
 /// No pen for a stroke without width.
-inline QPen outlinePen(const Stroke &stroke)
-{
-    if (stroke.width <= 0.0)
-        return Qt::NoPen;
-    QPen pen(stroke.color, stroke.width, Qt::SolidLine, Qt::SquareCap, Qt::MiterJoin);
-    pen.setMiterLimit(kOutlineMiterLimit);
-    return pen;
-}
+QPen outlinePen(const Stroke &stroke);
 
 } // namespace zm

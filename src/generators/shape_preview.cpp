@@ -1,7 +1,6 @@
 #include "generators/shape_preview.h"
 
 #include "base/sanitize.h"
-#include "document/editable_path.h"
 #include "generators/outline_stroke.h"
 #include "generators/shape_generator.h"
 
@@ -18,9 +17,7 @@ Stroke shapePreviewStroke(const ShapeGenerator &generator)
 QPainterPath shapePreviewOutline(const ShapeGenerator &generator, const ParameterValues &values,
                                  const QSizeF &logicalSize)
 {
-    const double inset = outlineInset(shapePreviewStroke(generator));
-    const QSizeF box = sizeOfAtLeastOne(logicalSize) - QSizeF(2.0 * inset, 2.0 * inset);
-    return painterPath(generator.generate(box, values)).translated(inset, inset);
+    return painterPath(outlineInBox(generator, values, sizeOfAtLeastOne(logicalSize), shapePreviewStroke(generator)));
 }
 
 QImage shapePreview(const ShapeGenerator &generator, const ParameterValues &values, const QSizeF &logicalSize,

@@ -1,3 +1,4 @@
+#include "base/geometry.h"
 #include "document/editable_path_builder.h"
 #include "generators/curved_outlines.h"
 #include "generators/shape_generator.h"
@@ -125,7 +126,7 @@ private:
         const QPointF chord = (to - from) / 3.0;
         const QPointF rise = QPointF(chord.y(), -chord.x()) * (2.0 * bulge);
         const QPointF run = chord * (1.0 - bulge * bulge);
-        const double reach = std::hypot(chord.x(), chord.y()) * (1.0 + bulge * bulge);
+        const double reach = lengthOf(chord) * (1.0 + bulge * bulge);
         if (isFirst)
             builder.curveTo(from - QPointF(reach, 0.0), to - run + rise, to);
         else

@@ -1,3 +1,4 @@
+#include "base/geometry.h"
 #include "document/editable_path_builder.h"
 #include "generators/shape_generator.h"
 #include "generators/shape_generators.h"
@@ -24,7 +25,7 @@ struct Arch
     QPointF outwardNormal(double angle) const
     {
         const QPointF normal(std::cos(angle) * height, std::sin(angle) * halfWidth);
-        return normal / std::hypot(normal.x(), normal.y());
+        return normal / lengthOf(normal);
     }
 };
 

@@ -1,3 +1,4 @@
+#include "base/geometry.h"
 #include "document/editable_path_builder.h"
 #include "generators/bubble_box.h"
 #include "generators/cubic_curve.h"
@@ -143,7 +144,7 @@ private:
         // Along the outline, to the left.
         const auto direction = [&](double cut) {
             const QPointF along = cut > 0.0 ? corner.derivativeAt(cut) : QPointF(-1.0, 0.0);
-            return along / std::hypot(along.x(), along.y());
+            return along / lengthOf(along);
         };
         drawEdge(builder, pointer.right, base(rightCut, rightX), bubble.tip, direction(rightCut), true);
         drawEdge(builder, pointer.left, base(leftCut, leftX), bubble.tip, -direction(leftCut), false);
