@@ -14,6 +14,8 @@ using namespace zm::test;
 
 namespace {
 
+using SelectCommand = SetImageLayerRasterSelectionCommand;
+
 // Values of three kinds of layers: number 0 is what the layers of a Scene begin with.
 
 const std::array<QImage, 3> kPictures{gradientPicture(4, 3), plainPicture(5, 5, QColor(10, 20, 30, 40)),
@@ -78,70 +80,67 @@ struct Scene
     CommandHistory history{&document};
 };
 
-enum Kind { Paint, SizeImage, Select, Crop, Convert, Bend, SizeShape, Paste, Outline, Write, SizeText };
+constexpr qint64 kFourNodes = 32 + 32 + 72 * 4, kThreeNodes = kFourNodes - 72, kStar = 5 * 2 + 128;
 
-QUndoCommand *make(Kind kind, Document *d, const QUuid &id, int value, quint64 key)
+struct Edit
 {
-    const RasterImageSource source{kPictures[value]};
-    const ObjectTransform transform = transformOf(value);
-    const SizedShapeGeometry geometry = geometryOf(value);
-    const Stroke stroke{Qt::black, value * 2.0};
-    switch (kind) {
-    case Paint:
-        return new PaintImageLayerCommand(d, id, source, transform, RasterSurfacePolicy(value != 0), {}, key);
-    case SizeImage:
-        return new ResizeImageLayerCommand(d, id, source, transform, key);
-    case Select:
-        return new SetImageLayerRasterSelectionCommand(d, id, pathOf(4 - value), u"Select"_s, key);
-    case Crop: // 0: beside the picture
-        return new CropImageLayerCommand(d, id, QRectF(value ? 1 : 9, 0, 2, 2), 45.0);
-    case Convert:
-        if (value == 0)
-            d->setShapeGeometry(id, pathOf(3)); // which cannot be converted
-        return new ConvertShapeToPathCommand(d, id);
-    case Bend:
-        return new SetShapeGeometryCommand(d, id, geometry.geometry, u"Bend"_s, key);
-    case SizeShape:
-        return new ResizeShapeLayerCommand(d, id, geometry, transform, key, u"Resize Shape"_s);
-    case Paste:
-        return new SetShapeFillCommand(d, id, QColor(value, 0, 0), u"Fill"_s, key);
-    case Outline:
-        return new SetShapeStrokeCommand(d, id, stroke, geometry, transform, u"Stroke"_s, key);
-    case Write:
-        return new SetTextLayerStateCommand(d, id, textOf(value), u"Write"_s, key);
-    case SizeText:
-        return new ResizeTextLayerCommand(d, id, textOf(value), transform, key);
+    template<typename Command, typename... Arguments>
+    QUndoCommand *make(const Arguments &...arguments) const
+    {
+        return new Command(document, id, arguments...);
     }
-    return nullptr;
-}
 
-struct Case
+    Document *document;
+    QUuid id;
+    int value;
+    quint64 key;
+    RasterImageSource source{kPictures[value]};
+    ObjectTransform transform = transformOf(value);
+    SizedShapeGeometry geometry = geometryOf(value);
+    TextLayerState text = textOf(value);
+};
+
+const struct Case
 {
-    Kind kind;
     uint layer; // another layer of its kind is the next one
     int mergeId;
     const char *text;
-    const char *signalNames;
+    const char *signalled;
     qint64 cost; // beyond text and base, for value 1; -1 where it depends on how lists grow
-};
-
-constexpr qint64 kFourNodes = 32 + 32 + 72 * 4;
-constexpr qint64 kThreeNodes = 32 + 32 + 72 * 3;
-constexpr qint64 kStar = 5 * 2 + 128;
-
-const Case kCases[] = {
-    {Paint, 1, 13, "Paint Image", "imageLayerChanged objectTransformChanged", 48 + 100},
-    {SizeImage, 1, 8, "Resize Image", "imageLayerChanged objectTransformChanged", 48 + 100},
-    {Select, 1, 12, "Select", "imageLayerChanged", kFourNodes + kThreeNodes},
-    {Crop, 1, -1, "Crop Image", "imageLayerChanged objectTransformChanged imageLayerChanged",
-     48 + 48 + 16 + kFourNodes},
-    {Convert, 3, -1, "Convert Shape to Path", "shapeGeometryChanged", -1},
-    {Bend, 3, 4, "Bend", "shapeGeometryChanged", kStar + kThreeNodes},
-    {SizeShape, 3, 7, "Resize Shape", "shapeGeometryChanged objectTransformChanged", 0},
-    {Paste, 3, 5, "Fill", "shapeLayerChanged", 0},
-    {Outline, 3, 6, "Stroke", "shapeGeometryChanged objectTransformChanged shapeLayerChanged", 0},
-    {Write, 5, 2, "Write", "textLayerChanged", -1},
-    {SizeText, 5, 3, "Resize Text", "textLayerChanged objectTransformChanged", 0},
+    std::function<QUndoCommand *(const Edit &)> make;
+} kCases[] = {
+    {1, 13, "Paint Image", "imageLayerChanged #1, objectTransformChanged #1", 48 + 100,
+     [](const Edit &e) {
+         const auto policy = RasterSurfacePolicy(e.value != 0);
+         return e.make<PaintImageLayerCommand>(e.source, e.transform, policy, QString(), e.key);
+     }},
+    {1, 8, "Resize Image", "imageLayerChanged #1, objectTransformChanged #1", 48 + 100,
+     [](const Edit &e) { return e.make<ResizeImageLayerCommand>(e.source, e.transform, e.key); }},
+    {1, 12, "Select", "imageLayerChanged #1", kFourNodes + kThreeNodes,
+     [](const Edit &e) { return e.make<SelectCommand>(pathOf(4 - e.value), u"Select"_s, e.key); }},
+    {1, -1, "Crop Image", "imageLayerChanged #1, objectTransformChanged #1, imageLayerChanged #1", 112 + kFourNodes,
+     [](const Edit &e) { return e.make<CropImageLayerCommand>(QRectF(e.value ? 1 : 9, 0, 2, 2), 45.0); }}, // 0: beside
+    {3, -1, "Convert Shape to Path", "shapeGeometryChanged #3", -1,
+     [](const Edit &e) {
+         if (e.value == 0)
+             e.document->setShapeGeometry(e.id, pathOf(3)); // which cannot be converted
+         return e.make<ConvertShapeToPathCommand>();
+     }},
+    {3, 4, "Bend", "shapeGeometryChanged #3", kStar + kThreeNodes,
+     [](const Edit &e) { return e.make<SetShapeGeometryCommand>(e.geometry.geometry, u"Bend"_s, e.key); }},
+    {3, 7, "Resize", "shapeGeometryChanged #3, objectTransformChanged #3", 0,
+     [](const Edit &e) { return e.make<ResizeShapeLayerCommand>(e.geometry, e.transform, e.key, u"Resize"_s); }},
+    {3, 5, "Fill", "shapeLayerChanged #3", 0,
+     [](const Edit &e) { return e.make<SetShapeFillCommand>(QColor(e.value, 0, 0), u"Fill"_s, e.key); }},
+    {3, 6, "Stroke", "shapeGeometryChanged #3, objectTransformChanged #3, shapeLayerChanged #3", 0,
+     [](const Edit &e) {
+         const Stroke stroke{Qt::black, e.value * 2.0};
+         return e.make<SetShapeStrokeCommand>(stroke, e.geometry, e.transform, u"Stroke"_s, e.key);
+     }},
+    {5, 2, "Write", "textLayerChanged #5", memoryBytes(textOf(0)) + memoryBytes(textOf(1)),
+     [](const Edit &e) { return e.make<SetTextLayerStateCommand>(e.text, u"Write"_s, e.key); }},
+    {5, 3, "Resize Text", "textLayerChanged #5, objectTransformChanged #5", 0,
+     [](const Edit &e) { return e.make<ResizeTextLayerCommand>(e.text, e.transform, e.key); }},
 };
 
 } // namespace
@@ -151,30 +150,37 @@ class TestLayerContentCommands : public QObject
     Q_OBJECT
 
 private slots:
-    void everyCommandGoesForthAndBack()
+    void everyCommandGoesForthAndBackUntilItsLayerIsReplaced()
     {
         for (const Case &row : kCases) {
             Scene scene;
-            QStringList signalled;
-            for (const QString &name : QString::fromLatin1(row.signalNames).split(u' '))
-                signalled.append(u"%1 #%2"_s.arg(name).arg(row.layer));
-            const QString start = describe(scene.document);
-            DocumentLog log(scene.document);
-            QUndoCommand *command = make(row.kind, &scene.document, testId(row.layer), 1, 7);
-            QCOMPARE(describe(scene.document), start);
+            Document &document = scene.document;
+            const QString start = describe(document);
+            DocumentLog log(document);
+            QUndoCommand *command = row.make({&document, testId(row.layer), 1, 7});
+            QCOMPARE(describe(document), start);
             QCOMPARE(command->id(), row.mergeId);
             scene.push(command);
-            QCOMPARE(log.take(), signalled);
-            QCOMPARE(scene.history.undoText(), QString::fromLatin1(row.text));
+            QCOMPARE(log.take().join(u", "), QLatin1StringView(row.signalled));
+            QCOMPARE(scene.history.undoText(), QLatin1StringView(row.text));
             if (row.cost >= 0)
                 QCOMPARE(scene.history.memoryUsed() - 256 - 2 * scene.history.undoText().size(), row.cost);
-            const QString end = describe(scene.document);
+            const QString end = describe(document);
             scene.history.undo();
-            QCOMPARE(describe(scene.document), start);
-            QCOMPARE(log.take(), signalled);
+            QCOMPARE(describe(document), start);
+            QCOMPARE(log.take().join(u", "), QLatin1StringView(row.signalled));
             scene.history.redo();
-            QCOMPARE(describe(scene.document), end);
-            QCOMPARE(scene.history.count(), 1);
+            QCOMPARE(describe(document), end);
+
+            document.takeObject(testId(row.layer));
+            if (row.layer == 1)
+                document.insertObject(std::make_unique<TextLayer>(textOf(1).blocks, 0.0, QString(), testId(1)));
+            else
+                document.insertObject(std::make_unique<ImageLayer>(kPictures[0], QString(), testId(row.layer)));
+            const QString replaced = describe(document);
+            scene.history.undo();
+            QCOMPARE(scene.history.count(), 0);
+            QCOMPARE(describe(document), replaced);
         }
     }
 
@@ -183,29 +189,28 @@ private slots:
         for (const Case &row : kCases) {
             Scene scene;
             Document *document = &scene.document;
-            const QUuid id = testId(row.layer);
-            const std::unique_ptr<QUndoCommand> first(make(row.kind, document, id, 1, 7));
+            const std::unique_ptr<QUndoCommand> first(row.make({document, testId(row.layer), 1, 7}));
             for (const Case &other : kCases) {
-                const std::unique_ptr<QUndoCommand> second(make(other.kind, document, id, 2, 7));
-                QCOMPARE(first->mergeWith(second.get()), other.kind == row.kind && row.mergeId > 0);
+                const std::unique_ptr<QUndoCommand> second(other.make({document, testId(row.layer), 2, 7}));
+                QCOMPARE(first->mergeWith(second.get()), &other == &row && row.mergeId > 0);
             }
             if (row.mergeId < 0)
                 continue;
             const QString start = describe(*document);
-            QCOMPARE(scene.push(make(row.kind, document, id, 1, 7)), 1);
-            QCOMPARE(scene.push(make(row.kind, document, id, 2, 7)), 1);
-            scene.history.undo();
+            const std::tuple<int, quint64, uint, int> edits[] = {
+                {1, 7, 0, 1}, {0, 7, 0, 0}, {1, 7, 0, 1}, {2, 7, 0, 1},
+                {1, 8, 0, 2}, {2, 8, 1, 3}, {0, 0, 0, 4}, {1, 0, 0, 5}, // outside a gesture nothing merges
+            };
+            for (const auto &[value, key, next, count] : edits) {
+                QCOMPARE(scene.push(row.make({document, testId(row.layer + next), value, key})), count);
+                const QString state = describe(*document);
+                scene.history.undo();
+                scene.history.redo();
+                QCOMPARE(describe(*document), state);
+            }
+            while (scene.history.canUndo())
+                scene.history.undo();
             QCOMPARE(describe(*document), start);
-            scene.history.redo();
-            QCOMPARE(scene.push(make(row.kind, document, id, 0, 7)), 0);
-            QCOMPARE(describe(*document), start);
-            QVERIFY(scene.history.isClean());
-
-            QCOMPARE(scene.push(make(row.kind, document, id, 1, 7)), 1);
-            QCOMPARE(scene.push(make(row.kind, document, id, 2, 8)), 2);
-            QCOMPARE(scene.push(make(row.kind, document, testId(row.layer + 1), 2, 8)), 3);
-            QCOMPARE(scene.push(make(row.kind, document, id, 0, 0)), 4);
-            QCOMPARE(scene.push(make(row.kind, document, id, 1, 0)), 5); // outside a gesture nothing merges
         }
     }
 
@@ -213,9 +218,9 @@ private slots:
     {
         for (const Case &row : kCases) {
             const uint otherKind = row.layer == 5 ? 1 : row.layer + 2;
-            for (const auto &[layer, value] : {std::pair(row.layer, 0), {99u, 1}, {otherKind, 1}, {otherKind, 2}}) {
+            for (const auto &[layer, value] : {std::pair(row.layer, 0), {99u, 1}, {otherKind, 1}}) {
                 Scene scene;
-                std::unique_ptr<QUndoCommand> command(make(row.kind, &scene.document, testId(layer), value, 7));
+                const std::unique_ptr<QUndoCommand> command(row.make({&scene.document, testId(layer), value, 7}));
                 const QString start = describe(scene.document);
                 QVERIFY2(command->isObsolete(), row.text);
                 command->redo(); // as a child of a composite it runs all the same
@@ -227,7 +232,6 @@ private slots:
         Document *d = &scene.document;
         d->setImageLayerRasterSelection(testId(2), std::nullopt);
         d->setShapeGeometry(testId(4), GeneratorGeometry{u"no such shape"_s, {}});
-        const ObjectTransform still;
         EditablePath outside = pathOf(4);
         outside.contours.append(EditablePathContour());
         outside.fillRule = Qt::WindingFill;
@@ -235,60 +239,26 @@ private slots:
         TextLayerState split = textOf(0);
         split.textWidth = -3.0;
         split.blocks[0].runs.append(defaultTextRun());
-        const QImage otherFormat = kPictures[0].convertToFormat(QImage::Format_RGBA64);
+        const RasterImageSource otherFormat{kPictures[0].convertToFormat(QImage::Format_RGBA64)};
         const SvgImageSource hugeSvg{"<svg/>", {1e9, 1e9}};
         const Stroke noWidth{Qt::black, qQNaN()};
-        const auto fixed = RasterSurfacePolicy::Fixed;
-        using SetSelection = SetImageLayerRasterSelectionCommand;
+        using Paint = PaintImageLayerCommand;
         const std::pair<const char *, QUndoCommand *> cases[] = {
-            {"another format", new ResizeImageLayerCommand(d, testId(1), RasterImageSource{otherFormat}, still)},
-            {"no pixels", new PaintImageLayerCommand(d, testId(1), RasterImageSource{}, transformOf(1), fixed, {})},
-            {"beyond any raster", new PaintImageLayerCommand(d, testId(1), hugeSvg, transformOf(1), fixed, {})},
-            {"clamped to the same selection", new SetSelection(d, testId(1), outside, {})},
-            {"selection without nodes", new SetSelection(d, testId(2), EditablePath{{{}, {}}, {}}, {})},
+            {"another format", new ResizeImageLayerCommand(d, testId(1), otherFormat, {})},
+            {"no pixels", new Paint(d, testId(1), RasterImageSource{}, transformOf(1), {}, {})},
+            {"beyond any raster", new Paint(d, testId(1), hugeSvg, transformOf(1), {}, {})},
+            {"clamped to the same selection", new SelectCommand(d, testId(1), outside, {})},
+            {"selection without nodes", new SelectCommand(d, testId(2), EditablePath{{{}, {}}, {}}, {})},
             {"unknown generator", new ConvertShapeToPathCommand(d, testId(4))},
-            {"no width", new SetShapeStrokeCommand(d, testId(3), noWidth, geometryOf(0), still, {})},
+            {"no width", new SetShapeStrokeCommand(d, testId(3), noWidth, geometryOf(0), {}, {})},
             {"text that normalises to the same", new SetTextLayerStateCommand(d, testId(5), split, {})},
             {"whole picture without a selection", new CropImageLayerCommand(d, testId(2), {-1, -1, 9, 9}, 0)},
         };
-        for (const auto &[name, made] : cases) {
-            const std::unique_ptr<QUndoCommand> command(made);
-            QVERIFY2(command->isObsolete(), name);
-        }
-    }
-
-    void stepWhoseLayerIsGoneOrOfAnotherKindIsDropped()
-    {
-        for (const Case &row : kCases) {
-            for (const bool replaced : {false, true}) {
-                Scene scene;
-                scene.push(make(row.kind, &scene.document, testId(row.layer), 1, 7));
-                scene.document.takeObject(testId(row.layer));
-                if (replaced && row.layer == 1)
-                    scene.document.insertObject(
-                        std::make_unique<TextLayer>(textOf(1).blocks, 0.0, QString(), testId(1)));
-                else if (replaced)
-                    scene.document.insertObject(
-                        std::make_unique<ImageLayer>(kPictures[0], QString(), testId(row.layer)));
-                const QString state = describe(scene.document);
-                scene.history.undo();
-                QCOMPARE(scene.history.count(), 0);
-                QCOMPARE(describe(scene.document), state);
-            }
-        }
-    }
-
-    void largeSelectionsAreNotCompared()
-    {
-        for (const auto &[nodes, differs] : {std::pair(2048, false), {2049, true}, {3000, true}}) {
-            Scene scene;
-            scene.document.setImageLayerRasterSelection(testId(1), pathOf(nodes));
-            const auto select = [&](const std::optional<EditablePath> &path) {
-                return scene.push(new SetImageLayerRasterSelectionCommand(&scene.document, testId(1), path, {}, 7));
-            };
-            QCOMPARE(select(pathOf(nodes)), int(differs));
-            select(std::nullopt);
-            QCOMPARE(select(pathOf(nodes)), int(differs));
+        for (const auto &[name, made] : cases)
+            QVERIFY2(std::unique_ptr<QUndoCommand>(made)->isObsolete(), name);
+        for (const int nodes : {2048, 2049}) { // larger selections are not compared
+            d->setImageLayerRasterSelection(testId(2), pathOf(nodes));
+            QCOMPARE(SelectCommand(d, testId(2), pathOf(nodes), {}).isObsolete(), nodes == 2048);
         }
     }
 
@@ -314,28 +284,15 @@ private slots:
         QCOMPARE(layer->rasterSurfacePolicy(), RasterSurfacePolicy::Expanding);
     }
 
-    void costsFollowCapacities()
-    {
-        Scene scene;
-        EditablePath cut = pathOf(3);
-        cut.contours[0].nodes.reserve(50);
-        const SetShapeGeometryCommand bend(&scene.document, testId(3), cut, {});
-        QCOMPARE(bend.undoMemoryBytes(), kStar + kThreeNodes + 47 * 72);
-        const SetTextLayerStateCommand edit(&scene.document, testId(5), textOf(2), {});
-        QCOMPARE(edit.undoMemoryBytes(),
-                 memoryBytes(normalizedTextState(textOf(0))) + memoryBytes(normalizedTextState(textOf(2))));
-    }
-
-    void cropsThatLeaveNothingAreRefused()
+    void cropsAreRoundedAndThoseThatLeaveNothingRefused()
     {
         const double inf = qInf(), nan = qQNaN();
         const std::pair<QRectF, double> cases[] = {
-            {{100, 0, 10, 10}, 0},       {{-20, -20, 20.5, 50}, 0}, {{5, 5, 0.9, 40}, 0},   {{nan, 0, 10, 10}, 0},
+            {{100, 0, 10, 10}, 0},       {{-20, -20, 20.5, 50}, 0}, {{5, 5, 40, 0.9}, 0},   {{nan, 0, 10, 10}, 0},
             {{-inf, -inf, inf, inf}, 0}, {{0, 0, 10, 10}, nan},     {{0, 0, 10, 10}, -inf}, {{}, 0},
         };
         for (const auto &[rectangle, rotation] : cases)
             QVERIFY(!imageCrop({100, 100}, rectangle, rotation));
-        QVERIFY(!imageCrop({}, {0, 0, 10, 10}, 0));
         QVERIFY(!imageCrop({20'000, 20'000}, {0, 0, 20'000, 20'000}, 0));
         QCOMPARE(imageCrop({100, 100}, {30, 40, -20.5, -1.49}, 0)->size, QSize(21, 1));
         QCOMPARE(imageCrop({100, 100}, {-1e300, -1e300, 2e300, 2e300}, 1e9)->size, QSize(100, 100));
@@ -356,29 +313,21 @@ private slots:
             {{70, 60, -40, -1.5}, 90, {40, 2}}, // a half rounds away from zero
         };
         for (const auto &[rectangle, rotation, size] : crops) {
-            for (const ObjectTransform &transform : {ObjectTransform(), transformOf(2), skewed}) {
-                Document document;
-                document.insertObject(std::make_unique<ImageLayer>(gradientPicture(100, 100), QString(), testId(1)));
-                document.setObjectTransform(testId(1), transform);
-                CropImageLayerCommand(&document, testId(1), rectangle, rotation).redo();
-                const ImageLayer *layer = document.imageLayer(testId(1));
-                QCOMPARE(layer->pixelSize(), size);
-                QCOMPARE(layer->transform().anchor(), transform.anchor());
-                const QRectF cut = rectangle.normalized() & QRectF(0, 0, 100, 100);
-                QTransform turn;
-                turn.translate(cut.center().x(), cut.center().y());
-                turn.rotate(rotation);
-                turn.translate(-cut.center().x(), -cut.center().y());
-                for (const QPointF &part : {QPointF(0, 0), {1, 0}, {1, 1}, {0.25, 0.5}}) {
-                    const auto inBox = [&](const QSizeF &box) {
-                        return QPointF(part.x() * box.width(), part.y() * box.height());
-                    };
-                    const QPointF before =
-                        transform.matrix({0, 0, 100, 100}).map(turn.map(cut.topLeft() + inBox(cut.size())));
-                    const QPointF after = layer->transform().matrix(QRectF(QPointF(), size)).map(inBox(size));
-                    QVERIFY(std::hypot(after.x() - before.x(), after.y() - before.y()) < 1e-9);
-                }
-            }
+            Document document;
+            document.insertObject(std::make_unique<ImageLayer>(gradientPicture(100, 100), QString(), testId(1)));
+            document.setObjectTransform(testId(1), skewed);
+            CropImageLayerCommand(&document, testId(1), rectangle, rotation).redo();
+            const ImageLayer *layer = document.imageLayer(testId(1));
+            QCOMPARE(layer->pixelSize(), size);
+            QCOMPARE(layer->transform().anchor(), skewed.anchor());
+            const QRectF box({}, size);
+            const QRectF cut = rectangle.normalized() & QRectF(0, 0, 100, 100);
+            QTransform turn = QTransform::fromTranslate(cut.center().x(), cut.center().y());
+            turn.rotate(rotation).translate(-cut.center().x(), -cut.center().y());
+            const QPolygonF before = (turn * skewed.matrix({0, 0, 100, 100})).map(QPolygonF(cut));
+            const QPolygonF after = layer->transform().matrix(box).map(QPolygonF(box));
+            for (int corner = 0; corner < 4; ++corner)
+                QVERIFY(QLineF(before[corner], after[corner]).length() < 1e-9);
         }
     }
 
@@ -404,9 +353,8 @@ private slots:
         const QImage turned = croppedImage(picture, *imageCrop(picture.size(), {10, 5, 20, 20}, 90));
         QImage expected = picture.copy(10, 5, 20, 20).transformed(QTransform().rotate(-90));
         QVERIFY(maximumDifference(turned, expected) <= 1); // one rounding
-        const QImage corners = croppedImage(picture, *imageCrop(picture.size(), {0, 0, 40, 30}, 45));
-        QCOMPARE(corners.pixelColor(0, 0).alpha(), 0); // outside the picture
-        QVERIFY(maximumDifference(corners.copy(20, 15, 1, 1), picture.copy(20, 15, 1, 1)) <= 8);
+        const QImage corner = croppedImage(picture, *imageCrop(picture.size(), {0, 0, 40, 30}, 45)).copy(0, 0, 1, 1);
+        QCOMPARE(corner.pixelColor(0, 0).alpha(), 0); // outside the picture
     }
 };
 
