@@ -129,13 +129,11 @@ private slots:
         const std::pair<int, QList<int>> cleanBeforeAndAfter[] = {{1, {1}}, {2, {}}, {3, {2}}};
         for (const auto &[before, after] : cleanBeforeAndAfter) {
             init();
-            QList<NumberCommand *> commands;
             for (int i = 1; i <= 3; ++i) {
-                commands.append(push(i));
+                push(i)->fails = i == 2; // from now on
                 if (i == before)
                     m_history->setClean();
             }
-            commands[1]->fails = true;
             m_history->undo();
             m_history->undo();
             QCOMPARE(m_history->count(), 2);
@@ -162,13 +160,6 @@ private slots:
         takeLog();
         push(10, 1);
         QCOMPARE(takeLog(), u"canRedo false, undoText to 10, redoText , clean true, index 1"_s);
-        push(2, 1);
-        m_history->setClean();
-        push(3, 1);
-        QVERIFY(!m_history->isClean());
-        push(10, 1); // returns to the state before the drag, which is not the saved one
-        push(4);
-        QCOMPARE(cleanIndexes(), QList<int>());
     }
 
     void memoryCountsTextsChildrenAndPayload()
@@ -218,11 +209,10 @@ private slots:
 private:
     NumberCommand *push(int after, int mergeId = -1, qint64 bytes = 0)
     {
-        auto command = std::make_unique<NumberCommand>(m_number, after, mergeId);
+        auto *command = new NumberCommand(m_number, after, mergeId);
         command->bytes = bytes;
-        NumberCommand *raw = command.get();
-        m_history->push(std::move(command));
-        return raw;
+        m_history->push(std::unique_ptr<QUndoCommand>(command));
+        return command;
     }
 
     QString takeLog() { return std::exchange(m_log, {}).join(u", "); }
