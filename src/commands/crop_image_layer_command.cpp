@@ -29,7 +29,7 @@ CropImageLayerCommand::Step CropImageLayerCommand::stepFor(const ImageLayer *lay
         return {};
     const ObjectTransform &transform = layer->transform();
     ObjectTransform placed = transform;
-    if (!crop->toImage.isIdentity()) { // else its numbers would come back in another form
+    if (!crop->keepsAll(image.size())) { // else its numbers would come back in another form
         const QTransform matrix = crop->toImage * transform.matrix(QRectF(image.rect()));
         placed = ObjectTransform::fromMatrix(matrix, QRectF(QPointF(), crop->size), transform.anchor());
     }

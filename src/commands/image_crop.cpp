@@ -32,7 +32,7 @@ std::optional<ImageCrop> imageCrop(const QSize &imageSize, const QRectF &rectang
 
 QImage croppedImage(const QImage &image, const ImageCrop &crop)
 {
-    if (crop.size == image.size() && crop.toImage.isIdentity())
+    if (crop.keepsAll(image.size()))
         return image;
     QImage cropped(crop.size, QImage::Format_RGBA8888);
     if (cropped.isNull())

@@ -14,6 +14,9 @@ struct ImageCrop
     QSize size;
     QTransform toImage;
     QTransform fromImage;
+
+    /// Every pixel of a picture of this size stays where it is.
+    bool keepsAll(const QSize &imageSize) const { return size == imageSize && toImage.isIdentity(); }
 };
 
 /// The crop of a picture to the part of the rectangle that lies in it, turned about that part's centre by an angle in

@@ -308,6 +308,7 @@ private slots:
         skewed.setRotation(200);
         const std::tuple<QRectF, double, QSize> crops[] = {
             {{10.5, 10.5, 20.2, 20.2}, 0, {20, 20}},
+            {{0, 0, 20, 20}, 0, {20, 20}}, // no pixel moves in the picture, but the anchor does
             {{10, 20, 30, 40}, 30, {30, 40}},
             {{90, -5, 50, 7.5}, -200, {10, 3}},
             {{70, 60, -40, -1.5}, 90, {40, 2}}, // a half rounds away from zero
