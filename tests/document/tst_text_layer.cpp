@@ -352,12 +352,11 @@ private slots:
         texts.append(state(QList<TextRun>(3, run(u"text"_s, 20, many))));
         for (const TextLayerState &text : texts) {
             const RenderedContent content = TextLayer(text.blocks, text.textWidth, u"text"_s).renderContent(nullptr);
-            const QSizeF size = content.size;
+            const auto [width, height] = std::pair(content.size.width(), content.size.height());
             const bool unbroken = text.textWidth == 0.0 && text.blocks[0].runs[0].text.size() > 1000;
-            QVERIFY2(size.width() >= (unbroken ? 100'000.0 : 1.0) && size.height() >= 1.0 && std::isfinite(size.width())
-                         && std::isfinite(size.height()),
-                     qPrintable(u"text %1: %2 x %3"_s.arg(&text - texts.data()).arg(size.width()).arg(size.height())));
-            const QSize pixels = coveringPixels(size);
+            QVERIFY2(width >= (unbroken ? 100'000.0 : 1.0) && height >= 1.0 && qIsFinite(width) && qIsFinite(height),
+                     qPrintable(u"text %1: %2 x %3"_s.arg(&text - texts.data()).arg(width).arg(height)));
+            const QSize pixels = coveringPixels(content.size);
             QCOMPARE(content.image.size(), isAllocatableRasterSize(pixels) ? pixels : QImage().size());
         }
     }
