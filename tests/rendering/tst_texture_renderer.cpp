@@ -223,9 +223,9 @@ private slots:
         }
         const RenderingWarnings warnings;
         const QImage tooWide = plainPicture(m_renderer->maximumTextureSize() + 1, 1, Qt::white);
-        for (const auto &[size, picture] :
+        for (const auto &[size, input] :
              {std::pair(QSize(2, 2), QImage()), {QSize(0, 2), kWhite}, {QSize(2, 2), tooWide}})
-            QVERIFY(m_renderer->renderFilterShader(u"scale"_s, size, {picture}, kIdentity, {}).isNull());
+            QVERIFY(m_renderer->renderFilterShader(u"scale"_s, size, {input}, kIdentity, {}).isNull());
         for (const QImage &impossible : {tooWide, QImage()})
             QVERIFY(m_renderer->gaussianBlur(impossible, 3.0).isNull());
         QVERIFY(m_renderer->boxBlur({}, 5.0).isNull());
