@@ -55,57 +55,15 @@ QString letters(const QImage &image)
     return rows.join(u'|');
 }
 
-// The blend functions of the W3C recommendation "Compositing and Blending Level 1" for opaque colours: b is the
-// backdrop, s the source, both 0..1.
-using BlendFunction = double (*)(double b, double s);
-double normal(double, double s)
-{
-    return s;
-}
-double multiply(double b, double s)
-{
-    return b * s;
-}
-double screen(double b, double s)
-{
-    return b + s - b * s;
-}
 double hardLight(double b, double s)
 {
-    return s <= 0.5 ? multiply(b, 2.0 * s) : screen(b, 2.0 * s - 1.0);
+    return s <= 0.5 ? 2.0 * b * s : 1.0 - 2.0 * (1.0 - b) * (1.0 - s);
 }
-double overlay(double b, double s)
-{
-    return hardLight(s, b);
-}
-double darken(double b, double s)
-{
-    return std::min(b, s);
-}
-double lighten(double b, double s)
-{
-    return std::max(b, s);
-}
-double colorDodge(double b, double s)
-{
-    return b == 0.0 ? 0.0 : s == 1.0 ? 1.0 : std::min(1.0, b / (1.0 - s));
-}
-double colorBurn(double b, double s)
-{
-    return b == 1.0 ? 1.0 : s == 0.0 ? 0.0 : 1.0 - std::min(1.0, (1.0 - b) / s);
-}
+
 double softLight(double b, double s)
 {
     const double d = b <= 0.25 ? ((16.0 * b - 12.0) * b + 4.0) * b : std::sqrt(b);
     return s <= 0.5 ? b - (1.0 - 2.0 * s) * b * (1.0 - b) : b + (2.0 * s - 1.0) * (d - b);
-}
-double difference(double b, double s)
-{
-    return std::abs(b - s);
-}
-double exclusion(double b, double s)
-{
-    return b + s - 2.0 * b * s;
 }
 
 } // namespace
@@ -115,25 +73,26 @@ class TestSceneRendering : public QObject
     Q_OBJECT
 
 private slots:
-    void blendsAsPublished()
+    void blendsAsPublishedAndMixesByOpacity()
     {
-        const QList<std::pair<QString, BlendFunction>> modes{{u"source-over"_s, normal},
-                                                             {u"multiply"_s, multiply},
-                                                             {u"screen"_s, screen},
-                                                             {u"overlay"_s, overlay},
-                                                             {u"darken"_s, darken},
-                                                             {u"lighten"_s, lighten},
-                                                             {u"color-dodge"_s, colorDodge},
-                                                             {u"color-burn"_s, colorBurn},
-                                                             {u"hard-light"_s, hardLight},
-                                                             {u"soft-light"_s, softLight},
-                                                             {u"difference"_s, difference},
-                                                             {u"exclusion"_s, exclusion},
-                                                             {u"hue"_s, normal},
-                                                             {u"saturation"_s, normal},
-                                                             {u"color"_s, normal},
-                                                             {u"luminosity"_s, normal},
-                                                             {u"no such mode"_s, normal}};
+        // The blend functions of the W3C recommendation "Compositing and Blending Level 1" for opaque colours: b is the
+        // backdrop, s the source, both 0..1.
+        using BlendFunction = double (*)(double b, double s);
+        QList<std::pair<QString, BlendFunction>> modes{
+            {u"multiply"_s, [](double b, double s) { return b * s; }},
+            {u"screen"_s, [](double b, double s) { return b + s - b * s; }},
+            {u"overlay"_s, [](double b, double s) { return hardLight(s, b); }},
+            {u"darken"_s, [](double b, double s) { return std::min(b, s); }},
+            {u"lighten"_s, [](double b, double s) { return std::max(b, s); }},
+            {u"color-dodge"_s, [](double b, double s) { return std::min(1.0, b / (1.0 - s)); }},
+            {u"color-burn"_s, [](double b, double s) { return 1.0 - std::min(1.0, (1.0 - b) / s); }},
+            {u"hard-light"_s, hardLight},
+            {u"soft-light"_s, softLight},
+            {u"difference"_s, [](double b, double s) { return std::abs(b - s); }},
+            {u"exclusion"_s, [](double b, double s) { return b + s - 2.0 * b * s; }},
+        };
+        for (const auto *key : {"source-over", "hue", "saturation", "color", "luminosity", "no such mode"})
+            modes.append({QString::fromLatin1(key), [](double, double s) { return s; }});
         // The channels fall on both sides of every condition of the formulas.
         const std::array source{80, 180, 240};
         const std::array backdrop{kBackground.red(), kBackground.green(), kBackground.blue()};
@@ -149,37 +108,25 @@ private slots:
                 QVERIFY2(std::abs(channels[i] - expected) <= 1.0, qPrintable(key));
             }
         }
-    }
-
-    void mixesByOpacity()
-    {
-        const QImage black = plainPicture(1, 1, Qt::black);
-        SceneSnapshot scene{{1.0, 1.0}, Qt::white, {item(black, at(-0.5, -0.5), u"multiply"_s, 0.25)}};
-        QVERIFY(std::abs(renderDocumentImage(scene, 1.0).pixelColor(0, 0).red() - 191) <= 1);
-    }
-
-    void placesPictures_data()
-    {
-        QTest::addColumn<ObjectTransform>("transform");
-        QTest::addColumn<QPointF>("origin");
-        QTest::addColumn<QString>("expected");
-        const QPointF none;
-        QTest::newRow("shifted") << at(0, -1) << none << u"....|..rg|..bk|...."_s;
-        QTest::newRow("mirrored") << at(-2, -2, 0, {-1, 1}) << none << u"gr..|kb..|....|...."_s;
-        QTest::newRow("turned right") << at(-2, -2, 90) << none << u"br..|kg..|....|...."_s;
-        QTest::newRow("turned about its corner") << at(0, 0, 180, {1, 1}, {0, 0}) << none << u"kb..|gr..|....|...."_s;
-        QTest::newRow("enlarged from a corner") << at(0, 0, 0, {2, 2}, {1, 1}) << none << u"rrgg|rrgg|bbkk|bbkk"_s;
-        QTest::newRow("grown picture turns about the layer's own middle")
-            << at(-2, -2, 180) << QPointF(-1, -1) << u"....|.kb.|.gr.|...."_s;
+        const SceneRenderItem quarter = item(plainPicture(1, 1, Qt::black), at(-0.5, -0.5), u"multiply"_s, 0.25);
+        const int red = renderDocumentImage({{1.0, 1.0}, Qt::white, {quarter}}, 1.0).pixelColor(0, 0).red();
+        QVERIFY(std::abs(red - 191) <= 1);
     }
 
     void placesPictures()
     {
-        QFETCH(ObjectTransform, transform);
-        QFETCH(QPointF, origin);
-        SceneSnapshot scene{{4.0, 4.0}, Qt::white, {item(fourColors(), transform)}};
-        scene.items[0].imageOrigin = origin;
-        QTEST(letters(renderSceneTile(scene, {}, true, 1.0, false, false)), "expected");
+        const QImage image = fourColors();
+        SceneRenderItem grown = item(image, at(-2, -2, 180)); // turns about the layer's own middle
+        grown.imageOrigin = {-1, -1};
+        const std::pair<SceneRenderItem, QString> cases[] = {
+            {item(image, at(-2, -2, 0, {-1, 1})), u"gr..|kb..|....|...."_s},
+            {item(image, at(-2, -2, 90)), u"br..|kg..|....|...."_s},
+            {item(image, at(0, 0, 180, {1, 1}, {0, 0})), u"kb..|gr..|....|...."_s},
+            {item(image, at(0, 0, 0, {2, 2}, {1, 1})), u"rrgg|rrgg|bbkk|bbkk"_s},
+            {grown, u"....|.kb.|.gr.|...."_s},
+        };
+        for (const auto &[placed, drawn] : cases)
+            QCOMPARE(letters(renderSceneTile({{4.0, 4.0}, Qt::white, {placed}}, {}, true, 1.0, false, false)), drawn);
     }
 
     void clipsToTheDocumentOrFillsTheView()
@@ -217,40 +164,27 @@ private slots:
         QCOMPARE(contentBounds(scene), QRectF(-5.0, 0.0, 8.0, 10.0));
     }
 
-    void cutsTiles_data()
-    {
-        QTest::addColumn<QRectF>("rect");
-        QTest::addColumn<double>("scale");
-        QTest::addColumn<int>("maxTile");
-        QTest::addColumn<QList<QSize>>("sizes");
-        QTest::addColumn<QRectF>("covered");
-        using Sizes = QList<QSize>;
-        QTest::newRow("rows and columns, given from right to left")
-            << QRectF(5, 2, -10, -7) << 1.0 << 4 << Sizes{{4, 4}, {4, 4}, {2, 4}, {4, 3}, {4, 3}, {2, 3}}
-            << QRectF(-5, -5, 10, 7);
-        QTest::newRow("grows to whole pixels at half size")
-            << QRectF(-2.5, 1.1, 4, 3) << 0.5 << 8 << Sizes{{3, 3}} << QRectF(-4, 0, 6, 6);
-        QTest::newRow("a third, several tiles")
-            << QRectF(0, 0, 30, 3) << 1.0 / 3.0 << 4 << Sizes{{4, 1}, {4, 1}, {2, 1}} << QRectF(0, 0, 30, 3);
-        QTest::newRow("no rectangle, no scale, no tile size")
-            << QRectF() << 0.0 << 0 << Sizes{{1, 1}, {1, 1}, {1, 1}, {1, 1}} << QRectF(-100, -100, 200, 200);
-    }
-
     void cutsTiles()
     {
-        QFETCH(QRectF, rect);
-        QFETCH(double, scale);
-        QFETCH(int, maxTile);
-        QList<QSize> sizes;
-        QRectF united;
+        using Case = std::tuple<QRectF, double, int, QList<QSize>, QRectF>;
         const SceneSnapshot scene{{150.0, 150.0}, Qt::white, {}};
-        for (const SceneTile &tile : renderSceneTiles(scene, rect, false, scale, maxTile, false)) {
-            sizes += tile.image.size();
-            united |= tile.sceneRect;
-            QCOMPARE(QSizeF(tile.image.size()) / tile.scale, tile.sceneRect.size());
+        for (const auto &[rect, scale, maxTile, expectedSizes, covered] : {
+                 // Rows and columns, given from right to left.
+                 Case{{5, 2, -10, -7}, 1.0, 4, {{4, 4}, {4, 4}, {2, 4}, {4, 3}, {4, 3}, {2, 3}}, {-5, -5, 10, 7}},
+                 Case{{-2.5, 1.1, 4, 3}, 0.5, 8, {{3, 3}}, {-4, 0, 6, 6}}, // grown to whole pixels
+                 Case{{0, 0, 30, 3}, 1.0 / 3.0, 4, {{4, 1}, {4, 1}, {2, 1}}, {0, 0, 30, 3}},
+                 Case{{}, 0.0, 0, {{1, 1}, {1, 1}, {1, 1}, {1, 1}}, {-100, -100, 200, 200}}, // nothing given
+             }) {
+            QList<QSize> sizes;
+            QRectF united;
+            for (const SceneTile &tile : renderSceneTiles(scene, rect, false, scale, maxTile, false)) {
+                sizes += tile.image.size();
+                united |= tile.sceneRect;
+                QCOMPARE(QSizeF(tile.image.size()) / tile.scale, tile.sceneRect.size());
+            }
+            QCOMPARE(sizes, expectedSizes);
+            QCOMPARE(united, covered);
         }
-        QTEST(sizes, "sizes");
-        QTEST(united, "covered");
     }
 
     void tilesJoinWithoutSeam()
