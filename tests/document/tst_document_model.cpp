@@ -25,14 +25,6 @@ void fill(Document &document, uint count)
         document.insertObject(makeLayer(n));
 }
 
-EditablePath path(const QList<QPointF> &anchors)
-{
-    EditablePathContour contour{QList<EditablePathNode>(anchors.size()), true};
-    for (qsizetype i = 0; i < anchors.size(); ++i)
-        contour.nodes[i].anchor = anchors[i];
-    return {{contour}, Qt::WindingFill};
-}
-
 } // namespace
 
 class TestDocumentModel : public QObject
@@ -142,7 +134,7 @@ private slots:
         ObjectTransform moved;
         moved.setPosition({3, 4});
         const FilterInstance filter{testId(50), u"sepia"_s, {}, true, false};
-        const EditablePath area = path({{1, 1}});
+        const EditablePath area{{EditablePathContour{QList<EditablePathNode>(1), true}}, Qt::WindingFill};
         const std::pair<QString, std::function<bool(QUuid)>> setters[] = {
             {u"objectNameChanged #1"_s, [&](QUuid to) { return document.setObjectName(to, u"x"_s); }},
             {u"objectVisibilityChanged #1"_s, [&](QUuid to) { return document.setObjectVisible(to, false); }},
@@ -228,8 +220,7 @@ private slots:
 
     void matrixMapsPointsAsByHand()
     {
-        const auto map = [](const QPointF &scale, const QPointF &shear, const QPointF &anchor, double rotation,
-                            const QPointF &point) {
+        const auto map = [](QPointF scale, QPointF shear, QPointF anchor, double rotation, QPointF point) {
             ObjectTransform transform;
             transform.setPosition({10, 20});
             transform.setScale(scale);
@@ -239,11 +230,10 @@ private slots:
             // In hundredths, to be free of rounding.
             return (transform.matrix(QRectF(0, 0, 10, 20)).map(point) * 100).toPoint();
         };
-        const QPointF centre(0.5, 0.5); // at (5, 10)
-        // (0, 0) - (5, 10) = (-5, -10), scaled (-10, -30), + (5, 10), placed (5, 0).
-        QCOMPARE(map({2, 3}, {}, centre, 0, {0, 0}), QPoint(500, 0));
+        // The centre is at (5, 10). (0, 0) - (5, 10) = (-5, -10), scaled (-10, -30), + (5, 10), placed (5, 0).
+        QCOMPARE(map({2, 3}, {}, {0.5, 0.5}, 0, {0, 0}), QPoint(500, 0));
         // Clockwise on a y-down canvas: (5, 0) turns to (0, 5).
-        QCOMPARE(map({1, 1}, {}, centre, 90, {10, 10}), QPoint(1500, 3500));
+        QCOMPARE(map({1, 1}, {}, {0.5, 0.5}, 90, {10, 10}), QPoint(1500, 3500));
         // tan 45 = 1: y grows by x.
         QCOMPARE(map({1, 1}, {0, 45}, {}, 0, {1, 2}), QPoint(1100, 2300));
         // (1, 2) scaled (2, 2), sheared (4, 2), turned (-2, 4), placed (8, 24).
@@ -335,12 +325,13 @@ private slots:
         ImageLayer layer(plainPicture(10, 20, Qt::red), u"abc"_s);
         const qint64 bytes = 3 * 2 + 512 + 10 * 20 * 4;
         QCOMPARE(layer.memoryBytes(), bytes);
-        EditablePath outside = path({{-5, 5}, {12, 25}, {3, 4}});
-        EditablePathNode &node = outside.contours[0].nodes[2];
-        node.hasInControl = true;
-        node.inControl = {99, 4};
-        node.outControl = {99, 4}; // not in use, so it stays
-        outside.contours.append(EditablePathContour{{}, true});
+        QList<EditablePathNode> given(3);
+        given[0].anchor = {-5, 5};
+        given[1].anchor = {12, 25};
+        given[2].hasInControl = true;
+        given[2].inControl = {99, 4};
+        given[2].outControl = {99, 4}; // not in use, so it stays
+        const EditablePath outside{{EditablePathContour{given, true}, EditablePathContour{{}, true}}, Qt::WindingFill};
         QVERIFY(layer.setRasterSelection(outside));
         QCOMPARE(layer.contentRevision(), 0u);
         const EditablePath &stored = *layer.rasterSelection();
