@@ -120,6 +120,20 @@ private slots:
         }
     }
 
+    void showsVectorLayersAnew()
+    {
+        Stage stage;
+        const GeneratorGeometry star{u"star5"_s, {}};
+        const QUuid shape = stage.add<ShapeLayer>(star, QSizeF(4, 4), Stroke(), Fill(), u"shape"_s)->id();
+        const QUuid text = stage.add<TextLayer>(QList<TextParagraph>(), 0.0, u"text"_s)->id();
+        const quint64 before = stage.model.revision();
+        stage.document.setShapeFill(shape, QColor(Qt::red));
+        stage.document.setShapeStroke(shape, Qt::blue, 1.0);
+        stage.document.setShapeGeometry(shape, GeneratorGeometry{u"burst"_s, {}});
+        stage.document.setTextLayerState(text, textStateFromPlainText(u"new"_s, defaultTextRun()));
+        QCOMPARE(stage.model.revision() - before, 4);
+    }
+
     void showsVisibleLayersBottomFirst()
     {
         Stage stage;
@@ -215,5 +229,5 @@ private slots:
     }
 };
 
-QTEST_GUILESS_MAIN(TestScenePresentationModel)
+QTEST_MAIN(TestScenePresentationModel)
 #include "tst_scene_presentation_model.moc"

@@ -330,6 +330,7 @@ private slots:
         QList<TextLayerState> texts{
             state({underlined(run(odd))}), state({underlined(run(u"Hg"_s, std::numeric_limits<int>::max()))}),
             state({run(QString(4'000, u'W'), 10'000)}), // longer than layouts can count
+            state({run(QString(300'000, u'i'), 10)}), // could be, and is not
         };
         for (const double width : {0.0, 1.0, 1200.0})
             texts.append(state({run(QString(200'000, u'a'))}, width));
