@@ -26,6 +26,7 @@ public:
     ~FilterPassDrawer();
     Q_DISABLE_COPY_MOVE(FilterPassDrawer)
 
+    const FilterShaderCatalog &catalog() const { return m_catalog; }
     QOpenGLExtraFunctions *functions() const { return m_context.functions(); }
 
     // From here on the context is current.

@@ -1,5 +1,7 @@
 #pragma once
 
+#include "rendering/pass_chain.h"
+
 #include <QByteArray>
 #include <QImage>
 #include <QList>
@@ -48,6 +50,9 @@ public:
     virtual QImage renderMaskedBlurFilterShader(const QString &shaderId, const QImage &source, double sourceSigma,
                                                 const QImage &mask, double maskSigma, const QByteArray &uniformBytes,
                                                 const FilterTextureFormats &formats) = 0;
+
+    /// Carries out what `result` needs of a chain, with one upload for each source and one readback.
+    virtual QImage renderChain(const PassChain &chain, PassChain::Picture result) = 0;
 };
 
 } // namespace zm

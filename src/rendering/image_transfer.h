@@ -1,5 +1,7 @@
 #pragma once
 
+#include "rendering/texture_edge.h"
+
 #include <QImage>
 #include <QOpenGLFramebufferObject>
 #include <QSize>
@@ -14,12 +16,6 @@ namespace zm {
 
 // How pictures cross the border to the GPU and back. All of it needs a current context. Pixels are RGBA8888 with
 // straight alpha throughout; the first row of a picture is the first row of its texture.
-
-/// What a shader reads beside the picture.
-enum class TextureEdge {
-    Clamp = 0,            ///< the nearest pixel of the picture
-    TransparentBorder = 1 ///< nothing
-};
 
 /// A texture name that deletes itself, with its context current.
 class OwnedTexture

@@ -9,14 +9,6 @@ namespace zm {
 
 namespace {
 
-constexpr int kMaximumKernelRadius = 30; // the loop bound of the shader
-constexpr double kSigmasInKernel = 3.0;
-
-int scaledSide(int side, double scale)
-{
-    return std::max(int(std::lround(side * scale)), 1);
-}
-
 /// One step towards a smaller size: half of each side, rounded up.
 QSize reduced(const QSize &current, const QSize &goal)
 {
@@ -42,17 +34,6 @@ std::unique_ptr<QOpenGLFramebufferObject> drawn(FilterPassDrawer &passes, const 
 }
 
 } // namespace
-
-BlurPlan BlurPlan::make(const QSize &size, double sigma, double maxWorkingSigma)
-{
-    const double limit = std::max(maxWorkingSigma, kSmallestBlur);
-    const double scale = limit >= sigma ? 1.0 : std::min(1.0, limit / sigma);
-    BlurPlan plan;
-    plan.workingSize = {scaledSide(size.width(), scale), scaledSide(size.height(), scale)};
-    plan.workingSigma = std::min(limit, sigma * scale);
-    plan.kernelRadius = std::min(int(std::ceil(plan.workingSigma * kSigmasInKernel)), kMaximumKernelRadius);
-    return plan;
-}
 
 std::unique_ptr<QOpenGLFramebufferObject> blurTexture(FilterPassDrawer &passes, GLuint texture, const QSize &size,
                                                       double sigma, double maxWorkingSigma, TextureEdge edge,

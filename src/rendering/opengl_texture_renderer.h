@@ -27,14 +27,9 @@ public:
     QImage renderMaskedBlurFilterShader(const QString &shaderId, const QImage &source, double sourceSigma,
                                         const QImage &mask, double maskSigma, const QByteArray &uniformBytes,
                                         const FilterTextureFormats &formats) override;
+    QImage renderChain(const PassChain &chain, PassChain::Picture result) override;
 
 private:
-    bool hasBlurPrograms(const QSize &size, double sigma, double maxWorkingSigma);
-    QImage runFilterPass(const QString &shaderId, const QSize &outputSize, const QList<QImage> &images,
-                         const QByteArray &uniformBytes);
-    QImage runMaskedBlur(const QString &shaderId, const QImage &source, double sourceSigma, const QImage &mask,
-                         double maskSigma, const QByteArray &uniformBytes);
-
     const FilterShaderCatalog &m_catalog;
     OffscreenContext m_context;
     FilterPassDrawer m_passes; // after the context, on which its programs live
