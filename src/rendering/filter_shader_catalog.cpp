@@ -1,5 +1,7 @@
 #include "rendering/filter_shader_catalog.h"
 
+#include "rendering/library_shader_rows.h"
+
 #include <QCoreApplication>
 
 #include <algorithm>
@@ -36,6 +38,30 @@ QList<FilterShaderDescriptor> utilities()
     };
 }
 
+FilterShaderDescriptor libraryShader(const LibraryShaderRow &row)
+{
+    FilterShaderDescriptor descriptor{
+        .id = u"fx/%1"_s.arg(row.id),
+        .label = row.id,
+        .fragmentResource = u":/zelmoraatelier/shaders/library/%1.frag.qsb"_s.arg(row.id),
+    };
+    for (const QLatin1StringView sampler : row.samplers)
+        descriptor.samplers.append(QByteArray(sampler.data(), sampler.size()));
+    for (qsizetype i = 0; i < row.fields.size(); ++i)
+        descriptor.uniforms.append(u"u_param%1"_s.arg(i).toLatin1());
+    if (!descriptor.uniforms.isEmpty())
+        descriptor.uniformBlockNames.append("LibraryUniforms"_ba);
+    return descriptor;
+}
+
+QList<FilterShaderDescriptor> utilitiesAndLibrary()
+{
+    QList<FilterShaderDescriptor> descriptors = utilities();
+    for (const LibraryShaderRow &row : libraryShaderRows())
+        descriptors.append(libraryShader(row));
+    return descriptors;
+}
+
 } // namespace
 
 FilterShaderCatalog::FilterShaderCatalog(const QList<FilterShaderDescriptor> &descriptors)
@@ -45,7 +71,7 @@ FilterShaderCatalog::FilterShaderCatalog(const QList<FilterShaderDescriptor> &de
 
 const FilterShaderCatalog &FilterShaderCatalog::instance()
 {
-    static const FilterShaderCatalog catalog(utilities());
+    static const FilterShaderCatalog catalog(utilitiesAndLibrary());
     return catalog;
 }
 
