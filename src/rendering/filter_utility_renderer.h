@@ -33,12 +33,30 @@ public:
     /// The longest side of a texture in pixels; 0 when no OpenGL context could be had.
     virtual int maximumTextureSize() = 0;
 
+    // PassChain and utility_settings.h tell what the arguments of the following mean.
+
+    virtual QImage colorize(const QImage &image, const QColor &color, double opacity) = 0;
+    virtual QImage colorAdjust(const QImage &image, const ColorAdjustment &adjustment) = 0;
+    virtual QImage addNoise(const QImage &image, const NoiseSettings &noise) = 0;
+    virtual QImage grayscale(const QImage &image, const GrayscaleLevels &levels) = 0;
+    virtual QImage toneMap(const QImage &image, const ToneMapColors &colors, double amount) = 0;
+    virtual QImage highlightsToAlpha(const QImage &image, const HighlightsToAlphaSettings &settings) = 0;
+    virtual QImage fadeOut(const QImage &image, const FadeOutSettings &settings) = 0;
+    virtual QImage waterReflection(const QImage &image, const WaterReflectionSettings &settings) = 0;
+
     /// The mean over a square of 2 * floor(radius) + 1 pixels; the radius is at most 16. Under 0.5, or not finite, the
     /// picture comes back unchanged.
     virtual QImage boxBlur(const QImage &image, double radius) = 0;
 
     /// A Gaussian blur with sigma in pixels. Under 0.5, or not finite, the picture comes back unchanged.
     virtual QImage gaussianBlur(const QImage &image, double sigma) = 0;
+
+    virtual QImage pixelate(const QImage &image, double blockSize) = 0;
+    virtual QImage sobel(const QImage &image, const EdgeDetection &edges) = 0;
+    virtual QImage innerShadow(const QImage &image, const QRectF &region, double reach, double strength,
+                               const QColor &tint) = 0;
+    virtual QImage softBevel(const QImage &image, const QRectF &region, double width, double strength) = 0;
+    virtual QImage raise(const QImage &image, const QRectF &region, double bevelSize) = 0;
 
     /// One pass of the library shader with the bare id. The number of images is that of the shader's samplers.
     virtual QImage renderFilterShader(const QString &shaderId, const QSize &outputSize, const QList<QImage> &images,

@@ -33,16 +33,80 @@ int OpenGLTextureRenderer::maximumTextureSize()
     return m_context.maximumTextureSize();
 }
 
+QImage OpenGLTextureRenderer::colorize(const QImage &image, const QColor &color, double opacity)
+{
+    return single(&PassChain::colorize, image, color, opacity);
+}
+
+QImage OpenGLTextureRenderer::colorAdjust(const QImage &image, const ColorAdjustment &adjustment)
+{
+    return single(&PassChain::colorAdjust, image, adjustment);
+}
+
+QImage OpenGLTextureRenderer::addNoise(const QImage &image, const NoiseSettings &noise)
+{
+    return single(&PassChain::addNoise, image, noise);
+}
+
+QImage OpenGLTextureRenderer::grayscale(const QImage &image, const GrayscaleLevels &levels)
+{
+    return single(&PassChain::grayscale, image, levels);
+}
+
+QImage OpenGLTextureRenderer::toneMap(const QImage &image, const ToneMapColors &colors, double amount)
+{
+    return single(&PassChain::toneMap, image, colors, amount);
+}
+
+QImage OpenGLTextureRenderer::highlightsToAlpha(const QImage &image, const HighlightsToAlphaSettings &settings)
+{
+    return single(&PassChain::highlightsToAlpha, image, settings);
+}
+
+QImage OpenGLTextureRenderer::fadeOut(const QImage &image, const FadeOutSettings &settings)
+{
+    return single(&PassChain::fadeOut, image, settings);
+}
+
+QImage OpenGLTextureRenderer::waterReflection(const QImage &image, const WaterReflectionSettings &settings)
+{
+    return single(&PassChain::waterReflection, image, settings, maximumTextureSize());
+}
+
 QImage OpenGLTextureRenderer::boxBlur(const QImage &image, double radius)
 {
-    PassChain chain;
-    return renderChain(chain, chain.boxBlur(chain.source(image), radius));
+    return single(&PassChain::boxBlur, image, radius);
 }
 
 QImage OpenGLTextureRenderer::gaussianBlur(const QImage &image, double sigma)
 {
-    PassChain chain;
-    return renderChain(chain, chain.gaussianBlur(chain.source(image), sigma));
+    return single(&PassChain::gaussianBlur, image, sigma);
+}
+
+QImage OpenGLTextureRenderer::pixelate(const QImage &image, double blockSize)
+{
+    return single(&PassChain::pixelate, image, blockSize);
+}
+
+QImage OpenGLTextureRenderer::sobel(const QImage &image, const EdgeDetection &edges)
+{
+    return single(&PassChain::sobel, image, edges);
+}
+
+QImage OpenGLTextureRenderer::innerShadow(const QImage &image, const QRectF &region, double reach, double strength,
+                                          const QColor &tint)
+{
+    return single(&PassChain::innerShadow, image, region, reach, strength, tint);
+}
+
+QImage OpenGLTextureRenderer::softBevel(const QImage &image, const QRectF &region, double width, double strength)
+{
+    return single(&PassChain::softBevel, image, region, width, strength);
+}
+
+QImage OpenGLTextureRenderer::raise(const QImage &image, const QRectF &region, double bevelSize)
+{
+    return single(&PassChain::raise, image, region, bevelSize);
 }
 
 QImage OpenGLTextureRenderer::renderFilterShader(const QString &shaderId, const QSize &outputSize,

@@ -5,6 +5,8 @@
 #include "rendering/offscreen_context.h"
 #include "rendering/shader_texture_renderer.h"
 
+#include <functional>
+
 namespace zm {
 
 /// The one object that draws on the GPU outside the window. Every operation takes pictures, runs its passes on a
@@ -20,8 +22,22 @@ public:
 
     int maximumTextureSize() override;
 
+    QImage colorize(const QImage &image, const QColor &color, double opacity) override;
+    QImage colorAdjust(const QImage &image, const ColorAdjustment &adjustment) override;
+    QImage addNoise(const QImage &image, const NoiseSettings &noise) override;
+    QImage grayscale(const QImage &image, const GrayscaleLevels &levels) override;
+    QImage toneMap(const QImage &image, const ToneMapColors &colors, double amount) override;
+    QImage highlightsToAlpha(const QImage &image, const HighlightsToAlphaSettings &settings) override;
+    QImage fadeOut(const QImage &image, const FadeOutSettings &settings) override;
+    QImage waterReflection(const QImage &image, const WaterReflectionSettings &settings) override;
     QImage boxBlur(const QImage &image, double radius) override;
     QImage gaussianBlur(const QImage &image, double sigma) override;
+    QImage pixelate(const QImage &image, double blockSize) override;
+    QImage sobel(const QImage &image, const EdgeDetection &edges) override;
+    QImage innerShadow(const QImage &image, const QRectF &region, double reach, double strength,
+                       const QColor &tint) override;
+    QImage softBevel(const QImage &image, const QRectF &region, double width, double strength) override;
+    QImage raise(const QImage &image, const QRectF &region, double bevelSize) override;
     QImage renderFilterShader(const QString &shaderId, const QSize &outputSize, const QList<QImage> &images,
                               const QByteArray &uniformBytes, const FilterTextureFormats &formats) override;
     QImage renderMaskedBlurFilterShader(const QString &shaderId, const QImage &source, double sourceSigma,
@@ -30,6 +46,14 @@ public:
     QImage renderChain(const PassChain &chain, PassChain::Picture result) override;
 
 private:
+    /// A chain of one operation on one picture.
+    template<typename Operation, typename... Arguments>
+    QImage single(Operation operation, const QImage &image, const Arguments &...arguments)
+    {
+        PassChain chain;
+        return renderChain(chain, std::invoke(operation, chain, chain.source(image), arguments...));
+    }
+
     const FilterShaderCatalog &m_catalog;
     OffscreenContext m_context;
     FilterPassDrawer m_passes; // after the context, on which its programs live

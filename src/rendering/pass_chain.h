@@ -1,6 +1,7 @@
 #pragma once
 
 #include "rendering/texture_edge.h"
+#include "rendering/utility_settings.h"
 
 #include <QByteArray>
 #include <QImage>
@@ -9,6 +10,8 @@
 #include <QString>
 
 #include <variant>
+
+class QRectF;
 
 namespace zm {
 
@@ -40,6 +43,35 @@ public:
     /// The mean over a square; the radius, in pixels, is at most 16. The input itself when it is under 0.5 or not
     /// finite.
     Picture boxBlur(Picture input, double radius);
+
+    // The utilities. Where the numbers leave nothing to do, the input itself; senseless ones count as
+    // utility_settings.h tells, of the bare ones as nothing to do. Alpha stays unless told otherwise.
+
+    /// Lays a colour over the picture; an invalid one is red. Opacity 0..1.
+    Picture colorize(Picture input, const QColor &color, double opacity);
+    Picture colorAdjust(Picture input, const ColorAdjustment &adjustment);
+    Picture addNoise(Picture input, const NoiseSettings &noise);
+    Picture grayscale(Picture input, const GrayscaleLevels &levels);
+    /// The amount is the share of the recoloured picture, 0..1; a non-finite one is 1.
+    Picture toneMap(Picture input, const ToneMapColors &colors, double amount);
+    /// Shrinks alpha.
+    Picture highlightsToAlpha(Picture input, const HighlightsToAlphaSettings &settings);
+    /// Changes alpha.
+    Picture fadeOut(Picture input, const FadeOutSettings &settings);
+    /// A larger picture with the reflection, transparent beyond both; no side grows past the driver's maximum. The
+    /// input itself when there is no room.
+    Picture waterReflection(Picture input, const WaterReflectionSettings &settings, int maximumTextureSize);
+    /// Squares of whole pixels with the colour and alpha of their middle.
+    Picture pixelate(Picture input, double blockSize);
+    Picture sobel(Picture input, const EdgeDetection &edges);
+
+    // Frames within a region in pixels, whose y is counted from the picture's last row. An empty region is the whole
+    // picture. Widths are pixels, strengths 0..1.
+
+    /// An invalid tint is black.
+    Picture innerShadow(Picture input, const QRectF &region, double reach, double strength, const QColor &tint);
+    Picture softBevel(Picture input, const QRectF &region, double width, double strength);
+    Picture raise(Picture input, const QRectF &region, double bevelSize);
 
     QSize size(Picture picture) const;
 
