@@ -69,11 +69,10 @@ QList<FilterShaderDescriptor> utilities()
 
 FilterShaderDescriptor libraryShader(const LibraryShaderRow &row)
 {
-    FilterShaderDescriptor descriptor{
-        .id = u"fx/%1"_s.arg(row.id),
-        .label = row.id,
-        .fragmentResource = u":/zelmoraatelier/shaders/library/%1.frag.qsb"_s.arg(row.id),
-    };
+    FilterShaderDescriptor descriptor;
+    descriptor.id = u"fx/%1"_s.arg(row.id);
+    descriptor.label = row.id;
+    descriptor.fragmentResource = u":/zelmoraatelier/shaders/library/%1.frag.qsb"_s.arg(row.id);
     for (const QLatin1StringView sampler : row.samplers)
         descriptor.samplers.append(QByteArray(sampler.data(), sampler.size()));
     for (qsizetype i = 0; i < row.fields.size(); ++i)

@@ -198,7 +198,7 @@ private slots:
             u"Filter shader invocation mismatch \"scale\" samplers expected 1 got %1 uniforms expected 2 got %2"_s;
         const QString lost = u"Shader interface mismatch for filter utility \"fx/lost-%1\" uniform prefixes "_s;
         const QList<std::tuple<QString, int, int, QString>> cases{
-            {u"ghost"_s, 1, 0, u"Unknown filter shader \"ghost\""_s},
+            {u"nowhere"_s, 1, 0, u"Unknown filter shader \"nowhere\""_s},
             {u"scale"_s, 2, 32, mismatch.arg(2).arg(2)},
             {u"scale"_s, 1, 36, mismatch.arg(1).arg(2)},
             {u"lost-field"_s, 1, 32, lost.arg(u"field"_s)},
