@@ -8,6 +8,7 @@
 #include "document/document.h"
 #include "document/scene_presentation_model.h"
 #include "editor/document_file_controller.h"
+#include "filters/filter_result_cache.h"
 #include "rendering/opengl_texture_renderer.h"
 #include "rendering/render_services.h"
 
@@ -30,7 +31,9 @@ struct ApplicationContext
     ApplicationSettings applicationSettings;
     ApplicationThemeController applicationTheme{applicationSettings};
     OpenGLTextureRenderer textureRenderer;
-    RenderServices renderServices{&textureRenderer, &textureRenderer};
+    /// Finished results of filter stacks, for the next evaluation.
+    FilterResultCache filterResults;
+    RenderServices renderServices{&textureRenderer, &textureRenderer, &filterResults};
     ScenePresentationModel scenePresentationModel{&document};
     RuntimeFlags runtimeFlags;
     DocumentFileController documentFileController{&document, &commandHistory};

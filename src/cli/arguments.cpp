@@ -26,14 +26,20 @@ Arguments::Arguments(const QStringList &words, const QList<OptionRule> &rules)
         else if (!rule->takesValue && equals >= 0)
             note(u"%1 takes no value"_s.arg(name));
         else if (!rule->takesValue)
-            m_options[name] = {};
+            take(name, {});
         else if (equals >= 0)
-            m_options[name].append(word.sliced(equals + 1));
+            take(name, word.sliced(equals + 1));
         else if (i + 1 < words.size())
-            m_options[name].append(words[++i]);
+            take(name, words[++i]);
         else
             note(u"%1 needs a value"_s.arg(name));
     }
+}
+
+void Arguments::take(const QString &option, const QString &value)
+{
+    m_options[option].append(value);
+    m_inOrder.append({option, value});
 }
 
 int Arguments::number(const QString &option, int fallback, int minimum, int maximum)

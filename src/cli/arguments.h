@@ -4,6 +4,8 @@
 #include <QList>
 #include <QStringList>
 
+#include <utility>
+
 namespace zm::cli {
 
 /// An option "--name", or "--name VALUE" and "--name=VALUE" when it takes one.
@@ -28,13 +30,18 @@ public:
     /// In the order given.
     QStringList values(const QString &option) const { return m_options.value(option); }
 
+    /// All options with their values, in the order given; the value of an option that takes none is empty.
+    const QList<std::pair<QString, QString>> &inOrder() const { return m_inOrder; }
+
     /// The option's whole number, or fallback when it was not given; a number out of range becomes a problem.
     int number(const QString &option, int fallback, int minimum, int maximum);
 
 private:
+    void take(const QString &option, const QString &value);
     void note(const QString &problem);
 
     QHash<QString, QStringList> m_options;
+    QList<std::pair<QString, QString>> m_inOrder;
     QStringList m_files;
     QString m_problem;
 };

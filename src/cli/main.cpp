@@ -9,6 +9,7 @@
 #include <QFile>
 #include <QGuiApplication>
 
+#include <algorithm>
 #include <cstdio>
 #include <optional>
 
@@ -28,6 +29,13 @@ QList<Command> commands()
          "       zelmora export [options] --into DIR [--format jpeg|webp|webpTransparent|png|pngTransparent] "
          "INPUT..."_s,
          u"Writes flattened pictures; an output's suffix (jpg, webp, png) gives its format."_s, runExport},
+        {u"apply"_s, u"zelmora apply --effect ID [--set KEY=VALUE]... [--effect ID ...] INPUT OUTPUT"_s,
+         u"Puts effects on a picture, the first one first. PNG and WebP outputs keep transparency."_s, runApply},
+        {u"effects"_s,
+         u"zelmora effects [--json]\n"
+         "       zelmora effects --sheet DIR INPUT"_s,
+         u"Lists the effects, or renders them all on one picture: a picture for each, and a sheet of all."_s,
+         runEffects},
         {u"shapes"_s,
          u"zelmora shapes SHEET.png\n"
          "       zelmora shapes --generator ID [--set KEY=VALUE]... [--size WxH] OUTPUT.svg|png"_s,
@@ -53,19 +61,20 @@ void keepFatalMessagesOnly(QtMsgType type, const QMessageLogContext &, const QSt
         dprintf(QuietLibraries::standardError(), "zelmora: %s\n", qPrintable(message));
 }
 
-/// Pictures are composed on the processor; the effects of a document need OpenGL.
+/// Pictures are composed on the processor; effects, also those of a document, need OpenGL.
 bool mayUseOpenGL(int argc, char **argv)
 {
-    for (int i = 1; i < argc; ++i) {
-        if (QByteArray(argv[i]).toLower().endsWith(".zelmora"))
-            return true;
-    }
-    return false;
+    if (argc < 2)
+        return false;
+    const QByteArray command(argv[1]);
+    return command == "apply" || command == "effects" || std::any_of(argv + 2, argv + argc, [](const char *word) {
+               return QByteArray(word).toLower().endsWith(".zelmora");
+           });
 }
 
 ExitStatus run(const QStringList &words)
 {
-    const QString shortUsage = u"zelmora info|export|shapes ... (zelmora --help tells more)"_s;
+    const QString shortUsage = u"zelmora info|export|apply|effects|shapes ... (zelmora --help tells more)"_s;
     if (words.isEmpty())
         return wrongUsage(u"no command is given"_s, shortUsage);
     Console console;

@@ -2,30 +2,26 @@
 
 #include "document/editable_path.h"
 #include "filters/filter_instance.h"
+#include "filters/filter_render.h"
 
-#include <QImage>
 #include <QList>
-#include <QRectF>
 
 #include <optional>
 
 namespace zm {
 
-struct RenderServices;
-
-/// A filtered picture and the rectangle, in layer coordinates, that it covers: larger than the layer when a filter grew
-/// it.
-struct FilterRenderResult
-{
-    QImage image;
-    QRectF bounds;
-};
-
 /// Runs a layer's filters over its unfiltered picture, first to last. Takes and gives QImage::Format_RGBA8888; size is
-/// the picture's logical size in layer units. Disabled instances and instances of unknown filters are skipped. The
-/// selection limits the instances that are scoped to it.
+/// the picture's logical size in layer units. Disabled instances and instances of unknown filters are skipped, and one
+/// that fails passes its input on. The selection, in layer units, limits the instances that are scoped to it. Results
+/// that are at hand in the services' cache are taken from there. On the thread of the renderer only.
 FilterRenderResult evaluateFilterStack(const QImage &image, const QSizeF &size, const QList<FilterInstance> &instances,
                                        const RenderServices *services,
                                        const std::optional<EditablePath> &rasterSelection, quint64 revision);
+
+/// One filter over a picture. The input and its bounds come back for an unknown id, for a filter that is not of the
+/// library, without a renderer, and when the filter fails.
+FilterRenderResult renderLibraryFilter(const QString &filterId, const QImage &image, const QRectF &bounds,
+                                       const ParameterValues &parameters, const RenderServices *services,
+                                       const std::optional<QRectF> &canvas);
 
 } // namespace zm

@@ -10,25 +10,6 @@ namespace zm {
 
 namespace {
 
-template<typename Number>
-void setNumbers(NumericParameter<Number> &parameter, Number defaultValue, Number minimum, Number maximum, Number step)
-{
-    std::tie(parameter.minimum, parameter.maximum) = std::minmax({minimum, maximum});
-    parameter.step = step;
-    parameter.defaultValue = snapped(defaultValue, parameter.minimum, parameter.maximum, step);
-}
-
-/// Compared as texts: a stored text may name an integer option and the other way round.
-std::optional<QString> optionText(const ParameterValue &value)
-{
-    if (const qint64 *integer = std::get_if<qint64>(&value))
-        return QString::number(*integer);
-    if (const double *number = std::get_if<double>(&value))
-        return QString::number(*number, 'g', 17);
-    const QString *text = std::get_if<QString>(&value);
-    return text ? std::optional(*text) : std::nullopt;
-}
-
 std::optional<ParameterValue> acceptedOption(const QList<ParameterOption> &options, const ParameterValue &value)
 {
     const std::optional<QString> text = optionText(value);
@@ -159,6 +140,23 @@ std::optional<ParameterValue> acceptedValue(const ParameterDefinition &definitio
     return std::visit(Acceptance{value}, definition);
 }
 
+void setNumbers(NumericParameter<double> &parameter, double defaultValue, double minimum, double maximum, double step)
+{
+    std::tie(parameter.minimum, parameter.maximum) = std::minmax({minimum, maximum});
+    parameter.step = step;
+    parameter.defaultValue = snapped(defaultValue, parameter.minimum, parameter.maximum, step);
+}
+
+std::optional<QString> optionText(const ParameterValue &value)
+{
+    if (const qint64 *integer = std::get_if<qint64>(&value))
+        return QString::number(*integer);
+    if (const double *number = std::get_if<double>(&value))
+        return QString::number(*number, 'g', 17);
+    const QString *text = std::get_if<QString>(&value);
+    return text ? std::optional(*text) : std::nullopt;
+}
+
 ParameterDefinition realParameter(const QString &id, const QString &label, double defaultValue, double minimum,
                                   double maximum, double step, ParameterFlags flags, ParameterUnit unit)
 {
@@ -173,7 +171,8 @@ ParameterDefinition integerParameter(const QString &id, const QString &label, qi
 {
     IntegerRangeParameter parameter;
     static_cast<ParameterHead &>(parameter) = {id, label, {}, ParameterUnit::None};
-    setNumbers<qint64>(parameter, defaultValue, minimum, maximum, 1);
+    std::tie(parameter.minimum, parameter.maximum) = std::minmax({minimum, maximum});
+    parameter.defaultValue = snapped(defaultValue, parameter.minimum, parameter.maximum, parameter.step);
     return parameter;
 }
 

@@ -196,6 +196,13 @@ qint64 snapped(qint64 value, qint64 minimum, qint64 maximum, qint64 step);
 /// own value. Nothing for a value of another kind, a text that is no option, too many lights, and for a button.
 std::optional<ParameterValue> acceptedValue(const ParameterDefinition &definition, const ParameterValue &value);
 
+/// An option's value as text, by which options are compared: a stored text may name an integer option and the other way
+/// round. Nothing for values that no option has.
+std::optional<QString> optionText(const ParameterValue &value);
+
+/// Limits that are the wrong way round are swapped, and the default is snapped into them.
+void setNumbers(NumericParameter<double> &parameter, double defaultValue, double minimum, double maximum, double step);
+
 /// A real range. Limits that are the wrong way round are swapped, and the default is snapped into them.
 ParameterDefinition realParameter(const QString &id, const QString &label, double defaultValue, double minimum,
                                   double maximum, double step, ParameterFlags flags = {},

@@ -71,6 +71,10 @@ public:
 
     /// Carries out what `result` needs of a chain, with one upload for each source and one readback.
     virtual QImage renderChain(const PassChain &chain, PassChain::Picture result) = 0;
+
+    /// How many operations have failed since the renderer was made. A result is as good as it can be when the count
+    /// did not rise meanwhile.
+    virtual quint64 failureCount() const = 0;
 };
 
 } // namespace zm

@@ -155,7 +155,10 @@ QImage OpenGLTextureRenderer::renderMaskedBlurFilterShader(const QString &shader
 
 QImage OpenGLTextureRenderer::renderChain(const PassChain &chain, PassChain::Picture result)
 {
-    return runPassChain(m_passes, m_context, chain, result);
+    const QImage picture = runPassChain(m_passes, m_context, chain, result);
+    if (picture.isNull())
+        ++m_failures;
+    return picture;
 }
 
 } // namespace zm

@@ -44,6 +44,7 @@ public:
                                         const QImage &mask, double maskSigma, const QByteArray &uniformBytes,
                                         const FilterTextureFormats &formats) override;
     QImage renderChain(const PassChain &chain, PassChain::Picture result) override;
+    quint64 failureCount() const override { return m_failures; }
 
 private:
     /// A chain of one operation on one picture.
@@ -54,6 +55,7 @@ private:
         return renderChain(chain, std::invoke(operation, chain, chain.source(image), arguments...));
     }
 
+    quint64 m_failures = 0;
     const FilterShaderCatalog &m_catalog;
     OffscreenContext m_context;
     FilterPassDrawer m_passes; // after the context, on which its programs live

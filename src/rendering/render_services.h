@@ -2,6 +2,7 @@
 
 namespace zm {
 
+class FilterResultCache;
 class FilterUtilityRenderer;
 class ShaderTextureRenderer;
 
@@ -11,6 +12,8 @@ struct RenderServices
 {
     ShaderTextureRenderer *textureRenderer = nullptr;
     FilterUtilityRenderer *filterRenderer = nullptr;
+    /// Null: nothing is kept between two evaluations.
+    FilterResultCache *filterResults = nullptr;
 };
 
 } // namespace zm

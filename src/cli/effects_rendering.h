@@ -1,0 +1,28 @@
+#pragma once
+
+#include "filters/filter_instance.h"
+#include "filters/filter_result_cache.h"
+#include "rendering/opengl_texture_renderer.h"
+#include "rendering/render_services.h"
+
+namespace zm::cli {
+
+/// What effects need, without a window.
+class EffectsRendering
+{
+public:
+    const RenderServices *services() const { return &m_services; }
+
+    /// Empty when effects can be rendered on this machine, and all have been so far; else a sentence for people.
+    QString problem();
+
+private:
+    OpenGLTextureRenderer m_renderer;
+    FilterResultCache m_results;
+    const RenderServices m_services{&m_renderer, &m_renderer, &m_results};
+};
+
+/// An instance of the effect with what was set on it. A problem, naming the ids or keys that there are, leaves nothing.
+std::optional<FilterInstance> effectFromText(const QString &filterId, const QStringList &assignments, QString *problem);
+
+} // namespace zm::cli

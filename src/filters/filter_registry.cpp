@@ -1,0 +1,34 @@
+#include "filters/filter_registry.h"
+
+#include "filters/fade_out_filter.h"
+#include "filters/library_filters.h"
+#include "filters/shape_tool_filter.h"
+
+#include <algorithm>
+
+namespace zm {
+
+FilterRegistry::FilterRegistry()
+{
+    m_filters.push_back(std::make_unique<FadeOutFilter>());
+    m_filters.push_back(std::make_unique<ShapeToolFilter>());
+    m_filters.push_back(makeBevelFilter());
+    m_filters.push_back(makeVignetteFilter());
+}
+
+const FilterRegistry &FilterRegistry::instance()
+{
+    static const FilterRegistry registry;
+    return registry;
+}
+
+const Filter *FilterRegistry::find(const QString &id) const
+{
+    if (id.isEmpty())
+        return nullptr;
+    const auto found =
+        std::ranges::find_if(m_filters, [&id](const std::unique_ptr<Filter> &filter) { return filter->id() == id; });
+    return found == m_filters.end() ? nullptr : found->get();
+}
+
+} // namespace zm

@@ -1,0 +1,67 @@
+#include "filters/shape_mask.h"
+
+#include "document/editable_path.h"
+#include "generators/shape_generator.h"
+#include "generators/shape_generator_registry.h"
+
+#include <QPainter>
+
+#include <algorithm>
+
+using namespace Qt::StringLiterals;
+
+namespace zm {
+
+namespace {
+
+/// At a feather of 100 the edge is spread over about half the shorter side.
+constexpr double kFeatherPerSide = 0.002;
+
+} // namespace
+
+QPainterPath shapeMaskPath(const QString &generatorId, const ParameterValues &shapeParameters,
+                           const MaskTransform &transform, const QSizeF &size)
+{
+    const ShapeGenerator *generator = ShapeGeneratorRegistry::instance().find(generatorId);
+    if (!generator)
+        return {};
+    const auto inBox = [&size](double x, double y) { return QPointF(x * size.width(), y * size.height()); };
+    const QPointF pivot = inBox(transform.pivotX, transform.pivotY);
+    const QPointF move = inBox(transform.x - 0.5, transform.y - 0.5) + pivot;
+    QTransform matrix;
+    matrix.translate(move.x(), move.y());
+    matrix.rotate(transform.rotation);
+    matrix.scale(transform.scaleX, transform.scaleY);
+    matrix.translate(-pivot.x(), -pivot.y());
+    return matrix.map(painterPath(generator->generate(size, shapeParameters)));
+}
+
+QImage filledShapeMask(const QPainterPath &path, const QSizeF &boxSize, const QSize &imageSize)
+{
+    QImage mask(imageSize, QImage::Format_RGBA8888);
+    if (mask.isNull() || boxSize.isEmpty())
+        return mask;
+    mask.fill(QColor(255, 255, 255, 0));
+    QPainter painter(&mask);
+    painter.setRenderHint(QPainter::Antialiasing);
+    painter.scale(imageSize.width() / boxSize.width(), imageSize.height() / boxSize.height());
+    painter.fillPath(path, Qt::white);
+    return mask;
+}
+
+double featherSigma(double feather, const QSize &imageSize)
+{
+    return std::clamp(feather, 0.0, 100.0) * kFeatherPerSide * std::min(imageSize.width(), imageSize.height());
+}
+
+PassChain::Picture addShapeMask(PassChain &chain, const FilterRenderRequest &request, const ShapeMaskDefaults &defaults)
+{
+    const ParameterValues &values = request.parameters;
+    const QSizeF box = request.bounds.size();
+    const QPainterPath path = shapeMaskPath(values.string(u"mask"_s, defaults.generatorId), {},
+                                            values.maskTransform(u"mask.transform"_s, defaults.transform), box);
+    const PassChain::Picture mask = chain.source(filledShapeMask(path, box, request.size()));
+    return chain.reducedBlur(mask, featherSigma(request.number(u"mask.feather"_s, defaults.feather), request.size()));
+}
+
+} // namespace zm
