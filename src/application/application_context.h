@@ -9,6 +9,7 @@
 #include "document/scene_presentation_model.h"
 #include "editor/document_file_controller.h"
 #include "filters/filter_result_cache.h"
+#include "generators/bundled_texture_loader.h"
 #include "rendering/opengl_texture_renderer.h"
 #include "rendering/render_services.h"
 
@@ -30,10 +31,11 @@ struct ApplicationContext
     ApplicationInfoController applicationInfoController;
     ApplicationSettings applicationSettings;
     ApplicationThemeController applicationTheme{applicationSettings};
+    BundledTextureLoader textureLoader{textureBundleDirectories(), textureSearchRoots()};
     OpenGLTextureRenderer textureRenderer;
     /// Finished results of filter stacks, for the next evaluation.
     FilterResultCache filterResults;
-    RenderServices renderServices{&textureRenderer, &textureRenderer, &filterResults};
+    RenderServices renderServices{&textureLoader, &textureRenderer, &textureRenderer, &filterResults};
     ScenePresentationModel scenePresentationModel{&document};
     RuntimeFlags runtimeFlags;
     DocumentFileController documentFileController{&document, &commandHistory};

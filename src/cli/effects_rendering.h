@@ -2,6 +2,7 @@
 
 #include "filters/filter_instance.h"
 #include "filters/filter_result_cache.h"
+#include "generators/bundled_texture_loader.h"
 #include "rendering/opengl_texture_renderer.h"
 #include "rendering/render_services.h"
 
@@ -17,9 +18,10 @@ public:
     QString problem();
 
 private:
+    BundledTextureLoader m_textures{textureBundleDirectories(), textureSearchRoots()};
     OpenGLTextureRenderer m_renderer;
     FilterResultCache m_results;
-    const RenderServices m_services{&m_renderer, &m_renderer, &m_results};
+    const RenderServices m_services{&m_textures, &m_renderer, &m_renderer, &m_results};
 };
 
 /// An instance of the effect with what was set on it. A problem, naming the ids or keys that there are, leaves nothing.
