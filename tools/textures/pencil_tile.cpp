@@ -23,6 +23,31 @@ void spreadEvenly(std::vector<float> &values)
         values[order[rank]] = float(double(rank) / double(order.size() - 1));
 }
 
+/// Blurred white noise with a deviation of about 1: grains of two to three pixels without a grid.
+std::vector<float> paperTooth(Random &random)
+{
+    Tile grain(kSize);
+    for (float &value : grain.values())
+        value = float(random.bell());
+    for (int pass = 0; pass < 2; ++pass) {
+        Tile blurred(kSize);
+        for (int y = 0; y < kSize; ++y) {
+            for (int x = 0; x < kSize; ++x) {
+                float sum = 0.0f;
+                for (int dy = -1; dy <= 1; ++dy) {
+                    for (int dx = -1; dx <= 1; ++dx)
+                        sum += grain.at(x + dx, y + dy) * float((2 - std::abs(dx)) * (2 - std::abs(dy)));
+                }
+                blurred.at(x, y) = sum / 16.0f;
+            }
+        }
+        grain = blurred;
+    }
+    for (float &value : grain.values())
+        value *= 5.2f; // what the two blurs take from a deviation of 0.7
+    return grain.values();
+}
+
 } // namespace
 
 QImage drawGraphiteHatching()
@@ -37,10 +62,10 @@ QImage drawGraphiteHatching()
         // The additive recurrence of the plastic number covers the square evenly with any number of points.
         const QPointF center(kSize * std::fmod(0.5 + 0.7548776662466927 * i, 1.0) + 14.0 * random.bell(),
                              kSize * std::fmod(0.5 + 0.5698402909980532 * i, 1.0) + 14.0 * random.bell());
-        const double angle = (-58.0 + 3.0 * random.bell()) * std::numbers::pi / 180.0;
+        const double angle = (-58.0 + 4.5 * random.bell()) * std::numbers::pi / 180.0;
         const double length = random.between(80.0, 210.0);
         const double bow = 0.035 * length * random.bell();
-        const double halfWidth = random.between(1.1, 2.1);
+        const double halfWidth = random.between(1.1, 2.3);
         const double lift = random.between(0.15, 0.4);
         const QPointF ahead = direction(angle);
         const QPointF aside(-ahead.y(), ahead.x());
@@ -62,13 +87,12 @@ QImage drawGraphiteHatching()
     }
 
     // The tooth of the paper keeps graphite off its hollows.
-    const PeriodicNoise tooth(200, 200, 5);
-    const PeriodicNoise fibres(36, 36, 9);
+    const std::vector<float> tooth = paperTooth(random);
+    const PeriodicNoise pulp(28, 28, 9);
     for (int y = 0; y < kSize; ++y) {
         for (int x = 0; x < kSize; ++x) {
-            const double u = (x + 0.5) / kSize;
-            const double v = (y + 0.5) / kSize;
-            tile.at(x, y) += float(0.17 * tooth.sum(u, v, 2) + 0.05 * fibres.sum(u, v, 2));
+            const double uneven = 0.03 * pulp.sum((x + 0.5) / kSize, (y + 0.5) / kSize, 3);
+            tile.at(x, y) += float(0.05 * tooth[std::size_t(y * kSize + x)] + uneven);
         }
     }
     spreadEvenly(tile.values());

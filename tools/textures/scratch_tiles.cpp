@@ -75,44 +75,38 @@ void drawHair(Tile &tile, QPointF start, double length, double halfWidth, double
         const double t = double(i) / steps;
         const double taper = smoothStep(0.0, 0.1, t) * smoothStep(0.0, 0.18, 1.0 - t);
         points.append({position, halfWidth * (0.4 + 0.6 * taper), strength * (0.45 + 0.55 * taper)});
-        bend = 0.96 * bend + 0.012 * random.bell();
+        bend = 0.965 * bend + 0.016 * random.bell();
         angle += bend;
         position += step * direction(angle);
     }
     tile.stroke(points);
 }
 
-/// What a dry brush of many bristles leaves behind on one pull.
-void drawScrape(Tile &tile, QPointF start, double angle, double length, double width, double strength, Random &random)
+/// What a dry brush leaves behind on one pull: `length` by `width` pixels, in streaks that run dry towards its end.
+void drawScrape(Tile &tile, QPointF center, double angle, double length, double width, double strength, Random &random)
 {
-    const QPointF aside(-std::sin(angle), std::cos(angle));
-    const double curvature = 0.25 * random.bell();
-    const int bristles = int(width / 2.2);
-    double load = random.unit();
-    for (int i = 0; i < bristles; ++i) {
-        load = std::clamp(load + 0.35 * random.bell(), 0.0, 1.0); // neighbours carry about as much paint
-        const double across = (i + 0.5) / bristles - 0.5;
-        const double rim = 1.0 - 0.75 * std::pow(std::abs(2.0 * across), 3.0);
-        const double ownLength = length * (0.45 + 0.55 * load) * rim * random.between(0.75, 1.0);
-        const QPointF from =
-            start + across * width * aside + direction(angle) * length * 0.12 * (random.unit() - 0.5 * rim);
-        const double breaks = 0.25 + 0.55 * (1.0 - load);
-        drawScratch(tile, from, angle,
-                    {ownLength, random.between(0.7, 1.9), strength * (0.4 + 0.6 * load), curvature, breaks}, random);
-    }
-}
-
-/// Rubs out what lies in the hollows of a rough surface; `keep` is the share that stays, 0 to 1.
-void roughen(Tile &tile, int cells, double keep, std::uint32_t seed)
-{
-    const PeriodicNoise noise(cells, cells, seed);
-    const double threshold = 0.55 - 1.1 * keep;
-    for (int y = 0; y < tile.size(); ++y) {
-        for (int x = 0; x < tile.size(); ++x) {
-            const double height = noise.sum((x + 0.5) / tile.size(), (y + 0.5) / tile.size(), 3);
-            tile.at(x, y) *= float(smoothStep(threshold - 0.18, threshold + 0.18, height));
-        }
-    }
+    constexpr int kCells = 4096; // the pull sees a small part of the noise, so that it never repeats there
+    const PeriodicNoise noise(kCells, kCells, std::uint32_t(random.between(0.0, 1e6)));
+    const QPointF ahead = direction(angle);
+    const double bow = 0.06 * length * random.bell();
+    tile.around(center, 0.5 * std::hypot(length, width) + std::abs(bow) + 2.0, [&](float &value, double dx, double dy) {
+        const double along = (dx * ahead.x() + dy * ahead.y()) / length + 0.5; // 0 to 1 within the pull
+        if (along < 0.0 || along > 1.0)
+            return;
+        const double bent = dy * ahead.x() - dx * ahead.y() - bow * 4.0 * along * (1.0 - along);
+        const double across = bent / width + 0.5;
+        if (across < 0.0 || across > 1.0)
+            return;
+        const double pixelsAlong = along * length;
+        const double bristle = noise.at((bent / 3.1 + 300.5) / kCells, (pixelsAlong / 260.0 + 700.5) / kCells);
+        const double tuft = noise.at((bent / 11.0 + 900.5) / kCells, (pixelsAlong / 170.0 + 200.5) / kCells);
+        const double skip = noise.at((bent / 2.6 + 500.5) / kCells, (pixelsAlong / 16.0 + 400.5) / kCells);
+        const double rim = std::pow(std::abs(2.0 * across - 1.0), 4.0);
+        const double touch = 1.0 - smoothStep(0.0, 0.1, along + 0.06 * tuft);
+        const double dryness = 1.1 * std::pow(along, 1.6) + 0.55 * rim + 1.2 * touch;
+        const double load = 0.42 + 0.75 * bristle + 0.55 * tuft + 0.35 * skip - dryness;
+        Tile::raise(value, strength * smoothStep(-0.12, 0.2, load));
+    });
 }
 
 } // namespace
@@ -127,7 +121,7 @@ QImage drawFineScratches()
         const double angle = stray ? random.angle() : radians(-62.0 + 13.0 * random.bell());
         drawScratch(tile, start, angle,
                     {random.skewed(50.0, 420.0, 1.8), random.skewed(0.55, 1.7, 3.0), random.between(0.35, 1.0),
-                     0.12 * random.bell(), random.between(0.05, 0.5)},
+                     0.1 * random.bell(), random.between(0.0, 0.3)},
                     random);
     }
     for (const QPointF &start : evenPoints(260, kSize, random)) // nicks
@@ -141,7 +135,7 @@ QImage drawHairsAndDust()
     Random random(12);
     Tile tile(kSize);
     for (const QPointF &start : evenPoints(46, kSize, random))
-        drawHair(tile, start, random.skewed(70.0, 340.0, 1.6), random.between(0.8, 1.6), random.between(0.65, 1.0),
+        drawHair(tile, start, random.skewed(70.0, 340.0, 1.6), random.between(0.75, 1.35), random.between(0.65, 1.0),
                  random);
     for (const QPointF &start : evenPoints(110, kSize, random)) // lint
         drawHair(tile, start, random.between(14.0, 50.0), random.between(0.6, 1.1), random.between(0.4, 0.9), random);
@@ -154,12 +148,11 @@ QImage drawBrushScrapes()
 {
     Random random(13);
     Tile tile(kSize);
-    for (const QPointF &start : evenPoints(34, kSize, random)) {
-        const double angle = radians(-24.0 + 16.0 * random.bell() + (random.chance(0.2) ? 80.0 : 0.0));
-        drawScrape(tile, start, angle, random.between(170.0, 430.0), random.between(26.0, 96.0),
-                   random.between(0.7, 1.0), random);
+    for (const QPointF &center : evenPoints(44, kSize, random)) {
+        const double angle = radians(-24.0 + 14.0 * random.bell() + (random.chance(0.15) ? 80.0 : 0.0));
+        drawScrape(tile, center, angle + (random.chance(0.4) ? std::numbers::pi : 0.0), random.between(170.0, 420.0),
+                   random.skewed(14.0, 74.0, 1.5), random.between(0.75, 1.0), random);
     }
-    roughen(tile, 150, 0.8, 3);
     return tile.toMask();
 }
 
@@ -168,17 +161,17 @@ QImage drawCrossScratches()
     Random random(14);
     Tile tile(kSize);
     // Each pass of the wool leaves a sheaf of nearly parallel arcs.
-    for (const QPointF &center : evenPoints(95, kSize, random)) {
+    for (const QPointF &center : evenPoints(125, kSize, random)) {
         const double angle = random.angle();
-        const double curvature = 0.35 * random.bell();
-        const double spread = random.between(18.0, 60.0);
-        const int count = int(random.between(7.0, 20.0));
+        const double curvature = 0.22 * random.bell();
+        const double spread = random.between(16.0, 85.0);
+        const int count = int(random.between(4.0, 13.0));
         for (int i = 0; i < count; ++i) {
-            const double length = random.between(60.0, 230.0);
+            const double length = random.skewed(45.0, 330.0, 1.7);
             const QPointF aside = direction(angle + std::numbers::pi / 2.0) * spread * random.bell();
             const QPointF start = center + aside - direction(angle) * length * random.between(0.3, 0.7);
             drawScratch(
-                tile, start, angle + 0.05 * random.bell(),
+                tile, start, angle + 0.09 * random.bell(),
                 {length, random.skewed(0.55, 1.4, 2.5), random.between(0.35, 1.0), curvature, random.between(0.0, 0.4)},
                 random);
         }
@@ -191,8 +184,8 @@ QImage drawWornFilm()
     Random random(15);
     Tile tile(kSize);
     // Running scratches: they pass through the whole tile and meet themselves at its edge.
-    for (int i = 0; i < 13; ++i) {
-        const double x = kSize * (i + random.between(0.1, 0.9)) / 13.0;
+    for (int i = 0; i < 9; ++i) {
+        const double x = kSize * (i + random.between(-0.2, 1.2)) / 9.0;
         const PeriodicNoise sway(3, 1, std::uint32_t(100 + i));
         const PeriodicNoise depth(int(random.between(5.0, 14.0)), 1, std::uint32_t(200 + i));
         const double halfWidth = random.skewed(0.5, 1.5, 2.0);
@@ -217,13 +210,13 @@ QImage drawWornFilm()
         drawHair(tile, start, random.between(40.0, 130.0), random.between(0.7, 1.2), random.between(0.6, 0.9), random);
 
     // Where the emulsion has come off, in chips of all sizes.
-    const PeriodicNoise regions(5, 5, 31);
-    const PeriodicNoise chips(34, 30, 32);
+    const PeriodicNoise regions(7, 7, 31);
+    const PeriodicNoise chips(40, 36, 32);
     for (int y = 0; y < kSize; ++y) {
         for (int x = 0; x < kSize; ++x) {
             const double u = (x + 0.5) / kSize;
             const double v = (y + 0.5) / kSize;
-            const double threshold = 0.78 - 0.5 * smoothStep(-0.1, 0.75, regions.sum(u, v, 2));
+            const double threshold = 0.82 - 0.46 * smoothStep(-0.1, 0.75, regions.sum(u, v, 2));
             Tile::raise(tile.at(x, y), 0.85 * smoothStep(threshold, threshold + 0.06, chips.sum(u, v, 5)));
         }
     }

@@ -81,11 +81,11 @@ QImage drawStarfield()
     Tile tile(kSize);
     for (int i = 0; i < 1500; ++i) {
         const QPointF center(random.between(0.0, kSize), random.between(0.0, kSize));
-        drawGlow(tile, center, random.skewed(0.55, 1.2, 2.0), random.skewed(0.15, 0.85, 1.6), 0.0);
+        drawGlow(tile, center, random.skewed(0.7, 1.4, 2.0), random.skewed(0.25, 1.0, 1.4), 0.0);
     }
     for (const QPointF &center : evenPoints(260, kSize, random))
-        drawGlow(tile, center, random.skewed(1.1, 2.6, 2.5), random.between(0.6, 1.0), 0.12);
-    for (const QPointF &center : evenPoints(34, kSize, random))
+        drawGlow(tile, center, random.skewed(1.3, 3.2, 2.2), random.between(0.7, 1.0), 0.12);
+    for (const QPointF &center : evenPoints(44, kSize, random))
         drawGlow(tile, center, random.skewed(2.8, 6.5, 2.0), 1.0, 0.4);
     return tile.toMask();
 }
@@ -129,11 +129,11 @@ QImage drawTwinkleClusters()
     for (const QPointF &center : evenPoints(26, kSize, random)) {
         const double radius = random.between(36.0, 70.0);
         drawTwinkle(tile, center, radius, 1.0);
-        const int followers = int(random.between(3.0, 7.0));
-        const double first = random.angle();
+        const int followers = int(random.between(2.0, 5.0));
         for (int i = 0; i < followers; ++i) {
-            const double angle = first + 2.0 * std::numbers::pi * i / followers + 0.3 * random.bell();
-            const QPointF place = center + radius * random.between(0.62, 1.25) * direction(angle);
+            // Between the points of the large one.
+            const double angle = std::numbers::pi * (0.25 + 0.5 * i) + 0.22 * random.bell();
+            const QPointF place = center + radius * random.between(0.68, 1.15) * direction(angle);
             if (random.chance(0.6))
                 drawTwinkle(tile, place, radius * random.between(0.2, 0.42), random.between(0.85, 1.0));
             else
@@ -154,24 +154,24 @@ QImage drawMilkyWay()
     Random random(25);
     Tile tile(kSize);
     const PeriodicNoise warp(3, 3, 41);
-    const PeriodicNoise clouds(4, 4, 42);
+    const PeriodicNoise clouds(5, 5, 42);
     const PeriodicNoise lanes(7, 7, 43);
     const auto density = [&](double x, double y) {
-        const double u = x / kSize + 0.06 * warp.sum(x / kSize, y / kSize, 3);
-        const double v = y / kSize + 0.06 * warp.sum(y / kSize + 0.37, x / kSize + 0.71, 3);
-        const double cloud = smoothStep(-0.45, 0.8, clouds.sum(u, v, 5));
-        const double lane = 1.0 - std::abs(lanes.sum(u, v, 4)); // dark dust where the noise changes its sign
-        return cloud * (1.0 - 0.75 * smoothStep(0.78, 1.0, lane));
+        const double u = x / kSize + 0.035 * warp.sum(x / kSize, y / kSize, 2);
+        const double v = y / kSize + 0.035 * warp.sum(y / kSize + 0.37, x / kSize + 0.71, 2);
+        const double cloud = smoothStep(-0.5, 0.95, clouds.sum(u, v, 7));
+        const double lane = 1.0 - std::abs(lanes.sum(u, v, 5)); // dark dust where the noise changes its sign
+        return cloud * (1.0 - 0.55 * smoothStep(0.45, 1.0, lane));
     };
     for (int y = 0; y < kSize; ++y) {
         for (int x = 0; x < kSize; ++x)
-            Tile::add(tile.at(x, y), 0.42 * std::pow(density(x + 0.5, y + 0.5), 1.5));
+            Tile::add(tile.at(x, y), 0.4 * std::pow(density(x + 0.5, y + 0.5), 1.7));
     }
-    for (int i = 0; i < 26000; ++i) {
+    for (int i = 0; i < 42000; ++i) {
         const QPointF center(random.between(0.0, kSize), random.between(0.0, kSize));
         const double here = density(center.x(), center.y());
-        if (random.chance(0.06 + 0.94 * here * here))
-            drawGlow(tile, center, random.skewed(0.5, 1.2, 3.0), random.skewed(0.12, 0.9, 2.2), 0.0);
+        if (random.chance(0.05 + 0.95 * here * here))
+            drawGlow(tile, center, random.skewed(0.55, 1.3, 3.0), random.skewed(0.15, 1.0, 2.0), 0.0);
     }
     for (const QPointF &center : evenPoints(90, kSize, random))
         drawGlow(tile, center, random.skewed(1.2, 3.6, 2.5), random.between(0.7, 1.0), 0.25);
