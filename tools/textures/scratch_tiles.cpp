@@ -210,13 +210,13 @@ QImage drawWornFilm()
         drawHair(tile, start, random.between(40.0, 130.0), random.between(0.7, 1.2), random.between(0.6, 0.9), random);
 
     // Where the emulsion has come off, in chips of all sizes.
-    const PeriodicNoise regions(7, 7, 31);
+    const PeriodicNoise regions(12, 12, 31);
     const PeriodicNoise chips(40, 36, 32);
     for (int y = 0; y < kSize; ++y) {
         for (int x = 0; x < kSize; ++x) {
             const double u = (x + 0.5) / kSize;
             const double v = (y + 0.5) / kSize;
-            const double threshold = 0.82 - 0.46 * smoothStep(-0.1, 0.75, regions.sum(u, v, 2));
+            const double threshold = 0.8 - 0.36 * smoothStep(-0.1, 0.75, regions.sum(u, v, 2));
             Tile::raise(tile.at(x, y), 0.85 * smoothStep(threshold, threshold + 0.06, chips.sum(u, v, 5)));
         }
     }

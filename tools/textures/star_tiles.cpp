@@ -153,12 +153,12 @@ QImage drawMilkyWay()
 {
     Random random(25);
     Tile tile(kSize);
-    const PeriodicNoise warp(3, 3, 41);
-    const PeriodicNoise clouds(5, 5, 42);
-    const PeriodicNoise lanes(7, 7, 43);
+    const PeriodicNoise warp(6, 6, 41);
+    const PeriodicNoise clouds(9, 9, 42);
+    const PeriodicNoise lanes(11, 11, 43);
     const auto density = [&](double x, double y) {
-        const double u = x / kSize + 0.035 * warp.sum(x / kSize, y / kSize, 2);
-        const double v = y / kSize + 0.035 * warp.sum(y / kSize + 0.37, x / kSize + 0.71, 2);
+        const double u = x / kSize + 0.025 * warp.sum(x / kSize, y / kSize, 2);
+        const double v = y / kSize + 0.025 * warp.sum(y / kSize + 0.37, x / kSize + 0.71, 2);
         const double cloud = smoothStep(-0.5, 0.95, clouds.sum(u, v, 7));
         const double lane = 1.0 - std::abs(lanes.sum(u, v, 5)); // dark dust where the noise changes its sign
         return cloud * (1.0 - 0.55 * smoothStep(0.45, 1.0, lane));

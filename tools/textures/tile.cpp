@@ -53,7 +53,7 @@ QImage Tile::toGray() const
 QList<QPointF> evenPoints(int count, int size, Random &random)
 {
     // Best candidate: of some random points the one that is farthest from all before it.
-    constexpr int kCandidates = 10;
+    constexpr int kCandidates = 24;
     const auto apart = [size](double a, double b) {
         const double d = std::abs(a - b);
         return std::min(d, size - d);
