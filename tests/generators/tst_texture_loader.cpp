@@ -1,5 +1,6 @@
 #include "application/user_notification_center.h"
 #include "generators/bundled_texture_loader.h"
+#include "support/textures.h"
 
 #include <QDirIterator>
 #include <QResource>
@@ -7,14 +8,16 @@
 #include <QTemporaryDir>
 #include <QTest>
 
+#include <algorithm>
 #include <cmath>
+#include <vector>
 
 using namespace Qt::StringLiterals;
 using namespace zm;
 
 namespace {
 
-const auto kBundles = QStringLiteral(TEXTURE_BUNDLES);
+const QString kBundles = zm::test::textureFolder();
 
 void write(const QString &path, const QByteArray &bytes)
 {
@@ -185,11 +188,13 @@ private slots:
         QCOMPARE(image.width(), image.height());
         const int channel = path.startsWith("pencil/"_L1) ? 0 : 3;
         for (const bool column : {true, false}) {
-            double greatest = 0.0;
+            std::vector<double> inside;
             for (int line = 0; line + 1 < image.width(); ++line)
-                greatest = std::max(greatest, stepAfter(image, line, column, channel));
-            QCOMPARE_GT(greatest, 0.0);
-            QCOMPARE_LE(stepAfter(image, image.width() - 1, column, channel), greatest);
+                inside.push_back(stepAfter(image, line, column, channel));
+            std::sort(inside.begin(), inside.end());
+            QCOMPARE_GT(inside.back(), 0.0);
+            // An edge that does not continue stands out among the sharpest twentieth.
+            QCOMPARE_LE(stepAfter(image, image.width() - 1, column, channel), inside[inside.size() * 95 / 100]);
         }
     }
 

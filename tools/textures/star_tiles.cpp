@@ -127,7 +127,7 @@ QImage drawTwinkleClusters()
     Random random(24);
     Tile tile(kSize);
     for (const QPointF &center : evenPoints(26, kSize, random)) {
-        const double radius = random.between(36.0, 70.0);
+        const double radius = random.skewed(34.0, 70.0, 1.5);
         drawTwinkle(tile, center, radius, 1.0);
         const int followers = int(random.between(2.0, 5.0));
         for (int i = 0; i < followers; ++i) {

@@ -52,8 +52,8 @@ QImage Tile::toGray() const
 
 QList<QPointF> evenPoints(int count, int size, Random &random)
 {
-    // Best candidate: of some random points the one that is farthest from all before it.
-    constexpr int kCandidates = 24;
+    // Best candidate (Mitchell, "Spectrally Optimal Sampling for Distribution Ray Tracing", 1991): of some random
+    // points the one that is farthest from all before it.
     const auto apart = [size](double a, double b) {
         const double d = std::abs(a - b);
         return std::min(d, size - d);
@@ -63,7 +63,7 @@ QList<QPointF> evenPoints(int count, int size, Random &random)
     while (points.size() < count) {
         QPointF best;
         double bestDistance = -1.0;
-        for (int i = 0; i < kCandidates; ++i) {
+        for (qsizetype i = 0; i < 12 + points.size(); ++i) {
             const QPointF candidate(random.between(0.0, size), random.between(0.0, size));
             double nearest = 1e9;
             for (const QPointF &point : points) {
