@@ -45,15 +45,15 @@ struct GrayscaleLevels
 /// The colours that black and white become.
 struct ToneMapColors
 {
-    QColor shadow;    ///< an invalid one is rgb(26, 13, 5)
-    QColor highlight; ///< an invalid one is rgb(216, 184, 150)
+    QColor shadow{};    ///< an invalid one is rgb(26, 13, 5)
+    QColor highlight{}; ///< an invalid one is rgb(216, 184, 150)
 };
 
 /// A picture as ink: two colours by brightness, and light parts vanish.
 struct HighlightsToAlphaSettings
 {
-    QColor shadow;           ///< an invalid one is rgb(26, 13, 5)
-    QColor midtone;          ///< an invalid one is rgb(90, 56, 32)
+    QColor shadow{};         ///< an invalid one is rgb(26, 13, 5)
+    QColor midtone{};        ///< an invalid one is rgb(90, 56, 32)
     double strength = 1.0;   ///< share of the alpha that white loses
     double threshold = 0.35; ///< brightness from which alpha shrinks, 0..1
     double softness = 0.55;  ///< span of brightness until all of it is gone, above 0
@@ -71,7 +71,7 @@ struct FadeOutSettings
     double softness = 0.6; ///< share of the way over which the fade is spread, 0..1
     double curve = 1.0;    ///< exponent of the fade, above 0
     bool inverted = false; ///< fades at the start
-    QColor color;          ///< what is faded to, with its alpha; an invalid one is transparent
+    QColor color{};        ///< what is faded to, with its alpha; an invalid one is transparent
 };
 
 /// The side on which a reflection enlarges the picture.
@@ -81,16 +81,16 @@ enum class ReflectionGrowth { Down, Up, Right, Left };
 struct WaterReflectionSettings
 {
     ReflectionGrowth growth = ReflectionGrowth::Down;
-    double ratio = 0.7;            ///< length of the reflection to that of the picture, at least 0.1
+    double ratio = 0.7;             ///< length of the reflection to that of the picture, at least 0.1
     QPointF sourceStart{0.5, 0.35}; ///< far end of the part that is reflected; a fraction of the picture
     QPointF sourceEnd{0.5, 0.98};   ///< its end at the waterline
-    double glassMix = 0.0;         ///< 0 water .. 1 glass
-    double opacity = 0.62;         ///< 0..1
-    double fadeExponent = 1.45;    ///< above 1 fades sooner; at least 0.25
-    double waveStrength = 7.56;    ///< reach of the waves at the waterline, pixels
-    double waveFrequency = 1.57;   ///< waves over the reflection
-    double ripple = 5.6;           ///< unevenness of the waves, in units of their reach
-    double sheen = 0.3;            ///< whiteness of glass, 0..1
+    double glassMix = 0.0;          ///< 0 water .. 1 glass
+    double opacity = 0.62;          ///< 0..1
+    double fadeExponent = 1.45;     ///< above 1 fades sooner; at least 0.25
+    double waveStrength = 7.56;     ///< reach of the waves at the waterline, pixels
+    double waveFrequency = 1.57;    ///< waves over the reflection
+    double ripple = 5.6;            ///< unevenness of the waves, in units of their reach
+    double sheen = 0.3;             ///< whiteness of glass, 0..1
 };
 
 /// Edges by the gradients of Sobel.

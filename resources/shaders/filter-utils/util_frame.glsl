@@ -4,7 +4,8 @@
 /// Distances in pixels from the pixel at uv to the region's left, top, right and bottom edge; negative outside.
 vec4 distancesToEdges(vec2 uv, vec2 size, vec4 region)
 {
-    vec2 px = vec2(uv.x * size.x, (1.0 - uv.y) * size.y);
+    vec2 px = floor(uv * size) + 0.5;  // the pixel's centre exactly, or corners would be ragged where edges tie
+    px.y = size.y - px.y;
     return vec4(px - region.xy, region.zw - px);
 }
 

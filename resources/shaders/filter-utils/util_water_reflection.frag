@@ -77,7 +77,7 @@ vec4 reflection(vec2 inputPx, vec2 axis, float t)
 
 void main()
 {
-    vec2 inputPx = v_uv * u_outputSize - u_originalOffset;
+    vec2 inputPx = floor(v_uv * u_outputSize) + 0.5 - u_originalOffset;  // exact, so that bands end in whole rows
     vec2 axis = abs(u_direction);
     float along = dot(inputPx, axis);
     float dist = u_direction.x + u_direction.y > 0.0 ? along - dot(u_inputSize, axis) : -along;
