@@ -36,8 +36,7 @@ QList<FilterInstance> effectsFrom(const Arguments &arguments, QString *problem)
     return effects;
 }
 
-/// Empty when the output was written.
-QString apply(const QList<FilterInstance> &effects, const QString &input, const QString &output,
+Outcome apply(const QList<FilterInstance> &effects, const QString &input, const QString &output,
               const QString &formatKey)
 {
     const QuietLibraries quiet;
@@ -47,21 +46,21 @@ QString apply(const QList<FilterInstance> &effects, const QString &input, const 
     if (imported.layer)
         imported.error = replaceWithImage(document, std::move(imported.layer));
     if (imported.error != ImageImportError::None)
-        return importErrorText(imported.error);
+        return {input, importErrorText(imported.error)};
 
     document.setLayerFilters(layerId, effects);
     EffectsRendering rendering;
     const SceneSnapshot snapshot = buildSceneSnapshot(document, {}, rendering.services());
     if (const QString problem = rendering.problem(); !problem.isEmpty())
-        return problem;
-    // An effect may have grown the picture beyond the document.
-    const bool clip = false;
+        return {input, problem};
+    constexpr bool clip = false; // an effect may have grown the picture beyond the document
     const QSize size = defaultExportSize(exportRectangle(snapshot, clip));
     const ExportResult result = exportImage(snapshot, {formatKey, kDefaultExportQuality, size, clip});
-    QString error = result.error;
-    if (error.isEmpty())
-        writeExportedImage(output, result.bytes, &error);
-    return error;
+    if (!result.error.isEmpty())
+        return {input, result.error};
+    QString error;
+    writeExportedImage(output, result.bytes, &error);
+    return {output, error};
 }
 
 } // namespace
@@ -87,8 +86,7 @@ ExitStatus runApply(const QStringList &words, const QString &usage)
         return wrongUsage(problem, usage);
 
     Console console;
-    if (const QString error = apply(effects, files[0], files[1], formatKey); !error.isEmpty())
-        console.fail(files[0], error);
+    console.report(apply(effects, files[0], files[1], formatKey));
     return console.finish();
 }
 

@@ -35,6 +35,12 @@ void Console::fail(const QString &file, const QString &message)
     write(stderr, u"zelmora: %1: %2\n"_s.arg(file, message));
 }
 
+void Console::report(const Outcome &outcome)
+{
+    if (!outcome.message.isEmpty())
+        fail(outcome.file, outcome.message);
+}
+
 void Console::progress(const QString &text)
 {
     if (!m_showsProgress)

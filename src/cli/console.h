@@ -7,6 +7,13 @@ namespace zm::cli {
 /// What the program tells the shell.
 enum ExitStatus { Done = 0, Failed = 1, WrongUsage = 2 };
 
+/// What went wrong, and with which file; an empty message is success.
+struct Outcome
+{
+    QString file;
+    QString message;
+};
+
 /// Standard output for results, standard error for failures and, on a terminal only, for progress. Remembers whether
 /// something failed.
 class Console
@@ -17,6 +24,8 @@ public:
     void print(const QString &text);
     /// One line "zelmora: FILE: MESSAGE".
     void fail(const QString &file, const QString &message);
+    /// The same, unless all went well.
+    void report(const Outcome &outcome);
     /// A line that the next message or progress replaces.
     void progress(const QString &text);
     /// Clears the progress, flushes, and tells Failed when anything failed, the output itself included.

@@ -97,25 +97,37 @@ QByteArray encoded(const QImage &image, const char *format)
     return image.save(&buffer, format, kEffectPictureQuality) ? buffer.data() : QByteArray();
 }
 
-/// Each effect's picture as DIR/<id>.webp, with its transparency, and all on DIR/sheet.png.
-ExitStatus renderSheet(const QString &folder, const QString &input)
+Outcome write(const QString &folder, const QString &name, const QByteArray &bytes)
 {
-    Console console;
-    const std::optional<QuietLibraries> quiet(std::in_place);
-    ImageImportResult imported = importImageLayer(input);
-    if (!imported.layer) {
-        console.fail(input, importErrorText(imported.error));
-        return console.finish();
-    }
+    const QString path = QDir(folder).filePath(name);
+    if (bytes.isEmpty())
+        return {path, u"Could not encode the image."_s};
+    QString error;
+    writeExportedImage(path, bytes, &error);
+    return {path, error};
+}
+
+/// The layer's pixels, no larger than the picture of one effect.
+QImage reducedPicture(const QImage &image)
+{
+    const QSize bound = image.size().boundedTo({kEffectPictureSide, kEffectPictureSide});
+    return bound == image.size()
+        ? image
+        : image.scaled(bound, Qt::KeepAspectRatio, Qt::SmoothTransformation).convertToFormat(QImage::Format_RGBA8888);
+}
+
+/// Each effect's picture as DIR/<id>.webp, with its transparency, and all of them on DIR/sheet.png.
+Outcome renderSheet(const QString &folder, const QString &input, Console &console)
+{
+    std::optional<QuietLibraries> quiet(std::in_place);
+    const ImageImportResult imported = importImageLayer(input);
+    if (!imported.layer)
+        return {input, importErrorText(imported.error)};
     const RenderedContent content = imported.layer->renderedContent(nullptr);
-    const QSize bound(kEffectPictureSide, kEffectPictureSide);
-    const bool fits = content.image.size().boundedTo(bound) == content.image.size();
-    const QImage picture = fits ? content.image
-                                : content.image.scaled(bound, Qt::KeepAspectRatio, Qt::SmoothTransformation)
-                                      .convertToFormat(QImage::Format_RGBA8888);
+    const QImage picture = reducedPicture(content.image);
 
     const QList<OfferedEffect> effects = allEffects();
-    const int rows = int(effects.size() + 1 + kSheetColumns - 1) / kSheetColumns;
+    const int rows = int(effects.size() + kSheetColumns) / kSheetColumns; // with the original
     QImage sheet(kSheetColumns * kCellWidth, rows * (kPictureHeight + kCaptionHeight), QImage::Format_RGB32);
     sheet.fill(kSheetColor);
     QPainter painter(&sheet);
@@ -130,28 +142,23 @@ ExitStatus renderSheet(const QString &folder, const QString &input)
     drawCell(painter, corner(0), picture, u"Original"_s);
 
     EffectsRendering rendering;
-    const auto write = [&](const QString &name, const QByteArray &bytes) {
-        QString error = u"Could not encode the image."_s;
-        const QString path = QDir(folder).filePath(name);
-        if (bytes.isEmpty() || !writeExportedImage(path, bytes, &error))
-            console.fail(path, error);
-    };
     for (qsizetype i = 0; i < effects.size(); ++i) {
         const Filter &filter = *effects[i].filter;
+        quiet.reset(); // for the progress
         console.progress(u"%1 of %2: %3"_s.arg(i + 1).arg(effects.size()).arg(filter.id()));
+        quiet.emplace();
         const FilterInstance instance{{}, filter.id(), {}, true, false};
         const FilterRenderResult result =
             evaluateFilterStack(picture, content.size, {instance}, rendering.services(), std::nullopt, 0);
-        if (const QString problem = rendering.problem(); !problem.isEmpty()) {
-            console.fail(filter.id(), problem);
-            return console.finish();
-        }
+        if (const QString problem = rendering.problem(); !problem.isEmpty())
+            return {filter.id(), problem};
         drawCell(painter, corner(i + 1), result.image, filter.label());
-        write(filter.id() + u".webp"_s, encoded(result.image, "webp"));
+        const Outcome written = write(folder, filter.id() + u".webp"_s, encoded(result.image, "webp"));
+        if (!written.message.isEmpty())
+            return written;
     }
     painter.end();
-    write(u"sheet.png"_s, encoded(sheet, "png"));
-    return console.finish();
+    return write(folder, u"sheet.png"_s, encoded(sheet, "png"));
 }
 
 } // namespace
@@ -164,7 +171,9 @@ ExitStatus runEffects(const QStringList &words, const QString &usage)
     if (arguments.has(u"--sheet"_s)) {
         if (arguments.has(u"--json"_s) || arguments.files().size() != 1)
             return wrongUsage(u"--sheet takes a folder and one input"_s, usage);
-        return renderSheet(arguments.value(u"--sheet"_s), arguments.files().first());
+        Console console;
+        console.report(renderSheet(arguments.value(u"--sheet"_s), arguments.files().first(), console));
+        return console.finish();
     }
     if (!arguments.files().isEmpty())
         return wrongUsage(u"an input goes with --sheet"_s, usage);

@@ -50,13 +50,6 @@ QSize wishedSize(const QRectF &rectangle, const SizeWish &wish)
     return defaultExportSize(rectangle, limit);
 }
 
-/// What went wrong, and with which file; an empty message is success.
-struct Outcome
-{
-    QString file;
-    QString message;
-};
-
 ExportResult exportDocument(const Document &document, const ExportWish &wish)
 {
     const SceneSnapshot snapshot = buildSceneSnapshot(document, {}, nullptr);
@@ -173,8 +166,7 @@ ExitStatus runExport(const QStringList &words, const QString &usage)
     for (qsizetype i = 0; i < jobs.size(); ++i) {
         console.progress(u"%1 of %2: %3"_s.arg(i + 1).arg(jobs.size()).arg(jobs[i].input));
         const Outcome outcome = exportFile(jobs[i], wish);
-        if (!outcome.message.isEmpty())
-            console.fail(outcome.file, outcome.message);
+        console.report(outcome);
     }
     return console.finish();
 }

@@ -8,6 +8,13 @@ using namespace Qt::StringLiterals;
 
 namespace zm {
 
+namespace {
+
+/// White without alpha: as it comes, a picture fades to transparency.
+constexpr QColor kDefaultFadeColor(255, 255, 255, 0);
+
+} // namespace
+
 QStringList FadeOutFilter::pickerKeywords() const
 {
     constexpr auto english = QT_TR_NOOP("alpha, fade, gradient, transparent");
@@ -29,7 +36,7 @@ QList<ParameterDefinition> FadeOutFilter::controls() const
     static_cast<ParameterHead &>(invert) = {u"invert"_s, tr("Invert"), {}, ParameterUnit::None};
     ColorParameter color;
     static_cast<ParameterHead &>(color) = {u"fadeColor"_s, tr("Fade color"), {}, ParameterUnit::None};
-    color.defaultValue = Qt::white;
+    color.defaultValue = kDefaultFadeColor;
     DocumentColorParameter documentColor;
     documentColor.id = u"_documentColor"_s;
     documentColor.label = tr("Document color");
@@ -57,7 +64,7 @@ QImage FadeOutFilter::faded(const QImage &image, const ParameterValues &paramete
     settings.curve = parameters.number(u"curve"_s, 100.0) / 100.0;
     settings.softness = parameters.number(u"softness"_s, 60.0) / 100.0;
     settings.inverted = parameters.boolean(u"invert"_s, false);
-    settings.color = parameters.color(u"fadeColor"_s, Qt::white);
+    settings.color = parameters.color(u"fadeColor"_s, kDefaultFadeColor);
     const QImage faded = services->filterRenderer->fadeOut(image, settings);
     return faded.isNull() ? image : faded;
 }

@@ -73,6 +73,10 @@ private slots:
             {"export photo.jpg none/out.png", "none/out.png: Could not save the image: No such file or directory"},
             {"export --into none photo.jpg", "none/photo.jpg: Could not save the image: No such file or directory"},
             {"shapes none/sheet.png", "none/sheet.png: Could not save the image: No such file or directory"},
+            {"apply --effect bevel cut.jpg out.jpg", "cut.jpg: Could not load the selected image file."},
+            {"apply --effect bevel photo.jpg none/out.png",
+             "none/out.png: Could not save the image: No such file or directory"},
+            {"effects --sheet . none.png", "none.png: Choose an existing file."},
             {"export --into . photo.jpg", "photo.jpg: The output ./photo.jpg would replace another file of this call."},
         };
         for (const auto &[arguments, errors] : rows) {
@@ -92,6 +96,11 @@ private slots:
               "--quality photo.jpg", "--width 15 photo.jpg o.jpg", "--height 8193 photo.jpg o.jpg",
               "--max-side big photo.jpg o.jpg", "--transparent photo.jpg o.jpg", "--format png photo.jpg o.png"}},
             {"export --into ", {"", "folder.png", ". --format gif photo.jpg", ". --transparent photo.jpg"}},
+            {"apply ",
+             {"photo.jpg out.png", "--effect bevel photo.jpg", "--effect bevel photo.jpg out.gif",
+              "--set size=2 --effect bevel photo.jpg out.png", "--effect bevil photo.jpg out.png",
+              "--effect bevel --set sise=2 photo.jpg out.png", "--effect bevel --set size=big photo.jpg out.png"}},
+            {"effects ", {"photo.jpg", "--sheet .", "--sheet . --json photo.jpg"}},
             {"shapes --generator star5 ",
              {"star.jpg", "--set rays=7 star.png", "--set spikes star.png", "--set spikes=many star.png",
               "--set tipRoundness=nan star.png", "--size 0x10 star.png", "--size 9000x10 star.png"}}};
@@ -247,6 +256,47 @@ private slots:
         QCOMPARE(drawn.pixelColor(100, 40), QColor(0xff, 0xdf, 0x00));
         QCOMPARE(drawn.pixelColor(50, 40).alpha(), 0);
         QCOMPARE(listing().size(), m_before.size() + 4);
+    }
+
+    void effectsAreApplied()
+    {
+        const QByteArray cut = "apply --effect shape-tool --set mask=ellipse --set mask.stroke=#ff00ff@20 ";
+        QCOMPARE(zelmora(cut + "photo.jpg out.png"), Run(0));
+        const QImage stroked(path("out.png"));
+        QCOMPARE(stroked.size(), QSize(300, 201));
+        QCOMPARE(stroked.pixelColor(0, 0).alpha(), 0);
+        QCOMPARE(stroked.pixelColor(150, 2), QColor(Qt::magenta));
+        // Each --set belongs to the effect before it, and the first effect comes first: the fade takes the line along.
+        QCOMPARE(zelmora(cut
+                         + "--effect fade-image --set position=0.5,0,0.5,0.1 --set fadeColor=#00ff00 "
+                           "photo.jpg out.png"),
+                 Run(0));
+        QCOMPARE(QImage(path("out.png")).pixelColor(150, 195), QColor(Qt::green));
+        QCOMPARE(QImage(path("out.png")).pixelColor(0, 0).alpha(), 0);
+        // What there is, is named.
+        QVERIFY(zelmora("apply --effect bevil photo.jpg out.png").errors.contains("vignette"_L1));
+        QVERIFY(zelmora("apply --effect bevel --set sise=2 photo.jpg out.png").errors.contains("smoothness"_L1));
+    }
+
+    void effectsAreListed()
+    {
+        const QJsonArray effects = QJsonDocument::fromJson(zelmora("effects --json").output.toUtf8()).array();
+        const auto bevel = std::ranges::find_if(
+            effects, [](const QJsonValue &effect) { return effect["id"_L1].toString() == "bevel"_L1; });
+        QVERIFY(bevel != effects.end());
+        QCOMPARE((*bevel)["group"_L1].toString(), u"Edges"_s);
+        QCOMPARE((*bevel)["category"_L1].toString(), u"Edge"_s);
+        const QJsonValue size = (*bevel)["controls"_L1][0];
+        QCOMPARE(size["type"_L1].toString(), u"range"_s);
+        QCOMPARE(size["unit"_L1].toString(), u"px"_s);
+        QVERIFY(size["minimum"_L1].toDouble() < size["default"_L1].toDouble());
+        const QString list = zelmora("effects").output;
+        QVERIFY(list.contains("  bevel "_L1) && list.count(u'\n') > effects.size());
+
+        QCOMPARE(zelmora("effects --sheet . photo.jpg"), Run(0));
+        QCOMPARE(listing().size(), m_before.size() + effects.size() + 1);
+        QCOMPARE(QImage(path("bevel.webp")).size(), QSize(300, 201));
+        QVERIFY(!QImage(path("sheet.png")).isNull());
     }
 
     void helpAndVersionAreResults()
