@@ -1,6 +1,7 @@
 #include "base/memory_tuning.h"
 #include "bench.h"
 #include "blur_bench.h"
+#include "effects_bench.h"
 #include "export_bench.h"
 #include "io/image_allocation.h"
 #include "scene_bench.h"
@@ -26,9 +27,9 @@ struct BenchGroup
 
 constexpr BenchGroup kGroups[] = {
     {"scene"_L1, zm::bench::benchScene},   {"vectors"_L1, zm::bench::benchVectors},
-    {"blur"_L1, zm::bench::benchBlur},     {"text"_L1, zm::bench::benchText},
-    {"export"_L1, zm::bench::benchExport}, {"shapes"_L1, zm::bench::benchShapes},
-    {"start"_L1, zm::bench::benchStartup},
+    {"blur"_L1, zm::bench::benchBlur},     {"effects"_L1, zm::bench::benchEffects},
+    {"text"_L1, zm::bench::benchText},     {"export"_L1, zm::bench::benchExport},
+    {"shapes"_L1, zm::bench::benchShapes}, {"start"_L1, zm::bench::benchStartup},
 };
 
 void print(const QList<zm::bench::BenchRow> &rows)
