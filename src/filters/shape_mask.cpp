@@ -17,6 +17,9 @@ namespace {
 /// At a feather of 100 the edge is spread over about half the shorter side.
 constexpr double kFeatherPerSide = 0.002;
 
+/// The blur, in pixels of the mask, that a mask is drawn small enough for.
+constexpr double kSoftMaskSigma = 4.0;
+
 } // namespace
 
 QPainterPath shapeMaskPath(const QString &generatorId, const ParameterValues &shapeParameters,
@@ -60,8 +63,11 @@ PassChain::Picture addShapeMask(PassChain &chain, const FilterRenderRequest &req
     const QSizeF box = request.bounds.size();
     const QPainterPath path = shapeMaskPath(values.string(u"mask"_s, defaults.generatorId), {},
                                             values.maskTransform(u"mask.transform"_s, defaults.transform), box);
-    const PassChain::Picture mask = chain.source(filledShapeMask(path, box, request.size()));
-    return chain.reducedBlur(mask, featherSigma(request.number(u"mask.feather"_s, defaults.feather), request.size()));
+    // A soft mask has nothing to show between the pixels of a smaller picture, which the shader's sampler enlarges.
+    const double sigma = featherSigma(request.number(u"mask.feather"_s, defaults.feather), request.size());
+    const double scale = std::min(kSoftMaskSigma / std::max(sigma, kSoftMaskSigma), 1.0);
+    const QSize size = (QSizeF(request.size()) * scale).toSize().expandedTo({1, 1});
+    return chain.gaussianBlur(chain.source(filledShapeMask(path, box, size)), sigma * scale);
 }
 
 } // namespace zm
