@@ -14,6 +14,16 @@ FilterRegistry::FilterRegistry()
     m_filters.push_back(std::make_unique<ShapeToolFilter>());
     m_filters.push_back(makeBevelFilter());
     m_filters.push_back(makeVignetteFilter());
+    m_filters.push_back(makeLomoFilter());
+    m_filters.push_back(makeEightiesFlashFilter());
+    m_filters.push_back(makeAutumnGlowFilter());
+    m_filters.push_back(makeWinterBreezeFilter());
+    m_filters.push_back(makeFilmGraderFilter());
+    m_filters.push_back(makeFilmGrainFilter());
+    m_filters.push_back(makeHalationFilter());
+    m_filters.push_back(makeDreamyBlendFilter());
+    m_filters.push_back(makeRetroFilter());
+    m_filters.push_back(makeNightvisionFilter());
 }
 
 const FilterRegistry &FilterRegistry::instance()

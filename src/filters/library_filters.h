@@ -10,5 +10,15 @@ class Filter;
 
 std::unique_ptr<Filter> makeBevelFilter();
 std::unique_ptr<Filter> makeVignetteFilter();
+std::unique_ptr<Filter> makeLomoFilter();
+std::unique_ptr<Filter> makeEightiesFlashFilter();
+std::unique_ptr<Filter> makeAutumnGlowFilter();
+std::unique_ptr<Filter> makeWinterBreezeFilter();
+std::unique_ptr<Filter> makeFilmGraderFilter();
+std::unique_ptr<Filter> makeFilmGrainFilter();
+std::unique_ptr<Filter> makeHalationFilter();
+std::unique_ptr<Filter> makeDreamyBlendFilter();
+std::unique_ptr<Filter> makeRetroFilter();
+std::unique_ptr<Filter> makeNightvisionFilter();
 
 } // namespace zm

@@ -20,6 +20,9 @@ constexpr double kFeatherPerSide = 0.002;
 /// The blur, in pixels of the mask, that a mask is drawn small enough for.
 constexpr double kSoftMaskSigma = 4.0;
 
+/// The longer side of a mask for corners, in pixels.
+constexpr double kCornerMaskSide = 384.0;
+
 } // namespace
 
 QPainterPath shapeMaskPath(const QString &generatorId, const ParameterValues &shapeParameters,
@@ -68,6 +71,15 @@ PassChain::Picture addShapeMask(PassChain &chain, const FilterRenderRequest &req
     const double scale = std::min(kSoftMaskSigma / std::max(sigma, kSoftMaskSigma), 1.0);
     const QSize size = (QSizeF(request.size()) * scale).toSize().expandedTo({1, 1});
     return chain.gaussianBlur(chain.source(filledShapeMask(path, box, size)), sigma * scale);
+}
+
+PassChain::Picture addCornerMask(PassChain &chain, const QSizeF &size, double share)
+{
+    const QSize maskSize =
+        size.scaled(kCornerMaskSide, kCornerMaskSide, Qt::KeepAspectRatio).toSize().expandedTo(QSize(1, 1));
+    const QPainterPath path = shapeMaskPath(u"ellipse"_s, {}, {.scaleX = share, .scaleY = share}, size);
+    const PassChain::Picture mask = chain.source(filledShapeMask(path, size, maskSize));
+    return chain.gaussianBlur(mask, featherSigma(75.0, maskSize));
 }
 
 } // namespace zm

@@ -32,4 +32,9 @@ struct ShapeMaskDefaults
 PassChain::Picture addShapeMask(PassChain &chain, const FilterRenderRequest &request,
                                 const ShapeMaskDefaults &defaults);
 
+/// The mask of a vignette that has no controls of its own: a soft ellipse in a picture of a box of `size` units, small
+/// and to be read with linear filtering, whose alpha is 1 in the middle and falls to 0 at the corners. The ellipse
+/// is `share` of the box.
+PassChain::Picture addCornerMask(PassChain &chain, const QSizeF &size, double share = 0.98);
+
 } // namespace zm

@@ -1,0 +1,148 @@
+#version 440
+// A picture as a film stock would have drawn it: light falls off towards the corners, the stock's curve and colours
+// are applied in a perceptual colour space, then fading, grain, and the dust and scratches of a worn print.
+// In and out: straight alpha, (0, 0) top left; alpha is kept. Cost: one texture read, two noises; artifacts: 18 hashes.
+#extension GL_GOOGLE_include_directive : require
+#include "../common/film.glsl"
+#include "../common/shapes.glsl"
+layout(location = 0) in vec2 v_uv;
+layout(location = 0) out vec4 fragColor;
+layout(binding = 0) uniform sampler2D u_input;
+layout(std140, binding = 1) uniform LibraryUniforms {
+    vec4 u_param0;  // size: width and height, pixels
+    vec4 u_param1;  // style: index into kStocks
+    vec4 u_param2;  // strength: share of the graded picture, 0..1
+    vec4 u_param3;  // saturation: -1..1, 0 is the stock's own
+    vec4 u_param4;  // contrast: -1..1, 0 is the stock's own
+    vec4 u_param5;  // fade: how far black is lifted, 0..1
+    vec4 u_param6;  // x: grain, 0..1; y: size of a grain, pixels
+    vec4 u_param7;  // vignette: loss of light in the corners, 0..1
+    vec4 u_param8;  // artifacts: dust and scratches, 0..1
+    vec4 u_param9;  // seed
+};
+
+struct Stock
+{
+    vec4 tone;       // x: contrast; y: chroma; z: how far black is lifted; w: exposure in stops
+    vec4 tint;       // xy: Oklab a and b of shadows, zw: of highlights
+    vec4 palette;    // xy: an axis in Oklab's a and b; z: how far other hues are drawn to it; w: how dark strong
+                     // colours get, as dyes do
+    vec4 fadeColor;  // rgb: what black fades to, encoded; w: how much grain
+};
+
+const Stock kStocks[9] = Stock[](
+    // Colour negative: gentle, warm highlights, a breath of green in the shadows.
+    Stock(vec4(0.20, 1.04, 0.10, 0.12), vec4(-0.012, -0.004, 0.006, 0.018), vec4(0.75, 0.66, 0.12, 0.16), vec4(0.30, 0.33, 0.31, 1.0)),
+    // Slide: deep and clear, cool shadows.
+    Stock(vec4(0.52, 1.30, 0.0, -0.08), vec4(-0.004, -0.020, 0.002, 0.008), vec4(0.6, 0.8, 0.0, 0.36), vec4(0.22, 0.25, 0.34, 0.5)),
+    // Teal and orange.
+    Stock(vec4(0.36, 1.12, 0.03, 0.0), vec4(-0.036, -0.030, 0.016, 0.036), vec4(0.66, 0.75, 0.55, 0.2), vec4(0.20, 0.30, 0.34, 0.8)),
+    // Bleach bypass: silver left in the print.
+    Stock(vec4(0.72, 0.42, 0.0, 0.10), vec4(-0.006, -0.010, -0.004, 0.004), vec4(0.6, 0.8, 0.0, 0.1), vec4(0.25, 0.26, 0.27, 1.4)),
+    // A print that faded for forty years: cyan went first.
+    Stock(vec4(-0.06, 0.80, 0.42, 0.16), vec4(0.020, 0.010, 0.006, 0.036), vec4(0.8, 0.6, 0.15, 0.0), vec4(0.40, 0.29, 0.27, 1.0)),
+    // Cross-processed slide: blue shadows, yellow-green lights.
+    Stock(vec4(0.58, 1.18, 0.05, 0.10), vec4(-0.006, -0.052, -0.034, 0.062), vec4(-0.3, 0.95, 0.0, 0.2), vec4(0.10, 0.20, 0.38, 0.9)),
+    // Cinema tungsten: blue dusk, lamps stay warm.
+    Stock(vec4(0.30, 1.02, 0.05, -0.05), vec4(-0.018, -0.050, 0.004, -0.004), vec4(0.60, 0.80, 0.22, 0.25), vec4(0.17, 0.23, 0.33, 1.1)),
+    // Golden seventies.
+    Stock(vec4(0.10, 1.02, 0.24, 0.12), vec4(0.010, 0.006, 0.010, 0.052), vec4(0.45, 0.89, 0.28, 0.12), vec4(0.38, 0.30, 0.24, 1.0)),
+    // Black and white, a little warm as paper is.
+    Stock(vec4(0.46, 0.0, 0.05, 0.06), vec4(0.001, 0.003, 0.001, 0.006), vec4(0.6, 0.8, 0.0, 0.0), vec4(0.28, 0.27, 0.26, 1.3)));
+
+vec3 developed(vec3 linear, Stock stock)
+{
+    vec3 lab = linearToOklab(rolledOff(linear * exp2(stock.tone.w), 0.72));
+    float chroma = stock.tone.y * (1.0 + u_param3.x);
+    // Black and white sees blue darker and red lighter than the eye.
+    lab.x += 0.30 * (1.0 - min(stock.tone.y * 4.0, 1.0)) * dot(lab.yz, vec2(0.35, 0.65)) * lab.x;
+
+    float along = dot(lab.yz, stock.palette.xy);
+    vec2 across = lab.yz - along * stock.palette.xy;
+    lab.yz = vibrantChroma(along * stock.palette.xy + across * (1.0 - stock.palette.z), chroma);
+    lab.x *= 1.0 - stock.palette.w * min(length(lab.yz), 0.4) * lab.x;
+
+    lab.x = toneCurve(lab.x, clamp(stock.tone.x + 0.8 * u_param4.x, -1.0, 1.0));
+    // Tints come and go with the tone: none in the deepest black and in white.
+    float shadows = lab.x * (1.0 - lab.x) * (1.0 - lab.x) * 6.75;
+    float lights = lab.x * lab.x * (1.0 - lab.x * lab.x) * 4.0;
+    float tint = min(1.0 + u_param3.x, 1.0) * (1.0 - 0.35 * skinShare(lab.yz));
+    lab.yz += tint * (stock.tint.xy * shadows + stock.tint.zw * lights);
+    return oklabToEncoded(lab);
+}
+
+// Dark is lifted towards the colour that the stock fades to, white comes down a little.
+vec3 faded(vec3 color, Stock stock)
+{
+    float amount = clamp(stock.tone.z + u_param5.x, 0.0, 1.2);
+    vec3 black = stock.fadeColor.rgb * 0.62 * amount;
+    return black + color * (1.0 - black - 0.05 * amount * vec3(0.4, 0.7, 1.3));
+}
+
+// What lies on a worn print, as a shift towards white (above 0) or black: specks of dust, hairs, scratches that ran
+// through the projector. Sizes follow the diagonal.
+float wear(vec2 pixel, uint seed)
+{
+    float unit = length(u_param0.xy) / 1000.0;
+    vec2 p = pixel / unit;
+    float amount = u_param8.x;
+    float thin = min(unit * 0.8, 1.0); // lines narrower than a pixel show less
+    float sum = 0.0;
+    for (int layer = 0; layer < 2; ++layer) {
+        float cellSize = layer == 0 ? 26.0 : 90.0;
+        ivec2 home = ivec2(floor(p / cellSize));
+        for (int y = 0; y < 2; ++y) {
+            for (int x = 0; x < 2; ++x) {
+                // The four cells whose middles are nearest.
+                ivec2 cell = ivec2(floor(p / cellSize - 0.5)) + ivec2(x, y);
+                vec3 here = hash23(cell, seed + uint(layer));
+                vec3 more = hash23(cell, seed + 5u + uint(layer));
+                if (more.z > amount * 0.55)
+                    continue;
+                vec2 offset = p - (vec2(cell) + 0.5 + 0.6 * (here.xy - 0.5)) * cellSize;
+                float sign = more.y < 0.72 ? 1.0 : -0.8;
+                if (layer == 0) {
+                    vec2 q = rotation(here.z * 6.28) * offset * vec2(1.0, 1.0 + more.x);
+                    float lump = length(q) + 0.35 * sin(3.0 * atan(q.y, q.x + 1e-4) + 9.0 * here.x);
+                    float radius = 0.45 + 1.3 * more.x * more.x;
+                    sum += sign * coverage((lump - radius) * unit) * 0.85;
+                } else {
+                    vec2 q = rotation(here.z * 6.28) * offset;
+                    float bend = q.y - (10.0 * (more.x - 0.5)) * cos(q.x * 0.11) - 2.5 * sin(q.x * 0.23 + 9.0 * here.y);
+                    float reach = 8.0 + 16.0 * more.y;
+                    float body = coverage((abs(bend) - 0.35) * unit) * thin;
+                    sum += sign * 0.75 * body * (1.0 - smoothstep(reach - 3.0, reach, abs(q.x)));
+                }
+            }
+        }
+    }
+    // Scratches wander slowly sideways and break off.
+    for (int i = 0; i < 6; ++i) {
+        vec3 line = hash23(ivec2(i, 77), seed + 3u);
+        float across = line.x * u_param0.x / unit + 5.0 * (valueNoise(vec2(p.y * 0.004, float(i) * 7.0), seed + 4u) - 0.5);
+        float broken = smoothstep(0.42, 0.60, valueNoise(vec2(p.y * 0.012, float(i) * 13.0), seed + 6u));
+        float width = 0.18 + 0.35 * line.y;
+        sum += coverage((abs(p.x - across) - width) * unit) * thin * broken * step(line.z, amount * 1.1) * (line.y < 0.6 ? 0.45 : -0.35);
+    }
+    return clamp(sum, -1.0, 1.0);
+}
+
+void main()
+{
+    vec4 src = texture(u_input, v_uv);
+    Stock stock = kStocks[clamp(int(u_param1.x + 0.5), 0, 8)];
+    vec2 pixel = v_uv * u_param0.xy;
+    uint seed = seedBits(u_param9.x);
+
+    vec3 light = toLinear(src.rgb) * lensFalloff(v_uv, u_param0.xy, 0.45 * u_param7.x);
+    vec3 rgb = faded(developed(light, stock), stock);
+    float luma = luminance(rgb);
+    vec3 grain = filmGrain(pixel, u_param6.y, stock.tone.y > 0.0 ? 0.2 : 0.0, seed);
+    rgb = withGrain(rgb, grain * u_param6.x * 0.42 * stock.fadeColor.w * (0.45 + 0.55 * smoothstep(0.0, 0.3, luma)));
+    if (u_param8.x > 0.0) {
+        float mark = wear(pixel, seed + 20u);
+        rgb = mix(rgb, mark > 0.0 ? vec3(0.95, 0.93, 0.88) : vec3(0.06, 0.05, 0.05), abs(mark) * (0.35 + 0.65 * u_param8.x));
+    }
+    rgb = mix(src.rgb, rgb, u_param2.x);
+    fragColor = vec4(clamp(dithered(rgb, gl_FragCoord.xy), 0.0, 1.0), src.a);
+}
