@@ -38,7 +38,7 @@ void main()
 
     if (u_param7.x > 0.0) {
         float period = max(u_param3.x, 0.1);
-        float visible = smoothstep(1.6, 3.2, period); // finer lines than pixels are even grey
+        float visible = smoothstep(1.0, 2.6, period); // finer lines than pixels are even grey
         float wave = cos(6.28318531 * v_uv.y * u_param0.y / period);
         lit *= 1.0 - u_param7.x * (0.28 + 0.28 * wave * visible);
     }

@@ -28,7 +28,7 @@ public:
         screen.setVec2("u_size"_L1, request.image.width(), request.image.height());
         screen.setColor("u_tint_a"_L1, QColor(2, 10, 4));
         screen.setColor("u_tint_b"_L1, request.parameters.color(u"color"_s, QColor(77, 255, 90)));
-        screen.setFloat("u_scanlines"_L1, request.diagonalPixels(u"lineSize"_s, 2.5));
+        screen.setFloat("u_scanlines"_L1, request.diagonalPixels(u"lineSize"_s, 3.5));
         screen.setFloat("u_vignette"_L1, request.percent(u"vignette"_s, 100.0));
         screen.setVec2("u_gain"_L1, std::exp2(4.0 * request.percent(u"gain"_s, 50.0) - 0.5),
                        request.percent(u"glow"_s, 40.0));
