@@ -4,7 +4,8 @@
 #include "color.glsl"
 #include "noise.glsl"
 
-// Three unrelated value noises, mean 0, within -0.5..0.5, for the price of one: ten bits of each corner's hash a channel.
+// Three unrelated value noises, mean 0, within -0.5..0.5, for the price of one: each takes ten bits of a corner's
+// hash.
 vec3 valueNoise3(vec2 p, uint seed)
 {
     vec2 cell = floor(p);

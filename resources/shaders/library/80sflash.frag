@@ -32,8 +32,8 @@ void main()
     light = mix(light, soft, 0.55 * u_param5.x);
     light += soft * smoothstep(0.12, 0.75, linearLuminance(soft)) * 0.7 * u_param6.x;
 
-    float distance2 = dot(pixel - u_param1.xy * u_param0.xy, pixel - u_param1.xy * u_param0.xy) / max(u_param2.x * u_param2.x, 1e-4);
-    float beam = 1.0 / (1.0 + 0.75 * distance2);
+    vec2 away = (pixel - u_param1.xy * u_param0.xy) / max(u_param2.x, 1e-2);
+    float beam = 1.0 / (1.0 + 0.75 * dot(away, away));
     beam *= beam;
     light *= mix(1.0, 0.14 + 1.95 * beam, flash);
     light += 0.022 * flash * beam * vec3(1.0, 0.97, 0.96); // flat light reaches into near shadows

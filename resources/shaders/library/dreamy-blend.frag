@@ -32,8 +32,10 @@ void main()
 
     // Clearness: the subject against its four neighbours.
     vec2 reach = max(u_param8.y, 0.5) / max(size, 1.0);
-    vec3 around = 0.25 * (texture(u_input, v_uv + vec2(reach.x, 0.0)).rgb + texture(u_input, v_uv - vec2(reach.x, 0.0)).rgb
-                          + texture(u_input, v_uv + vec2(0.0, reach.y)).rgb + texture(u_input, v_uv - vec2(0.0, reach.y)).rgb);
+    vec2 across = vec2(reach.x, 0.0);
+    vec2 along = vec2(0.0, reach.y);
+    vec3 around = 0.25 * (texture(u_input, v_uv + across).rgb + texture(u_input, v_uv - across).rgb
+                          + texture(u_input, v_uv + along).rgb + texture(u_input, v_uv - along).rgb);
     float detail = clamp(luminance(src.rgb - around), -0.1, 0.1);
     vec3 light = toLinear(clamp(src.rgb + (1.0 - outside) * u_param8.x * 1.2 * detail, 0.0, 1.0));
 
@@ -44,7 +46,8 @@ void main()
 
     // A wash whose hue drifts along the diagonal; dark tones take less of it, white keeps most of its light.
     vec3 tint = encodedToOklab(u_param1.rgb);
-    float drift = u_param3.x * 1.5 * clamp(0.6 * (centred.x + centred.y) + 0.12 * sin(2.6 * centred.x - 1.7 * centred.y), -1.0, 1.0);
+    float diagonal = 0.6 * (centred.x + centred.y) + 0.12 * sin(2.6 * centred.x - 1.7 * centred.y);
+    float drift = u_param3.x * 1.5 * clamp(diagonal, -1.0, 1.0);
     vec2 hue = rotation(drift) * tint.yz;
     float amount = u_param2.x;
     float skin = skinShare(lab.yz);

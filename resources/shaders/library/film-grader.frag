@@ -32,23 +32,32 @@ struct Stock
 
 const Stock kStocks[9] = Stock[](
     // Colour negative: gentle, warm highlights, a breath of green in the shadows.
-    Stock(vec4(0.20, 1.04, 0.10, 0.12), vec4(-0.012, -0.004, 0.006, 0.018), vec4(0.75, 0.66, 0.12, 0.16), vec4(0.30, 0.33, 0.31, 1.0)),
+    Stock(vec4(0.20, 1.04, 0.10, 0.12), vec4(-0.012, -0.004, 0.006, 0.018), vec4(0.75, 0.66, 0.12, 0.16),
+          vec4(0.30, 0.33, 0.31, 1.0)),
     // Slide: deep and clear, cool shadows.
-    Stock(vec4(0.52, 1.30, 0.0, -0.08), vec4(-0.004, -0.020, 0.002, 0.008), vec4(0.6, 0.8, 0.0, 0.36), vec4(0.22, 0.25, 0.34, 0.5)),
+    Stock(vec4(0.52, 1.30, 0.0, -0.08), vec4(-0.004, -0.020, 0.002, 0.008), vec4(0.6, 0.8, 0.0, 0.36),
+          vec4(0.22, 0.25, 0.34, 0.5)),
     // Teal and orange.
-    Stock(vec4(0.36, 1.12, 0.03, 0.0), vec4(-0.036, -0.030, 0.016, 0.036), vec4(0.66, 0.75, 0.55, 0.2), vec4(0.20, 0.30, 0.34, 0.8)),
+    Stock(vec4(0.36, 1.12, 0.03, 0.0), vec4(-0.036, -0.030, 0.016, 0.036), vec4(0.66, 0.75, 0.55, 0.2),
+          vec4(0.20, 0.30, 0.34, 0.8)),
     // Bleach bypass: silver left in the print.
-    Stock(vec4(0.72, 0.42, 0.0, 0.10), vec4(-0.006, -0.010, -0.004, 0.004), vec4(0.6, 0.8, 0.0, 0.1), vec4(0.25, 0.26, 0.27, 1.4)),
+    Stock(vec4(0.72, 0.42, 0.0, 0.10), vec4(-0.006, -0.010, -0.004, 0.004), vec4(0.6, 0.8, 0.0, 0.1),
+          vec4(0.25, 0.26, 0.27, 1.4)),
     // A print that faded for forty years: cyan went first.
-    Stock(vec4(-0.06, 0.80, 0.42, 0.16), vec4(0.020, 0.010, 0.006, 0.036), vec4(0.8, 0.6, 0.15, 0.0), vec4(0.40, 0.29, 0.27, 1.0)),
+    Stock(vec4(-0.06, 0.80, 0.42, 0.16), vec4(0.020, 0.010, 0.006, 0.036), vec4(0.8, 0.6, 0.15, 0.0),
+          vec4(0.40, 0.29, 0.27, 1.0)),
     // Cross-processed slide: blue shadows, yellow-green lights.
-    Stock(vec4(0.58, 1.18, 0.05, 0.10), vec4(-0.006, -0.052, -0.034, 0.062), vec4(-0.3, 0.95, 0.0, 0.2), vec4(0.10, 0.20, 0.38, 0.9)),
+    Stock(vec4(0.58, 1.18, 0.05, 0.10), vec4(-0.006, -0.052, -0.034, 0.062), vec4(-0.3, 0.95, 0.0, 0.2),
+          vec4(0.10, 0.20, 0.38, 0.9)),
     // Cinema tungsten: blue dusk, lamps stay warm.
-    Stock(vec4(0.30, 1.02, 0.05, -0.05), vec4(-0.018, -0.050, 0.004, -0.004), vec4(0.60, 0.80, 0.22, 0.25), vec4(0.17, 0.23, 0.33, 1.1)),
+    Stock(vec4(0.30, 1.02, 0.05, -0.05), vec4(-0.018, -0.050, 0.004, -0.004), vec4(0.60, 0.80, 0.22, 0.25),
+          vec4(0.17, 0.23, 0.33, 1.1)),
     // Golden seventies.
-    Stock(vec4(0.10, 1.02, 0.24, 0.12), vec4(0.010, 0.006, 0.010, 0.052), vec4(0.45, 0.89, 0.28, 0.12), vec4(0.38, 0.30, 0.24, 1.0)),
+    Stock(vec4(0.10, 1.02, 0.24, 0.12), vec4(0.010, 0.006, 0.010, 0.052), vec4(0.45, 0.89, 0.28, 0.12),
+          vec4(0.38, 0.30, 0.24, 1.0)),
     // Black and white, a little warm as paper is.
-    Stock(vec4(0.46, 0.0, 0.05, 0.06), vec4(0.001, 0.003, 0.001, 0.006), vec4(0.6, 0.8, 0.0, 0.0), vec4(0.28, 0.27, 0.26, 1.3)));
+    Stock(vec4(0.46, 0.0, 0.05, 0.06), vec4(0.001, 0.003, 0.001, 0.006), vec4(0.6, 0.8, 0.0, 0.0),
+          vec4(0.28, 0.27, 0.26, 1.3)));
 
 vec3 developed(vec3 linear, Stock stock)
 {
@@ -90,7 +99,6 @@ float wear(vec2 pixel, uint seed)
     float sum = 0.0;
     for (int layer = 0; layer < 2; ++layer) {
         float cellSize = layer == 0 ? 26.0 : 90.0;
-        ivec2 home = ivec2(floor(p / cellSize));
         for (int y = 0; y < 2; ++y) {
             for (int x = 0; x < 2; ++x) {
                 // The four cells whose middles are nearest.
@@ -119,10 +127,12 @@ float wear(vec2 pixel, uint seed)
     // Scratches wander slowly sideways and break off.
     for (int i = 0; i < 6; ++i) {
         vec3 line = hash23(ivec2(i, 77), seed + 3u);
-        float across = line.x * u_param0.x / unit + 5.0 * (valueNoise(vec2(p.y * 0.004, float(i) * 7.0), seed + 4u) - 0.5);
+        float sway = valueNoise(vec2(p.y * 0.004, float(i) * 7.0), seed + 4u) - 0.5;
+        float across = line.x * u_param0.x / unit + 5.0 * sway;
         float broken = smoothstep(0.42, 0.60, valueNoise(vec2(p.y * 0.012, float(i) * 13.0), seed + 6u));
         float width = 0.18 + 0.35 * line.y;
-        sum += coverage((abs(p.x - across) - width) * unit) * thin * broken * step(line.z, amount * 1.1) * (line.y < 0.6 ? 0.45 : -0.35);
+        float body = coverage((abs(p.x - across) - width) * unit) * thin;
+        sum += body * broken * step(line.z, amount * 1.1) * (line.y < 0.6 ? 0.45 : -0.35);
     }
     return clamp(sum, -1.0, 1.0);
 }
@@ -141,7 +151,8 @@ void main()
     rgb = withGrain(rgb, grain * u_param6.x * 0.42 * stock.fadeColor.w * (0.45 + 0.55 * smoothstep(0.0, 0.3, luma)));
     if (u_param8.x > 0.0) {
         float mark = wear(pixel, seed + 20u);
-        rgb = mix(rgb, mark > 0.0 ? vec3(0.95, 0.93, 0.88) : vec3(0.06, 0.05, 0.05), abs(mark) * (0.35 + 0.65 * u_param8.x));
+        vec3 dirt = mark > 0.0 ? vec3(0.95, 0.93, 0.88) : vec3(0.06, 0.05, 0.05);
+        rgb = mix(rgb, dirt, abs(mark) * (0.35 + 0.65 * u_param8.x));
     }
     rgb = mix(src.rgb, rgb, u_param2.x);
     fragColor = vec4(clamp(dithered(rgb, gl_FragCoord.xy), 0.0, 1.0), src.a);

@@ -17,7 +17,6 @@ layout(std140, binding = 1) uniform LibraryUniforms {
 };
 
 const int kPaper = 5;
-const int kCanvas = 6;
 
 // Size against the classic film, strength, share of colour in it, and how much it spares the shadows.
 const vec4 kFilms[5] = vec4[](vec4(1.0, 0.23, 0.18, 0.4), vec4(0.7, 0.15, 0.25, 0.5), vec4(1.25, 0.37, 0.32, 0.1),
@@ -27,9 +26,9 @@ float paperHeight(vec2 p, uint seed)
 {
     float pulp = valueFbm(p * 0.22, 3.0, seed) + 0.35 * valueNoise(p * 0.9, seed + 7u);
     // Fibres: thin ridges where a stretched noise passes its middle.
-    float along = 1.0 - smoothstep(0.0, 0.10, abs(valueNoise(vec2(p.x * 0.05 + p.y * 0.02, p.y * 0.34), seed + 11u) - 0.5));
-    float across = 1.0 - smoothstep(0.0, 0.10, abs(valueNoise(vec2(p.x * 0.31, p.y * 0.06 - p.x * 0.03), seed + 12u) - 0.5));
-    return pulp + 0.18 * max(along, across);
+    float along = abs(valueNoise(vec2(p.x * 0.05 + p.y * 0.02, p.y * 0.34), seed + 11u) - 0.5);
+    float across = abs(valueNoise(vec2(p.x * 0.31, p.y * 0.06 - p.x * 0.03), seed + 12u) - 0.5);
+    return pulp + 0.18 * (1.0 - smoothstep(0.0, 0.10, min(along, across)));
 }
 
 // Threads over and under each other in turn. Unevenness of the yarn bends the lattice and varies its thickness.
@@ -43,7 +42,10 @@ float canvasHeight(vec2 p, uint seed)
     return max(weft, warp) + 0.3 * valueNoise(p * 0.8, seed + 2u);
 }
 
-float surfaceHeight(int style, vec2 p, uint seed) { return style == kPaper ? paperHeight(p, seed) : canvasHeight(p, seed); }
+float surfaceHeight(int style, vec2 p, uint seed)
+{
+    return style == kPaper ? paperHeight(p, seed) : canvasHeight(p, seed);
+}
 
 void main()
 {

@@ -23,8 +23,10 @@ void main()
 
     // Two widths of sharpening: fine edges, and the local contrast of the blurred copy. Both end where blur begins.
     vec2 reach = u_param0.xy * max(u_param2.z, 0.5);
-    vec3 around = 0.25 * (texture(u_input, v_uv + vec2(reach.x, 0.0)).rgb + texture(u_input, v_uv - vec2(reach.x, 0.0)).rgb
-                          + texture(u_input, v_uv + vec2(0.0, reach.y)).rgb + texture(u_input, v_uv - vec2(0.0, reach.y)).rgb);
+    vec2 across = vec2(reach.x, 0.0);
+    vec2 along = vec2(0.0, reach.y);
+    vec3 around = 0.25 * (texture(u_input, v_uv + across).rgb + texture(u_input, v_uv - across).rgb
+                          + texture(u_input, v_uv + along).rgb + texture(u_input, v_uv - along).rgb);
     float blurred = smoothstep(0.22, 0.95, field) * u_param2.y * whole;
     float edge = clamp(luminance(src.rgb - around), -0.12, 0.12);
     float local = clamp(luminance(src.rgb - soft.rgb), -0.35, 0.35) * whole;

@@ -34,7 +34,8 @@ void main()
     // The dyes of an old print hold less of every colour; what is left leans to the tint.
     float lights = lab.x * lab.x * (1.0 - 0.55 * lab.x);
     float shadows = (1.0 - lab.x) * (1.0 - lab.x);
-    lab.yz = lab.yz * (1.0 - 0.25 * amount) + amount * (1.0 - 0.3 * skin) * (0.95 * tint * lights + 0.42 * opposite * shadows);
+    vec2 wash = 0.95 * tint * lights + 0.42 * opposite * shadows;
+    lab.yz = lab.yz * (1.0 - 0.25 * amount) + amount * (1.0 - 0.3 * skin) * wash;
 
     // Black rises towards the hue of the shadows and white yellows a little.
     float lift = u_param5.x;

@@ -34,7 +34,8 @@ float flakes(vec2 p, float radius, float edge, float share, uint seed)
     float size = radius * (0.45 + 0.55 * look.x);
     vec2 offset = p - vec2(cell) - 0.5 - (1.0 - 2.0 * (radius + edge)) * (place.xy - 0.5);
     offset.y *= 0.62; // driven along the wind
-    return (1.0 - smoothstep(max(size - edge, 0.0), size + edge, length(offset))) * step(place.z, share) * (0.4 + 0.6 * look.y);
+    float flake = 1.0 - smoothstep(max(size - edge, 0.0), size + edge, length(offset));
+    return flake * step(place.z, share) * (0.4 + 0.6 * look.y);
 }
 
 // Fern frost: crystals that grew from scattered seeds in six directions, with side branches, until they met. `p` and
@@ -120,7 +121,8 @@ void main()
         float middle = flakes(wind * (p + 1.5 * sway) / 34.0 + 4.3, 0.12, 0.05, 0.80 * storm, 72u);
         float near = flakes(wind * (p + 2.0 * sway) / 120.0 + 8.9, 0.14, 0.10, 0.06 + 0.5 * storm, 74u);
         float drift = smoothstep(0.35, 0.85, valueFbm(wind * p * vec2(0.004, 0.0016), 3.0, 78u));
-        float snow = 1.0 - (1.0 - 0.70 * far) * (1.0 - 0.85 * middle) * (1.0 - 0.42 * near) * (1.0 - 0.22 * drift * storm);
+        float clear = (1.0 - 0.70 * far) * (1.0 - 0.85 * middle) * (1.0 - 0.42 * near) * (1.0 - 0.22 * drift * storm);
+        float snow = 1.0 - clear;
         light = mix(light, vec3(0.86, 0.92, 0.98), snow * smoothstep(0.0, 0.3, storm));
     }
 
