@@ -8,4 +8,8 @@ namespace zm {
 /// that a filter after this one finds them.
 void multiplyAlpha(QImage &image, const QImage &mask, bool inverted = false);
 
+/// The same by a smaller Format_Grayscale8 mask, enlarged smoothly and made `steeper` times as steep around one half,
+/// so that its edges are as crisp as the picture.
+void multiplyAlphaEnlarged(QImage &image, const QImage &mask, double steeper);
+
 } // namespace zm

@@ -10,9 +10,16 @@ namespace zm {
 
 FilterRegistry::FilterRegistry()
 {
-    m_filters.push_back(std::make_unique<FadeOutFilter>());
+    m_filters.push_back(makeShadowFilter());
+    m_filters.push_back(makeBrushstrokeFrameFilter());
     m_filters.push_back(std::make_unique<ShapeToolFilter>());
+    m_filters.push_back(std::make_unique<FadeOutFilter>());
+    m_filters.push_back(makeFocusFrameFilter());
+    m_filters.push_back(makeJaggedEdgeFilter());
     m_filters.push_back(makeBevelFilter());
+    m_filters.push_back(makeRoundedCornersFilter());
+    m_filters.push_back(makeSwirlStackFilter());
+    m_filters.push_back(makeSwirlFrameFilter());
     m_filters.push_back(makeVignetteFilter());
     m_filters.push_back(makeLomoFilter());
     m_filters.push_back(makeEightiesFlashFilter());

@@ -8,7 +8,14 @@ class Filter;
 
 // One maker for each file of library/. Adding an effect takes its file, a line here and a line in the registry.
 
+std::unique_ptr<Filter> makeShadowFilter();
+std::unique_ptr<Filter> makeBrushstrokeFrameFilter();
+std::unique_ptr<Filter> makeFocusFrameFilter();
+std::unique_ptr<Filter> makeJaggedEdgeFilter();
 std::unique_ptr<Filter> makeBevelFilter();
+std::unique_ptr<Filter> makeRoundedCornersFilter();
+std::unique_ptr<Filter> makeSwirlStackFilter();
+std::unique_ptr<Filter> makeSwirlFrameFilter();
 std::unique_ptr<Filter> makeVignetteFilter();
 std::unique_ptr<Filter> makeLomoFilter();
 std::unique_ptr<Filter> makeEightiesFlashFilter();

@@ -1,0 +1,67 @@
+#version 440
+// A picture, upright or tilted and with soft borders, before a background that is swirled around the middle.
+// In and out: straight alpha, (0, 0) top left. Cost: eight texture reads for the background, one for the picture, more
+// where it is tilted or scaled.
+#extension GL_GOOGLE_include_directive : require
+#include "../common/sampling.glsl"
+#include "../common/shapes.glsl"
+layout(location = 0) in vec2 v_uv;
+layout(location = 0) out vec4 fragColor;
+layout(binding = 0) uniform sampler2D u_bg;
+layout(binding = 1) uniform sampler2D u_input;
+layout(std140, binding = 2) uniform LibraryUniforms {
+    vec4 u_param0;   // swirlAngle: turn at the rim of the picture within, radians
+    vec4 u_param1;   // swirlRadius: where the turn has died away, halves of the diagonal
+    vec4 u_param2;   // bgGammaInv: exponent of the background's colours, under 1 lightens
+    vec4 u_param3;   // negative: share of the inverted background, 0..1
+    vec4 u_param4;   // thumbScale: size of the picture within, 1 is full
+    vec4 u_param5;   // thumbAlpha: its opacity, 0..1
+    vec4 u_param6;   // thumbTilt: its turn, radians, clockwise
+    vec4 u_param7;   // maskFeather: width of its soft border, 0 to 1 of its shorter half
+    vec4 u_param8;   // ovalShape: 0 rectangle to 1 ellipse
+    vec4 u_param9;   // aspectRatio: width to height
+    vec4 u_param10;  // size: width and height, pixels
+};
+
+// Repeats the picture mirrored beyond its borders.
+vec2 mirrored(vec2 uv) { return 1.0 - abs(1.0 - mod(uv, 2.0)); }
+
+void main()
+{
+    float aspect = u_param9.x;
+    vec2 unit = vec2(aspect, 1.0);
+    vec2 p = (v_uv - 0.5) * unit; // heights
+    float pixel = 1.0 / u_param10.y;
+
+    // The swirl: the nearer, the further turned, and smeared along the arcs like wet paint.
+    float radius = max(u_param1.x, 0.05) * 0.5 * length(unit);
+    float far = clamp(1.0 - length(p) / radius, 0.0, 1.0);
+    float turn = u_param0.x * far * far * (3.0 - 2.0 * far);
+    float smear = 0.16 * turn;
+    vec4 sum = vec4(0.0);
+    for (int i = 0; i < 8; ++i) {
+        float share = (float(i) + 0.5) / 8.0 - 0.5;
+        vec2 from = rotation(-turn - smear * share) * p;
+        sum += premultiplied(readInside(u_bg, mirrored(from / unit + 0.5)));
+    }
+    vec4 bg = straight(sum / 8.0);
+    bg.rgb = pow(bg.rgb, vec3(max(u_param2.x, 0.01)));
+    bg.rgb = mix(bg.rgb, 1.0 - bg.rgb, u_param3.x);
+
+    // The picture within.
+    float scale = max(u_param4.x, 0.01);
+    vec2 q = rotation(-u_param6.x) * p / scale; // its own heights
+    vec2 halfSize = 0.5 * unit;
+    float shorter = min(halfSize.x, halfSize.y);
+    float box = sdRoundedBox(q, halfSize, 0.12 * shorter);
+    float oval = (length(q / halfSize) - 1.0) * shorter;
+    float outside = mix(box, oval, u_param8.x);
+    float feather = u_param7.x * shorter;
+    float edge = 0.7 * pixel / scale;
+    float mask = smoothstep(edge, -edge - feather, outside);
+    vec4 thumb = scale == 1.0 && u_param6.x == 0.0 ? texture(u_input, v_uv) : readSmooth(u_input, q / unit + 0.5);
+    float front = mask * u_param5.x * thumb.a;
+    float alpha = front + bg.a * (1.0 - front);
+    vec3 rgb = alpha > 0.0 ? (thumb.rgb * front + bg.rgb * bg.a * (1.0 - front)) / alpha : thumb.rgb;
+    fragColor = vec4(rgb, alpha);
+}

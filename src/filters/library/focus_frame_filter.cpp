@@ -1,0 +1,139 @@
+#include "filters/library_filter.h"
+#include "filters/library_filters.h"
+#include "filters/shape_mask.h"
+#include "filters/silhouette.h"
+
+#include <QPainter>
+
+#include <algorithm>
+#include <cmath>
+
+using namespace Qt::StringLiterals;
+
+namespace zm {
+
+namespace {
+
+/// The blur of straight colours that pays no heed to those of transparent pixels; alpha is that of the blur.
+QImage weightedBlur(FilterUtilityRenderer &renderer, const QImage &image, double sigma, const ColorAdjustment &tone)
+{
+    QImage weighted = image.convertToFormat(QImage::Format_RGBA8888_Premultiplied);
+    weighted.reinterpretAsFormat(QImage::Format_RGBA8888);
+    PassChain blur;
+    QImage blurred = renderer.renderChain(blur, blur.gaussianBlur(blur.source(weighted), sigma));
+    if (blurred.isNull())
+        return {};
+    blurred.reinterpretAsFormat(QImage::Format_RGBA8888_Premultiplied);
+    return renderer.colorAdjust(blurred.convertToFormat(QImage::Format_RGBA8888), tone);
+}
+
+bool hasTransparency(const QImage &image)
+{
+    for (int y = 0; y < image.height(); ++y) {
+        const uchar *alpha = image.constScanLine(y) + 3;
+        for (int x = 0; x < image.width(); ++x) {
+            if (alpha[4 * x] != 255)
+                return true;
+        }
+    }
+    return false;
+}
+
+/// Colours of `outside` where the mask is 0, of `image` where it is 255, or the other way round; alpha of `image`.
+void mixIn(QImage &outside, const QImage &image, const QImage &mask, bool inverted)
+{
+    const int flip = inverted ? 255 : 0;
+    for (int y = 0; y < image.height(); ++y) {
+        uchar *target = outside.scanLine(y);
+        const uchar *sharp = image.constScanLine(y);
+        const uchar *coverage = mask.constScanLine(y) + 3;
+        for (int x = 0; x < image.width(); ++x, target += 4, sharp += 4, coverage += 4) {
+            const int inside = *coverage ^ flip;
+            for (int c = 0; c < 3; ++c)
+                target[c] = uchar((target[c] * (255 - inside) + sharp[c] * inside + 127) / 255);
+            target[3] = sharp[3];
+        }
+    }
+}
+
+// Within a shape the picture stays as it is; around it it is out of focus and toned down, as if the shape lay on it
+// like a print.
+class FocusFrameFilter final : public LibraryFilter
+{
+public:
+    FocusFrameFilter()
+        : LibraryFilter(u"focus-frame"_s)
+    {
+    }
+
+    FilterRenderResult render(const FilterRenderRequest &request) const override
+    {
+        const ParameterValues &values = request.parameters;
+        const QSizeF box = request.bounds.size();
+        const bool inverted = values.boolean(u"mask.inverted"_s, false);
+        const QPainterPath path =
+            shapeMaskPath(values.string(u"mask"_s, u"rounded-rect"_s), {},
+                          values.maskTransform(u"mask.transform"_s, {.scaleX = 0.66, .scaleY = 0.66}), box);
+        const QImage shape = filledShapeMask(path, box, request.size());
+        QImage result = surroundings(request);
+        if (result.isNull() || shape.isNull())
+            return request.unchanged();
+
+        if (const double strength = std::clamp(request.percent(u"shadow"_s, 55.0), 0.0, 1.0); strength > 0.0)
+            castShadow(request, shape, inverted, strength, result);
+        const QImage mask = request.renderer->gaussianBlur(
+            shape, featherSigma(request.number(u"mask.feather"_s, 0.0), request.size()));
+        if (mask.isNull())
+            return request.unchanged();
+        mixIn(result, request.image, mask, inverted);
+
+        if (const double line = request.diagonalPixels(u"lineWidth"_s, 3.0); line > 0.0) {
+            QPainter painter(&result);
+            painter.setRenderHint(QPainter::Antialiasing);
+            painter.setCompositionMode(QPainter::CompositionMode_SourceAtop);
+            const QTransform toPixels =
+                QTransform::fromScale(result.width() / box.width(), result.height() / box.height());
+            painter.strokePath(toPixels.map(path), QPen(values.color(u"lineColor"_s, Qt::white), line, Qt::SolidLine,
+                                                        Qt::RoundCap, Qt::MiterJoin));
+        }
+        return request.result(result);
+    }
+
+private:
+    /// The picture blurred and toned down.
+    static QImage surroundings(const FilterRenderRequest &request)
+    {
+        const double sigma = 0.5 * request.diagonalPixels(u"blur"_s, 16.0);
+        ColorAdjustment tone;
+        tone.exposure = -0.6 * request.percent(u"darken"_s, 35.0);
+        tone.saturation = -request.percent(u"desaturate"_s, 35.0);
+        if (hasTransparency(request.image))
+            return weightedBlur(*request.renderer, request.image, sigma, tone);
+        PassChain chain;
+        const PassChain::Picture blurred = chain.gaussianBlur(chain.source(request.image), sigma);
+        return request.renderer->renderChain(chain, chain.colorAdjust(blurred, tone));
+    }
+
+    /// Darkens around the shape, or within it when the sharp part is outside. Alpha stays.
+    static void castShadow(const FilterRenderRequest &request, const QImage &shape, bool inverted, double strength,
+                           QImage &result)
+    {
+        const double diagonal = std::hypot(result.width(), result.height());
+        Silhouette shadow = silhouette(shape, 0.012 * diagonal, Qt::black, inverted);
+        shadow.image = request.renderer->gaussianBlur(shadow.image, 0.012 * diagonal / shadow.reduction);
+        QPainter painter(&result);
+        painter.setRenderHint(QPainter::SmoothPixmapTransform);
+        painter.setCompositionMode(QPainter::CompositionMode_SourceAtop);
+        painter.setOpacity(strength);
+        painter.drawImage(shadow.area().translated(0.0, 0.004 * diagonal), shadow.image);
+    }
+};
+
+} // namespace
+
+std::unique_ptr<Filter> makeFocusFrameFilter()
+{
+    return std::make_unique<FocusFrameFilter>();
+}
+
+} // namespace zm

@@ -1,0 +1,25 @@
+#pragma once
+
+#include "filters/filter_render.h"
+
+namespace zm {
+
+/// A picture before a swirled background.
+struct SwirlFrameSettings
+{
+    double swirlDegrees = 0.0;      ///< turn of the background in its middle
+    double swirlReach = 1.0;        ///< where the turn has died away, halves of the diagonal
+    double backgroundGamma = 1.0;   ///< above 1 lightens the background
+    double backgroundNegative = 0.0; ///< share of the inverted background, 0..1
+    double pictureScale = 1.0;      ///< size of the picture within, 1 is full
+    double pictureOpacity = 1.0;    ///< 0..1
+    double pictureTiltDegrees = 0.0; ///< clockwise
+    double feather = 0.0;           ///< width of its soft border, 0..1 of its shorter half
+    double ovalShape = 0.0;         ///< 0 rectangle to 1 ellipse
+};
+
+/// The request's picture before a background of this chain, which may be smaller.
+PassChain::Picture addSwirlFrame(PassChain &chain, PassChain::Picture picture, PassChain::Picture background,
+                                 const SwirlFrameSettings &settings);
+
+} // namespace zm
