@@ -115,7 +115,7 @@ private:
         const auto random = [this, i](int which) { return randomAt(i, which, m_seed + 11); };
         Stroke stroke;
         stroke.middle = m_top + (float(i) + 0.5f + 0.16f * m_roughness * (random(0) - 0.5f)) * m_spacing;
-        stroke.halfWidth = 0.5f * m_spacing * (1.16f + 0.22f * m_roughness * random(1));
+        stroke.halfWidth = 0.5f * m_spacing * (1.24f + 0.22f * m_roughness * random(1));
         const auto [begin, end] = chord(stroke.middle);
         const float ragged = m_roughness * (0.35f * m_spacing + m_margin);
         stroke.begin = begin + ragged * random(2);
@@ -145,7 +145,8 @@ private:
 
     float strokeCoverage(const Stroke &stroke, float along, float across) const
     {
-        const float side = std::abs(across - stroke.middle) / stroke.halfWidth;
+        const float waist = 1.0f - 0.2f * m_roughness * noise(along / 130.0f, 0.5f, stroke.seed + 8);
+        const float side = std::abs(across - stroke.middle) / (stroke.halfWidth * waist);
         if (side >= 1.0f)
             return 0.0f;
         const float streak = streaks(along, across, stroke.seed);
@@ -162,9 +163,9 @@ private:
         const float way = std::clamp((along - stroke.begin) / length, 0.0f, 1.0f);
         const float spent = stroke.isReversed ? 1.0f - way : way;
 
-        const float sideLoss = (0.25f + 0.75f * m_roughness) * std::pow(side, 7.0f);
+        const float sideLoss = (0.25f + 0.75f * m_roughness) * side * side * side * side;
         const float endLoss = 0.45f * m_roughness * std::exp(-std::max(inside, 0.0f) / 30.0f);
-        const float paint = 1.0f - m_dryness * (0.16f + 0.42f * spent * spent) - 0.55f * sideLoss - endLoss;
+        const float paint = 1.0f - m_dryness * (0.2f + 0.46f * spent * spent) - 0.6f * sideLoss - endLoss;
         return smoothStep(-0.035f, 0.035f, paint - streak) * smoothStep(-1.0f, 1.0f, inside);
     }
 

@@ -20,7 +20,7 @@ PassChain::Picture addSwirlFrame(PassChain &chain, PassChain::Picture picture, P
     block.setFloat("u_thumbScale"_L1, settings.pictureScale);
     block.setFloat("u_thumbAlpha"_L1, settings.pictureOpacity);
     block.setFloat("u_thumbTilt"_L1, qDegreesToRadians(settings.pictureTiltDegrees));
-    block.setFloat("u_maskFeather"_L1, settings.feather);
+    block.setVec2("u_maskFeather"_L1, settings.feather, settings.fadeShare);
     block.setFloat("u_ovalShape"_L1, settings.ovalShape);
     block.setFloat("u_aspectRatio"_L1, size.width() / size.height());
     block.setVec2("u_size"_L1, size.width(), size.height());

@@ -15,6 +15,9 @@ struct SwirlFrameSettings
     double pictureOpacity = 1.0;    ///< 0..1
     double pictureTiltDegrees = 0.0; ///< clockwise
     double feather = 0.0;           ///< width of its soft border, 0..1 of its shorter half
+    /// Share of that border, from its inner end, over which the picture gives way to the background. Under 1 the
+    /// background's turn sets in along it, for a picture of full size that is its own background.
+    double fadeShare = 1.0;
     double ovalShape = 0.0;         ///< 0 rectangle to 1 ellipse
 };
 

@@ -17,7 +17,8 @@ layout(std140, binding = 2) uniform LibraryUniforms {
     vec4 u_param4;   // thumbScale: size of the picture within, 1 is full
     vec4 u_param5;   // thumbAlpha: its opacity, 0..1
     vec4 u_param6;   // thumbTilt: its turn, radians, clockwise
-    vec4 u_param7;   // maskFeather: width of its soft border, 0 to 1 of its shorter half
+    vec4 u_param7;   // maskFeather: width of its soft border, 0 to 1 of its shorter half; y: share of that border, from
+                     // its inner end, over which the picture gives way to the background, above 0 to 1
     vec4 u_param8;   // ovalShape: 0 rectangle to 1 ellipse
     vec4 u_param9;   // aspectRatio: width to height
     vec4 u_param10;  // size: width and height, pixels
@@ -33,11 +34,29 @@ void main()
     vec2 p = (v_uv - 0.5) * unit; // heights
     float pixel = 1.0 / u_param10.y;
 
-    // The swirl: the nearer, the further turned, and smeared along the arcs like wet paint.
+    // The picture within.
+    float scale = max(u_param4.x, 0.01);
+    vec2 q = rotation(-u_param6.x) * p / scale; // its own heights
+    vec2 halfSize = 0.5 * unit;
+    float shorter = min(halfSize.x, halfSize.y);
+    float feather = u_param7.x * shorter;
+    vec2 beyond = abs(q) - halfSize;
+    float rounding = max(feather, 0.25 * shorter); // also keeps creases out of a wide border
+    float near = max(rounding - abs(beyond.x - beyond.y), 0.0);
+    float box = max(beyond.x, beyond.y) + 0.25 * near * near / rounding;
+    float oval = (length(q / halfSize) - 1.0) * shorter;
+    float outside = mix(box, oval, u_param8.x);
+    float edge = 0.7 * pixel / scale;
+    float mask = smoothstep(edge, -edge - feather, outside);
+
+    // The background turns about the middle, the less the farther out. Where the picture gives way early, the turn sets
+    // in gently along the soft border, so that the same picture passes into it without a ghost. It is smeared along the
+    // arcs like wet paint.
     float radius = max(u_param1.x, 0.05) * 0.5 * length(unit);
     float far = clamp(1.0 - length(p) / radius, 0.0, 1.0);
     float turn = u_param0.x * far * far * (3.0 - 2.0 * far);
-    float smear = 0.16 * turn;
+    turn *= u_param7.y < 1.0 ? (1.0 - mask) * (1.0 - mask) : 1.0;
+    float smear = 0.07 * turn;
     vec4 sum = vec4(0.0);
     for (int i = 0; i < 8; ++i) {
         float share = (float(i) + 0.5) / 8.0 - 0.5;
@@ -48,19 +67,9 @@ void main()
     bg.rgb = pow(bg.rgb, vec3(max(u_param2.x, 0.01)));
     bg.rgb = mix(bg.rgb, 1.0 - bg.rgb, u_param3.x);
 
-    // The picture within.
-    float scale = max(u_param4.x, 0.01);
-    vec2 q = rotation(-u_param6.x) * p / scale; // its own heights
-    vec2 halfSize = 0.5 * unit;
-    float shorter = min(halfSize.x, halfSize.y);
-    float box = sdRoundedBox(q, halfSize, 0.12 * shorter);
-    float oval = (length(q / halfSize) - 1.0) * shorter;
-    float outside = mix(box, oval, u_param8.x);
-    float feather = u_param7.x * shorter;
-    float edge = 0.7 * pixel / scale;
-    float mask = smoothstep(edge, -edge - feather, outside);
     vec4 thumb = scale == 1.0 && u_param6.x == 0.0 ? texture(u_input, v_uv) : readSmooth(u_input, q / unit + 0.5);
-    float front = mask * u_param5.x * thumb.a;
+    float share = max(u_param7.y, 0.001);
+    float front = clamp((mask - 1.0 + share) / share, 0.0, 1.0) * u_param5.x * thumb.a;
     float alpha = front + bg.a * (1.0 - front);
     vec3 rgb = alpha > 0.0 ? (thumb.rgb * front + bg.rgb * bg.a * (1.0 - front)) / alpha : thumb.rgb;
     fragColor = vec4(rgb, alpha);

@@ -50,10 +50,10 @@ float beyondLine(vec2 px, float along, float depth, float side, uint seed)
     if (style <= 1) {
         bool torn = style == 0;
         // Fibres stand out sideways, too: noise of both directions, which also frays the line.
-        float fine = pattern * (torn ? 0.16 : 0.3);
-        float large = fbm(vec2(along / pattern, 0.5), visibleOctaves(pattern, torn ? 1.0 + 4.0 * detail : 1.0), seed);
+        float fine = pattern * (torn ? 0.11 : 0.2);
+        float large = fbm(vec2(along / pattern, 0.5), visibleOctaves(pattern, torn ? 1.0 + 5.0 * detail : 2.0), seed);
         float frayed = fbm(px / fine, visibleOctaves(fine, 1.0 + 3.0 * detail), seed + 50u);
-        float form = torn ? 1.15 * large + 0.22 * detail * frayed : 0.5 * large + (0.25 + 0.9 * detail) * frayed;
+        float form = torn ? 1.15 * large + 0.3 * detail * frayed : 0.45 * large + (0.2 + 0.8 * detail) * frayed;
         return depth - edge * max(0.5 + roughness * form, 0.03);
     }
     if (style == 2) {

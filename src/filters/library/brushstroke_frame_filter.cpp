@@ -25,7 +25,7 @@ public:
     {
         BrushCoverageSettings settings;
         settings.strokes = request.number(u"strokes"_s, 8.0);
-        settings.directionDegrees = request.number(u"direction"_s, -8.0);
+        settings.directionDegrees = request.number(u"direction"_s, -4.0);
         settings.margin = request.number(u"margin"_s, 30.0) / 1000.0;
         settings.roughness = request.percent(u"roughness"_s, 60.0);
         settings.dryness = request.percent(u"dryness"_s, 50.0);

@@ -73,7 +73,7 @@ public:
         const bool inverted = values.boolean(u"mask.inverted"_s, false);
         const QPainterPath path =
             shapeMaskPath(values.string(u"mask"_s, u"rounded-rect"_s), {},
-                          values.maskTransform(u"mask.transform"_s, {.scaleX = 0.66, .scaleY = 0.66}), box);
+                          values.maskTransform(u"mask.transform"_s, {.scaleX = 0.7, .scaleY = 0.7}), box);
         const QImage shape = filledShapeMask(path, box, request.size());
         QImage result = surroundings(request);
         if (result.isNull() || shape.isNull())
@@ -105,7 +105,7 @@ private:
     {
         const double sigma = 0.5 * request.diagonalPixels(u"blur"_s, 16.0);
         ColorAdjustment tone;
-        tone.exposure = -0.6 * request.percent(u"darken"_s, 35.0);
+        tone.exposure = -0.6 * request.percent(u"darken"_s, 30.0);
         tone.saturation = -request.percent(u"desaturate"_s, 35.0);
         if (hasTransparency(request.image))
             return weightedBlur(*request.renderer, request.image, sigma, tone);

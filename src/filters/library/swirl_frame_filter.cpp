@@ -2,11 +2,16 @@
 #include "filters/library_filters.h"
 #include "filters/swirl_frame.h"
 
+#include <cmath>
+
 using namespace Qt::StringLiterals;
 
 namespace zm {
 
 namespace {
+
+/// The background, in thousandths of the diagonal: fine detail would stand beside itself where it is smeared.
+constexpr double kSoftening = 1.2;
 
 // The picture stays clear in the middle and is stirred around it.
 class SwirlFrameFilter final : public LibraryFilter
@@ -20,15 +25,19 @@ public:
     FilterRenderResult render(const FilterRenderRequest &request) const override
     {
         SwirlFrameSettings settings;
-        settings.swirlDegrees = request.number(u"angle"_s, 220.0);
+        settings.swirlDegrees = request.number(u"angle"_s, 140.0);
         settings.swirlReach = request.percent(u"reach"_s, 130.0);
         settings.backgroundGamma = 1.0 + request.percent(u"brightness"_s, 0.0);
-        settings.feather = request.percent(u"feather"_s, 55.0);
-        settings.ovalShape = request.percent(u"roundness"_s, 60.0);
+        settings.feather = request.percent(u"feather"_s, 33.0);
+        settings.ovalShape = request.percent(u"roundness"_s, 80.0);
         settings.pictureScale = request.percent(u"size"_s, 100.0);
+        // A smaller picture does not lie upon itself: its border fades as a whole.
+        settings.fadeShare = settings.pictureScale < 1.0 ? 1.0 : 0.3;
         PassChain chain;
         const PassChain::Picture picture = chain.source(request.image);
-        return request.chained(chain, addSwirlFrame(chain, picture, picture, settings));
+        const double softening = kSoftening / 1000.0 * std::hypot(request.image.width(), request.image.height());
+        const PassChain::Picture background = chain.reducedBlur(picture, softening);
+        return request.chained(chain, addSwirlFrame(chain, picture, background, settings));
     }
 };
 

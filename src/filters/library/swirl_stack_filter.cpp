@@ -45,27 +45,27 @@ public:
     FilterRenderResult render(const FilterRenderRequest &request) const override
     {
         const QSizeF size = request.size();
-        const int copies = std::clamp(int(std::lround(request.number(u"copies"_s, 9.0))), 1, kMaximumCopies);
+        const int copies = std::clamp(int(std::lround(request.number(u"copies"_s, 10.0))), 1, kMaximumCopies);
         const QList<QTransform> places = placesOf(request, size, copies);
-        QRectF all(QPointF(), size);
+        const double scale = std::clamp(request.percent(u"size"_s, 55.0), 0.01, 1.0);
+        if (request.choice(u"placement"_s, {"inside"_L1, "beyond"_L1}) == 0)
+            return painted(request, places, request.size(), scale, 1.0);
+
+        // Grown evenly on all sides, so that the picture stays where it is.
+        QRectF all(QPointF(), size / scale);
+        all.moveCenter({0.5 * size.width(), 0.5 * size.height()});
         for (const QTransform &place : places)
             all |= place.mapRect(QRectF(QPointF(), size));
-
-        const int longest = std::max({request.renderer->maximumTextureSize(), request.size().width(),
-                                      request.size().height()});
-        const bool grows = request.choice(u"placement"_s, {"inside"_L1, "beyond"_L1}) == 1;
-        // Everything around the middle of the picture, so that it stays where it is.
         const QSizeF reach(2.0 * std::max(-all.left(), all.right() - size.width()) + size.width(),
                            2.0 * std::max(-all.top(), all.bottom() - size.height()) + size.height());
-        QSize target = request.size();
-        double scale = std::min(size.width() / reach.width(), size.height() / reach.height());
-        if (grows) {
-            const double growth = reach.width() * reach.height() / (size.width() * size.height());
-            scale = std::min({1.0, longest / reach.width(), longest / reach.height(),
-                              std::sqrt(kMaximumGrowth / growth)});
-            target = (scale * reach).toSize().expandedTo(QSize(1, 1));
-        }
-        return painted(request, places, target, scale, grows ? scale : 1.0);
+        const double longest = std::max({request.renderer->maximumTextureSize(), request.size().width(),
+                                         request.size().height()});
+        const double growth = reach.width() * reach.height() / (size.width() * size.height());
+        // Pixels of the result for one of the picture.
+        const double resolution = std::min({1.0, longest / (scale * reach.width()), longest / (scale * reach.height()),
+                                            std::sqrt(kMaximumGrowth / growth) / scale});
+        const QSize target = (scale * resolution * reach).toSize().expandedTo(QSize(1, 1));
+        return painted(request, places, target, scale * resolution, resolution);
     }
 
 private:
@@ -75,7 +75,7 @@ private:
     static QList<QTransform> placesOf(const FilterRenderRequest &request, const QSizeF &size, int copies)
     {
         const double twist = request.number(u"angle"_s, 60.0);
-        const double growth = std::max(request.percent(u"growth"_s, 150.0), 0.01);
+        const double growth = std::max(request.percent(u"growth"_s, 340.0), 0.01);
         const double drift = request.diagonalPixels(u"drift"_s, 0.0);
         const QPointF centre(0.5 * size.width(), 0.5 * size.height());
         QList<QTransform> places;
@@ -94,9 +94,9 @@ private:
         return places;
     }
 
-    /// `scale` is that of the picture in the target, `unit` how many target pixels one pixel of the layer's picture has.
+    /// `scale` is that of the picture in the target, which has `resolution` pixels for one of the layer.
     static FilterRenderResult painted(const FilterRenderRequest &request, const QList<QTransform> &places,
-                                      const QSize &target, double scale, double unit)
+                                      const QSize &target, double scale, double resolution)
     {
         const QSizeF size = request.size();
         QImage result(target, QImage::Format_RGBA8888);
@@ -122,7 +122,7 @@ private:
             * QTransform::fromTranslate(0.5 * (target.width() - front.width()), 0.5 * (target.height() - front.height()));
         const QTransform toPicture = QTransform::fromScale(size.width() / front.width(), size.height() / front.height());
         const QPointF drop = kShadowDistance * sigma * QPointF(1.0, 1.6);
-        const double lastOpacity = 1.0 - std::clamp(request.percent(u"fade"_s, 55.0), 0.0, 1.0);
+        const double lastOpacity = 1.0 - std::clamp(request.percent(u"fade"_s, 25.0), 0.0, 1.0);
 
         QPainter painter(&result);
         painter.setRenderHints(QPainter::SmoothPixmapTransform | QPainter::Antialiasing);
@@ -149,8 +149,8 @@ private:
         drawCopy({}, 1.0);
         painter.end();
 
-        const double unitX = request.bounds.width() / (size.width() * unit);
-        const double unitY = request.bounds.height() / (size.height() * unit);
+        const double unitX = request.bounds.width() / (size.width() * resolution);
+        const double unitY = request.bounds.height() / (size.height() * resolution);
         const QSizeF covered(target.width() * unitX, target.height() * unitY);
         const QPointF centre = request.bounds.center();
         return {result, {centre - QPointF(0.5 * covered.width(), 0.5 * covered.height()), covered}};
