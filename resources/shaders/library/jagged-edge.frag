@@ -89,7 +89,8 @@ void main()
     vec2 px = v_uv * size;
     vec4 src = texture(u_input, v_uv);
     uint seed = seedBits(u_param6.x);
-    float reach = 1.5 * u_param1.x + 0.6 * u_param3.x + u_param7.x + 2.0;
+    bool perforated = u_param5.x > 4.5;
+    float reach = (perforated ? 0.5 * u_param1.x + 0.6 * u_param3.x : 1.3 * u_param1.x) + u_param7.x + 2.0;
 
     float beyond = reach;
     vec4 depths = vec4(px.y, size.x - px.x, size.y - px.y, px.x);

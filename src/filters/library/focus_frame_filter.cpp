@@ -110,8 +110,10 @@ private:
         if (hasTransparency(request.image))
             return weightedBlur(*request.renderer, request.image, sigma, tone);
         PassChain chain;
-        const PassChain::Picture blurred = chain.gaussianBlur(chain.source(request.image), sigma);
-        return request.renderer->renderChain(chain, chain.colorAdjust(blurred, tone));
+        // Toned at the reduced size, and enlarged with linear filtering.
+        const PassChain::Picture toned =
+            chain.colorAdjust(chain.reducedBlur(chain.source(request.image), sigma), tone);
+        return request.renderer->renderChain(chain, chain.shader(u"textureCopy"_s, request.size(), {toned}));
     }
 
     /// Darkens around the shape, or within it when the sharp part is outside. Alpha stays.

@@ -2,6 +2,7 @@
 #include "filters/library_filters.h"
 #include "filters/swirl_frame.h"
 
+#include <algorithm>
 #include <cmath>
 
 using namespace Qt::StringLiterals;
@@ -32,7 +33,7 @@ public:
         settings.ovalShape = request.percent(u"roundness"_s, 80.0);
         settings.pictureScale = request.percent(u"size"_s, 100.0);
         // A smaller picture does not lie upon itself: its border fades as a whole.
-        settings.fadeShare = settings.pictureScale < 1.0 ? 1.0 : 0.3;
+        settings.fadeShare = 1.0 - 0.7 * std::clamp((settings.pictureScale - 0.85) / 0.15, 0.0, 1.0);
         PassChain chain;
         const PassChain::Picture picture = chain.source(request.image);
         const double softening = kSoftening / 1000.0 * std::hypot(request.image.width(), request.image.height());
