@@ -211,8 +211,7 @@ QImage brushCoverage(const QSize &pictureSize, const BrushCoverageSettings &sett
         uchar *row = mask.scanLine(y);
         const float fromMiddle = (float(y) + 0.5f) * stepY - float(canvas.height() / 2.0);
         for (int x = 0; x < size.width(); ++x) {
-            const float covered =
-                brush.coverageAt((float(x) + 0.5f) * stepX - float(canvas.width() / 2.0), fromMiddle);
+            const float covered = brush.coverageAt((float(x) + 0.5f) * stepX - float(canvas.width() / 2.0), fromMiddle);
             row[x] = uchar(std::lround(255.0f * covered));
         }
     }

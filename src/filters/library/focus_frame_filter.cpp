@@ -81,8 +81,8 @@ public:
 
         if (const double strength = std::clamp(request.percent(u"shadow"_s, 55.0), 0.0, 1.0); strength > 0.0)
             castShadow(request, shape, inverted, strength, result);
-        const QImage mask = request.renderer->gaussianBlur(
-            shape, featherSigma(request.number(u"mask.feather"_s, 0.0), request.size()));
+        const QImage mask =
+            request.renderer->gaussianBlur(shape, featherSigma(request.number(u"mask.feather"_s, 0.0), request.size()));
         if (mask.isNull())
             return request.unchanged();
         mixIn(result, request.image, mask, inverted);
@@ -93,8 +93,9 @@ public:
             painter.setCompositionMode(QPainter::CompositionMode_SourceAtop);
             const QTransform toPixels =
                 QTransform::fromScale(result.width() / box.width(), result.height() / box.height());
-            painter.strokePath(toPixels.map(path), QPen(values.color(u"lineColor"_s, Qt::white), line, Qt::SolidLine,
-                                                        Qt::RoundCap, Qt::MiterJoin));
+            painter.strokePath(
+                toPixels.map(path),
+                QPen(values.color(u"lineColor"_s, Qt::white), line, Qt::SolidLine, Qt::RoundCap, Qt::MiterJoin));
         }
         return request.result(result);
     }
@@ -111,8 +112,7 @@ private:
             return weightedBlur(*request.renderer, request.image, sigma, tone);
         PassChain chain;
         // Toned at the reduced size, and enlarged with linear filtering.
-        const PassChain::Picture toned =
-            chain.colorAdjust(chain.reducedBlur(chain.source(request.image), sigma), tone);
+        const PassChain::Picture toned = chain.colorAdjust(chain.reducedBlur(chain.source(request.image), sigma), tone);
         return request.renderer->renderChain(chain, chain.shader(u"textureCopy"_s, request.size(), {toned}));
     }
 

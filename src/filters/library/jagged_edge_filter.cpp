@@ -24,8 +24,10 @@ public:
         block.setFloat("u_roughness"_L1, request.percent(u"roughness"_s, 75.0));
         block.setFloat("u_pattern_size"_L1, request.diagonalPixels(u"patternSize"_s, 60.0));
         block.setFloat("u_detail"_L1, request.percent(u"detail"_s, 60.0));
-        block.setFloat("u_style"_L1, request.choice(u"style"_s, {"torn"_L1, "deckle"_L1, "jagged"_L1, "zigzag"_L1,
-                                                                "scalloped"_L1, "perforated"_L1}));
+        block.setFloat(
+            "u_style"_L1,
+            request.choice(u"style"_s,
+                           {"torn"_L1, "deckle"_L1, "jagged"_L1, "zigzag"_L1, "scalloped"_L1, "perforated"_L1}));
         block.setFloat("u_seed"_L1, request.number(u"seed"_s, 7.0));
         block.setFloat("u_softness"_L1, request.percent(u"softness"_s, 0.0) * edge);
         return request.singlePass(block);

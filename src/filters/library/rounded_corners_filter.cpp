@@ -24,8 +24,7 @@ public:
         const QSize size = request.size();
         const double shorterHalf = 0.5 * std::min(size.width(), size.height());
         const double radius = request.percent(u"radius"_s, 25.0) * shorterHalf;
-        const int style = request.choice(
-            u"style"_s, {"round"_L1, "squircle"_L1, "scooped"_L1, "cut"_L1, "notched"_L1});
+        const int style = request.choice(u"style"_s, {"round"_L1, "squircle"_L1, "scooped"_L1, "cut"_L1, "notched"_L1});
 
         LibraryUniformBlock corners(u"rounded-corners"_s);
         corners.setVec2("u_size"_L1, size.width(), size.height());

@@ -51,13 +51,11 @@ public:
             return request.unchanged();
         const bool isInner = request.choice(u"style"_s, {"drop"_L1, "inner"_L1}) == 1;
         const double angle = qDegreesToRadians(request.number(u"angle"_s, 55.0));
-        const QPointF offset =
-            request.diagonalPixels(u"distance"_s, 14.0) * QPointF(std::cos(angle), std::sin(angle));
+        const QPointF offset = request.diagonalPixels(u"distance"_s, 14.0) * QPointF(std::cos(angle), std::sin(angle));
         // What a person calls the size of a blur is about two sigmas.
         const double sigma = 0.5 * request.diagonalPixels(u"blur"_s, 24.0);
 
-        Silhouette shadow =
-            silhouette(request.image, sigma, request.parameters.color(u"color"_s, Qt::black), isInner);
+        Silhouette shadow = silhouette(request.image, sigma, request.parameters.color(u"color"_s, Qt::black), isInner);
         if (shadow.image.isNull())
             return request.unchanged();
         const QImage blurred = request.renderer->gaussianBlur(shadow.image, sigma / shadow.reduction);

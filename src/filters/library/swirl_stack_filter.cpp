@@ -58,8 +58,8 @@ public:
             all |= place.mapRect(QRectF(QPointF(), size));
         const QSizeF reach(2.0 * std::max(-all.left(), all.right() - size.width()) + size.width(),
                            2.0 * std::max(-all.top(), all.bottom() - size.height()) + size.height());
-        const double longest = std::max({request.renderer->maximumTextureSize(), request.size().width(),
-                                         request.size().height()});
+        const double longest =
+            std::max({request.renderer->maximumTextureSize(), request.size().width(), request.size().height()});
         const double growth = reach.width() * reach.height() / (size.width() * size.height());
         // Pixels of the result for one of the picture.
         const double resolution = std::min({1.0, longest / (scale * reach.width()), longest / (scale * reach.height()),
@@ -119,8 +119,10 @@ private:
         }
 
         const QTransform toTarget = QTransform::fromScale(front.width() / size.width(), front.height() / size.height())
-            * QTransform::fromTranslate(0.5 * (target.width() - front.width()), 0.5 * (target.height() - front.height()));
-        const QTransform toPicture = QTransform::fromScale(size.width() / front.width(), size.height() / front.height());
+            * QTransform::fromTranslate(0.5 * (target.width() - front.width()),
+                                        0.5 * (target.height() - front.height()));
+        const QTransform toPicture =
+            QTransform::fromScale(size.width() / front.width(), size.height() / front.height());
         const QPointF drop = kShadowDistance * sigma * QPointF(1.0, 1.6);
         const double lastOpacity = 1.0 - std::clamp(request.percent(u"fade"_s, 25.0), 0.0, 1.0);
 

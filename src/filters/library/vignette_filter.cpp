@@ -19,14 +19,14 @@ public:
     FilterRenderResult render(const FilterRenderRequest &request) const override
     {
         LibraryUniformBlock block(u"vignette"_s);
-        block.setFloat("u_strength"_L1, request.percent(u"strength"_s, 60.0));
+        block.setFloat("u_strength"_L1, request.percent(u"strength"_s, 80.0));
         block.setFloat("u_mask_invert"_L1, request.parameters.boolean(u"mask.inverted"_s, false) ? 1.0 : 0.0);
         block.setColor("u_tint"_L1, request.parameters.color(u"tint"_s, Qt::black));
 
         PassChain chain;
         const PassChain::Picture input = chain.source(request.image);
         const PassChain::Picture mask =
-            addShapeMask(chain, request, {u"ellipse"_s, {.scaleX = 0.95, .scaleY = 0.95}, 60.0});
+            addShapeMask(chain, request, {u"ellipse"_s, {.scaleX = 0.85, .scaleY = 0.85}, 75.0});
         return request.chained(chain, addPass(chain, block, {input, mask}));
     }
 };
