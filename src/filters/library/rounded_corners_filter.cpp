@@ -10,6 +10,9 @@ namespace zm {
 
 namespace {
 
+constexpr double kRimStrength = 0.8;
+constexpr double kRimSmoothness = 0.7;
+
 // Shaped corners, and a lit rim that follows them.
 class RoundedCornersFilter final : public LibraryFilter
 {
@@ -38,8 +41,8 @@ public:
             LibraryUniformBlock bevel(u"bevel"_s);
             bevel.setVec4("u_size"_L1, size.width(), size.height(), radius, style);
             bevel.setFloat("u_bevel"_L1, rim);
-            bevel.setFloat("u_strength"_L1, request.percent(u"bevelStrength"_s, 80.0));
-            bevel.setFloat("u_smoothness"_L1, 0.7);
+            bevel.setFloat("u_strength"_L1, kRimStrength);
+            bevel.setFloat("u_smoothness"_L1, kRimSmoothness);
             bevel.setFloat("u_sign"_L1, 1.0);
             picture = addPass(chain, bevel, {picture});
         }
