@@ -31,6 +31,14 @@ FilterRegistry::FilterRegistry()
     m_filters.push_back(makeDreamyBlendFilter());
     m_filters.push_back(makeRetroFilter());
     m_filters.push_back(makeNightvisionFilter());
+    m_filters.push_back(makeVoltageInkFilter());
+    m_filters.push_back(makePaperDioramaFilter());
+    m_filters.push_back(makeLowPolyEffectFilter());
+    m_filters.push_back(makeStainedGlassFilter());
+    m_filters.push_back(makePixelateFilter());
+    m_filters.push_back(makeBlueprintFilter());
+    m_filters.push_back(makeGhostFilter());
+    m_filters.push_back(makeSobelFilter());
 }
 
 const FilterRegistry &FilterRegistry::instance()

@@ -27,5 +27,13 @@ std::unique_ptr<Filter> makeHalationFilter();
 std::unique_ptr<Filter> makeDreamyBlendFilter();
 std::unique_ptr<Filter> makeRetroFilter();
 std::unique_ptr<Filter> makeNightvisionFilter();
+std::unique_ptr<Filter> makeVoltageInkFilter();
+std::unique_ptr<Filter> makePaperDioramaFilter();
+std::unique_ptr<Filter> makeLowPolyEffectFilter();
+std::unique_ptr<Filter> makeStainedGlassFilter();
+std::unique_ptr<Filter> makePixelateFilter();
+std::unique_ptr<Filter> makeBlueprintFilter();
+std::unique_ptr<Filter> makeGhostFilter();
+std::unique_ptr<Filter> makeSobelFilter();
 
 } // namespace zm

@@ -1,0 +1,79 @@
+#version 440
+// A cyanotype drawing: light lines along the edges of the picture, hatched shadows and a grid on unevenly coated paper.
+// In and out: straight alpha, (0, 0) top left; alpha is kept. Cost: 17 texture reads.
+#extension GL_GOOGLE_include_directive : require
+#include "../common/noise.glsl"
+#include "../common/sampling.glsl"
+#include "../common/shapes.glsl"
+layout(location = 0) in vec2 v_uv;
+layout(location = 0) out vec4 fragColor;
+layout(binding = 0) uniform sampler2D u_input;
+layout(std140, binding = 1) uniform LibraryUniforms {
+    vec4 u_param0;   // size: width and height, pixels
+    vec4 u_param1;   // texel size: one pixel in 0..1
+    vec4 u_param2;   // tint: the paper's colour
+    vec4 u_param3;   // line colour
+    vec4 u_param4;   // intensity: of the shading, 0..1
+    vec4 u_param5;   // edge strength: 0..1
+    vec4 u_param6;   // edge radius: reach of the gradient, pixels, above 0
+    vec4 u_param7;   // tint mix: share of the paper against the picture's colours, 0..1
+    vec4 u_param8;   // grid size: side of a small square, pixels, above 0
+    vec4 u_param9;   // grid opacity: 0..1
+    vec4 u_param10;  // grid colour
+};
+
+// How much of a line `width` pixels wide covers a pixel at a distance from its middle; thinner ones fade.
+float lineCoverage(float distanceInPixels, float width)
+{
+    return coverage(abs(distanceInPixels) - 0.5 * max(width, 1.0)) * min(width, 1.0);
+}
+
+float gridLine(vec2 px, float spacing, float width)
+{
+    vec2 nearest = abs(px - spacing * floor(px / spacing + 0.5));
+    return max(lineCoverage(nearest.x, width), lineCoverage(nearest.y, width));
+}
+
+void main()
+{
+    vec4 src = texture(u_input, v_uv);
+    vec2 size = u_param0.xy;
+    vec2 px = v_uv * size;
+    float unit = length(size) / 1000.0; // what line widths and the paper are measured by, pixels
+
+    // Fine edges and broad ones; each counts against the brightness around it, so that shadows are drawn as well.
+    vec2 reach = u_param1.xy * max(u_param6.x, 0.5);
+    float tone = luminance(src.rgb) * src.a;
+    float fine = length(sobelGradient(u_input, v_uv, reach));
+    float broad = length(sobelGradient(u_input, v_uv, reach * 2.5));
+    float edge = (0.6 * fine + 0.4 * broad) / (0.35 + tone);
+    float low = mix(1.1, 0.12, sqrt(u_param5.x));
+    float line = smoothstep(low, low * 2.4 + 0.25, edge) * smoothstep(0.0, 0.1, u_param5.x);
+
+    // The coating: washed on by brush, never quite even.
+    float wash = fbm(px / (90.0 * unit), 3.0, 11u) + 0.5 * gradientNoise(px * vec2(1.0, 0.12) / (9.0 * unit), 12u);
+    vec3 paper = u_param2.rgb * (1.0 + 0.16 * wash);
+    paper = mix(paper, toEncoded(toLinear(paper) * 0.45), smoothstep(0.5, 1.25, length((v_uv - 0.5) * 1.7)) * 0.8);
+
+    // Shading: the paper takes the tones, and hatching fills the dark ones, denser as they deepen.
+    float intensity = u_param4.x;
+    vec3 lightest = mix(u_param2.rgb, u_param3.rgb, 0.42);
+    vec3 toned = tone < 0.5 ? paper * mix(0.5, 1.0, tone * 2.0) : mix(paper, lightest, tone * 2.0 - 1.0);
+    vec3 rgb = mix(paper, toned, intensity);
+    float spacing = 3.6 * unit;
+    float slant = (px.x + px.y) * 0.70710678;
+    float cross = (px.x - px.y) * 0.70710678;
+    float pencil = 0.75 + 0.5 * gradientNoise(px / (5.0 * unit), 13u);
+    float first = lineCoverage(slant - spacing * floor(slant / spacing + 0.5), 0.42 * unit)
+        * (1.0 - smoothstep(0.2, 0.42, tone));
+    float second = lineCoverage(cross - spacing * floor(cross / spacing + 0.5), 0.42 * unit)
+        * (1.0 - smoothstep(0.08, 0.2, tone));
+    float hatch = max(first, second) * pencil * intensity * 0.4;
+
+    rgb = mix(src.rgb, rgb, u_param7.x);
+    float grid = max(0.5 * gridLine(px, u_param8.x, 0.6 * unit), gridLine(px, u_param8.x * 5.0, 0.8 * unit));
+    rgb = mix(rgb, u_param10.rgb, grid * u_param9.x);
+    rgb = mix(rgb, u_param3.rgb, clamp(hatch, 0.0, 1.0));
+    rgb = mix(rgb, u_param3.rgb, line * (0.9 + 0.2 * wash));
+    fragColor = vec4(clamp(rgb, 0.0, 1.0), src.a);
+}

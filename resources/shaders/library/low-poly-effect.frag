@@ -1,0 +1,123 @@
+#version 440
+// Triangles of one colour each. A grid of points, one somewhere in each square, is joined to quads and these are split;
+// places, splits and colours come in a map beside the picture (common/stacked.glsl): for each square, with one more
+// around the picture, the place of its point in it (b: which diagonal splits the quad to the right and below), then
+// the colours of the two triangles.
+// In and out: straight alpha, (0, 0) top left; alpha is kept. Cost: 11 texture reads, four times that at edges.
+#extension GL_GOOGLE_include_directive : require
+#include "../common/color.glsl"
+#include "../common/hash.glsl"
+#include "../common/shapes.glsl"
+#include "../common/stacked.glsl"
+layout(location = 0) in vec2 v_uv;
+layout(location = 0) out vec4 fragColor;
+layout(binding = 0) uniform sampler2D u_input;
+layout(std140, binding = 1) uniform LibraryUniforms {
+    vec4 u_param0;  // size: width and height of the picture, pixels
+    vec4 u_param1;  // facet size: side of a square, pixels, above 0
+    vec4 u_param2;  // variation: how strongly facets catch the light, 0..1
+    vec4 u_param3;  // saturation: 1 changes nothing, 0..2
+    vec4 u_param4;  // edge width: pixels
+    vec4 u_param5;  // edge colour
+    vec4 u_param6;  // seed
+};
+
+struct Point
+{
+    vec2 place; // in squares
+    ivec2 square;
+};
+
+float turn(vec2 a, vec2 b) { return a.x * b.y - a.y * b.x; }
+float toLine(vec2 p, vec2 a, vec2 b) { return turn(b - a, p - a) * inversesqrt(max(dot(b - a, b - a), 1e-12)); }
+
+// The light on the plane through three points of hashed heights, about -1..1.
+float lightOn(Point a, Point b, Point c, uint seed)
+{
+    vec2 ab = b.place - a.place;
+    vec2 ac = c.place - a.place;
+    float area = turn(ab, ac);
+    float height = hash21(a.square, seed);
+    float rise = hash21(b.square, seed) - height;
+    float other = hash21(c.square, seed) - height;
+    vec2 slope = vec2(rise * ac.y - other * ab.y, other * ab.x - rise * ac.x) / max(abs(area), 0.12);
+    return clamp(dot(slope, vec2(0.5, 0.866)), -1.0, 1.0);
+}
+
+// The facet at a place in squares; w: how far its nearest edge is, squares.
+vec4 facetAt(vec2 p, ivec2 origin)
+{
+    ivec2 home = ivec2(floor(p));
+    Point points[9];
+    float splits[9];
+    for (int i = 0; i < 9; ++i) {
+        ivec2 square = home + ivec2(i % 3, i / 3) - 1;
+        vec4 entry = fetchStackedMap(u_input, origin, ivec2((square.x + 1) * 3, square.y + 1));
+        points[i] = Point(vec2(square) + entry.xy, square);
+        splits[i] = entry.z;
+    }
+    // A place lies in one of the four quads around the point of its square; in each, on one side of the diagonal.
+    float best = -1e9;
+    Point a, b, c;
+    ivec2 color = ivec2(0);
+    for (int quad = 0; quad < 4; ++quad) {
+        int first = (quad >> 1) * 3 + (quad & 1);
+        Point nw = points[first];
+        Point ne = points[first + 1];
+        Point sw = points[first + 3];
+        Point se = points[first + 4];
+        bool falling = splits[first] > 0.5; // from the north-west to the south-east
+        Point from = nw;
+        if (!falling)
+            from = ne;
+        Point to = se;
+        if (!falling)
+            to = sw;
+        bool left = turn(to.place - from.place, p - from.place) < 0.0;
+        Point apex = falling ? (left ? ne : sw) : (left ? se : nw);
+        Point second = left ? apex : to;
+        Point third = left ? to : apex;
+        float distance = min(toLine(p, from.place, second.place),
+                             min(toLine(p, second.place, third.place), toLine(p, third.place, from.place)));
+        if (distance > best) {
+            best = distance;
+            a = from;
+            b = second;
+            c = third;
+            bool upper = falling ? left : !left;
+            color = ivec2((nw.square.x + 1) * 3 + (upper ? 1 : 2), nw.square.y + 1);
+        }
+    }
+    uint seed = seedBits(u_param6.x);
+    vec3 rgb = saturated(fetchStackedMap(u_input, origin, color).rgb, u_param3.x);
+    float light = lightOn(a, b, c, seed + 9u) * u_param2.x;
+    rgb = light > 0.0 ? mix(rgb, vec3(1.0), light * 0.34) : rgb * (1.0 + 0.55 * light);
+    return vec4(rgb, max(best, 0.0));
+}
+
+vec3 drawnAt(vec4 facet, float width)
+{
+    float line = coverage(facet.w * u_param1.x - 0.5 * max(width, 1.0)) * min(width, 1.0);
+    return mix(facet.rgb, u_param5.rgb, line);
+}
+
+void main()
+{
+    vec2 size = u_param0.xy;
+    float facetSize = max(u_param1.x, 0.01);
+    ivec2 origin = mapOrigin(u_input, size);
+    vec2 p = v_uv * size / facetSize;
+    vec4 facet = facetAt(p, origin);
+    vec3 rgb = drawnAt(facet, u_param4.x);
+    if (facet.w * facetSize < 0.75) {
+        // An edge crosses this pixel: four places of a turned square see how much lies on either side.
+        vec3 sum = vec3(0.0);
+        for (int i = 0; i < 4; ++i) {
+            vec2 corner = vec2(i & 1, i >> 1) - 0.5;
+            vec2 offset = vec2(0.5 * corner.x + 0.25 * corner.y, 0.5 * corner.y - 0.25 * corner.x);
+            sum += drawnAt(facetAt(p + offset / facetSize, origin), u_param4.x);
+        }
+        rgb = 0.25 * sum;
+    }
+    fragColor = vec4(rgb, readStackedPicture(u_input, size, v_uv).a);
+}

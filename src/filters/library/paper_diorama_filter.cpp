@@ -1,0 +1,59 @@
+#include "filters/library_filter.h"
+#include "filters/library_filters.h"
+
+#include <cmath>
+#include <numbers>
+
+using namespace Qt::StringLiterals;
+
+namespace zm {
+
+namespace {
+
+// Cut paper in layers.
+class PaperDioramaFilter final : public LibraryFilter
+{
+public:
+    PaperDioramaFilter()
+        : LibraryFilter(u"paper-diorama"_s)
+    {
+    }
+
+    FilterRenderResult render(const FilterRenderRequest &request) const override
+    {
+        const double angle = request.number(u"lightDirection"_s, 135.0) * std::numbers::pi / 180.0;
+        LibraryUniformBlock block(u"paper-diorama"_s);
+        block.setVec2("u_size"_L1, request.image.width(), request.image.height());
+        block.setFloat("u_renderScale"_L1, request.renderScale());
+        block.setFloat("u_layers"_L1, request.number(u"layers"_s, 7.0));
+        block.setFloat("u_depthPx"_L1, request.diagonalPixels(u"depth"_s, 6.0));
+        block.setVec2("u_lightDirection"_L1, std::cos(angle), -std::sin(angle));
+        block.setFloat(
+            "u_palette"_L1,
+            request.choice(u"palette"_s,
+                           {"original"_L1, "dusk"_L1, "forest"_L1, "ocean"_L1, "candy"_L1, "kraft"_L1, "white"_L1}));
+        block.setFloat("u_paperTexture"_L1, request.percent(u"paperTexture"_s, 50.0));
+
+        PassChain chain;
+        const PassChain::Picture input = chain.source(request.image);
+        return request.chained(chain, addPass(chain, block, {input, softCopy(chain, request, input)}));
+    }
+
+private:
+    /// Large forms without small ones: what the sheets are cut from. Blurred a little first, which lets the smoothing
+    /// that keeps edges work at a reduced size.
+    static PassChain::Picture softCopy(PassChain &chain, const FilterRenderRequest &request, PassChain::Picture input)
+    {
+        const double reach = request.diagonalPixels(u"smoothness"_s, 5.0);
+        return chain.reducedBlur(input, reach);
+    }
+};
+
+} // namespace
+
+std::unique_ptr<Filter> makePaperDioramaFilter()
+{
+    return std::make_unique<PaperDioramaFilter>();
+}
+
+} // namespace zm
