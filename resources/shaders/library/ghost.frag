@@ -59,7 +59,7 @@ void main()
     vec3 depth = tint * tint * vec3(0.11, 0.13, 0.17);
     float pale = mix(0.62 * body, pow(body, 0.7), shown);
     vec3 ghost = mix(depth, tint * (1.0 + 0.12 * pale), pale);
-    ghost = mix(ghost, ghost * (0.55 + 0.9 * mix(src.rgb, vec3(tone), 0.75)), 0.35);
+    ghost = mix(ghost, ghost * (0.55 + 0.9 * mix(src.rgb, vec3(tone), 0.85)), 0.35);
 
     // What shines is the soft copy of what appears.
     float halo = apparition(toneSoft) * (0.35 + 0.65 * toneSoft);
@@ -67,12 +67,13 @@ void main()
 
     // Mist rises from below in long drifts.
     float fade = u_param9.x;
-    vec2 drift = px / (150.0 * unit);
-    float fog = fbm(drift * vec2(0.7, 1.6) + 0.6 * sway, 4.0, 33u);
-    float level = smoothstep(1.15 - 0.9 * fade, 1.35 - 0.25 * fade, v_uv.y + 0.75 * fog + 0.1);
-    float wisp = smoothstep(0.05, 0.5, fog + 0.1) * 0.35;
-    vec3 mist = tint * mix(0.62, 0.85, 0.5 + fog);
-    ghost = mix(ghost, mist, clamp(max(level, wisp) * min(fade * 1.3, 0.92), 0.0, 1.0));
+    vec2 drift = px / (230.0 * unit) * vec2(0.8, 2.2);
+    drift += 0.22 * vec2(sway, gradientNoise(px / (120.0 * unit), 32u));
+    float fog = fbm(drift, 5.0, 33u);
+    float veil = smoothstep(1.2 - 1.0 * fade, 1.65 - 0.6 * fade, v_uv.y + 0.55 * fog + 0.15);
+    float wisp = smoothstep(-0.15, 0.6, fog) * 0.5 * fade;
+    vec3 mist = tint * (0.68 + 0.3 * fog);
+    ghost = mix(ghost, mist, clamp(veil * 0.85 + wisp * (1.0 - veil), 0.0, 0.92) * smoothstep(0.0, 0.1, fade));
 
     // The grain of a plate that was exposed too long.
     float grain = valueNoise(px / (1.1 * unit) + 3.0, 35u) + 0.6 * valueNoise(px / (2.7 * unit), 36u) - 0.8;

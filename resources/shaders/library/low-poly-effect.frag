@@ -91,7 +91,7 @@ vec4 facetAt(vec2 p, ivec2 origin)
     uint seed = seedBits(u_param6.x);
     vec3 rgb = saturated(fetchStackedMap(u_input, origin, color).rgb, u_param3.x);
     float light = lightOn(a, b, c, seed + 9u) * u_param2.x;
-    rgb = light > 0.0 ? mix(rgb, vec3(1.0), light * 0.34) : rgb * (1.0 + 0.55 * light);
+    rgb = light > 0.0 ? mix(rgb, vec3(1.0), light * 0.3) : rgb * (1.0 + 0.45 * light);
     return vec4(rgb, max(best, 0.0));
 }
 

@@ -40,7 +40,7 @@ float heightAt(vec2 px, float wobble)
 {
     vec4 soft = texture(u_soft, px / u_param0.xy);
     float tone = luminance(soft.rgb);
-    tone = mix(tone, tone * tone * (3.0 - 2.0 * tone), 0.35);
+    tone = pow(tone, 0.8); // as many sheets for the shadows as for the lights
     return clamp((1.0 - tone) * u_param2.x + wobble, 0.01, u_param2.x - 0.01);
 }
 
@@ -52,8 +52,8 @@ vec3 sheetColor(float sheet, vec3 soft)
     if (palette == 0) {
         // The paper is dyed in one tone; the picture gives it its hue.
         vec3 lab = encodedToOklab(soft);
-        lab.x = mix(0.95, 0.2, pow(place, 0.9));
-        lab.yz *= 1.3;
+        lab.x = mix(0.97, 0.24, place);
+        lab.yz *= 1.25;
         return oklabToEncoded(lab);
     }
     float stop = place * 4.0;
@@ -79,7 +79,7 @@ void main()
     float layers = max(u_param2.x, 2.0);
     vec2 toLight = u_param4.xy;
 
-    float wobble = 0.12 * gradientNoise(px / (14.0 * unit), 41u);
+    float wobble = 0.1 * gradientNoise(px / (32.0 * unit), 41u);
     float height = heightAt(px, wobble);
     vec2 slope = vec2(dFdx(height), dFdy(height));
     float steepness = max(length(slope), 1e-4);
@@ -124,8 +124,7 @@ void main()
         * clamp(-dot(slope / steepness, toLight), -0.6, 1.0) * smoothstep(0.002, 0.02, steepness * unit);
 
     vec3 rgb = paper * light;
-    rgb = rim > 0.0 ? mix(rgb, vec3(1.0), rim * 0.3) : rgb * (1.0 + 0.25 * rim);
-    vec3 shade = mix(vec3(0.32, 0.3, 0.42), vec3(0.5), 0.2);
-    rgb *= mix(vec3(1.0), shade, shadow * 0.9);
+    rgb = rim > 0.0 ? mix(rgb, 0.3 + 0.75 * rgb, rim * 0.5) : rgb * (1.0 + 0.2 * rim);
+    rgb *= mix(vec3(1.0), vec3(0.36, 0.34, 0.44), shadow * 0.85);
     fragColor = vec4(clamp(rgb, 0.0, 1.0), src.a);
 }

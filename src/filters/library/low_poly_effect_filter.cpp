@@ -16,6 +16,7 @@ namespace {
 constexpr int kDetail = 10; // pixels a square when the picture is looked at
 constexpr int kMargin = 1; // squares around the picture
 constexpr double kFlatEdge = 2.5e-4; // the weight of chance against the edges of the picture
+constexpr double kPullReach = 0.12; // how far from its chance place a point is pulled: twice the variance, squares
 constexpr double kLengthCost = 4e-4; // what a long diagonal costs against colours that differ within a triangle
 
 double turn(const QPointF &a, const QPointF &b)
@@ -62,40 +63,50 @@ private:
                         + size_t(std::min(column, m_columns - 1))];
     }
 
-    /// Where an edge of the picture runs through a square, its point lies on it; elsewhere anywhere.
+    /// Where an edge of the picture runs near a point's chance place, the point lies on it.
     void placePoints(quint32 seed)
     {
         struct Pull
         {
+            QPointF chance; // in squares, like the sum
             QPointF sum;
-            double weight = 0.0;
+            double weight = kFlatEdge;
         };
-        std::vector<Pull> pulls(size_t(m_columns) * size_t(m_rows));
+        std::vector<Pull> pulls;
+        pulls.reserve(size_t(m_columns) * size_t(m_rows));
+        for (int row = 0; row < m_rows; ++row) {
+            for (int column = 0; column < m_columns; ++column) {
+                const QPointF chance = squareHash(column, row, seed) + QPointF(column - kMargin, row - kMargin);
+                pulls.push_back({chance, kFlatEdge * chance});
+            }
+        }
         const QSize pixels = m_picture.pixels();
         for (int y = 0; y < pixels.height(); ++y) {
             for (int x = 0; x < pixels.width(); ++x) {
                 const double edge = double(squaredDistance(m_picture.color(x + 1, y), m_picture.color(x - 1, y)))
                     + double(squaredDistance(m_picture.color(x, y + 1), m_picture.color(x, y - 1)));
                 const QPointF place = m_picture.place(x, y);
-                const size_t index =
-                    size_t(int(place.y()) + kMargin) * size_t(m_columns) + size_t(int(place.x()) + kMargin);
-                const double weight = edge * edge;
-                pulls[index].sum += weight * (place - QPointF(int(place.x()), int(place.y())));
-                pulls[index].weight += weight;
+                Pull &pull =
+                    pulls[size_t(int(place.y()) + kMargin) * size_t(m_columns) + size_t(int(place.x()) + kMargin)];
+                const QPointF away = place - pull.chance;
+                const double weight = edge * edge * std::exp(-QPointF::dotProduct(away, away) / kPullReach);
+                pull.sum += weight * place;
+                pull.weight += weight;
             }
         }
         m_points.reserve(pulls.size());
-        for (int row = 0; row < m_rows; ++row) {
-            for (int column = 0; column < m_columns; ++column) {
-                const Pull &pull = pulls[m_points.size()];
-                const QPointF chance = squareHash(column, row, seed);
-                const QPointF place = (pull.sum + kFlatEdge * chance) / (pull.weight + kFlatEdge);
-                const auto rounded = [](double value) {
-                    return std::round(std::clamp(value, 0.06, 0.94) * 255.0) / 255.0;
-                };
-                m_points.emplace_back(column - kMargin + rounded(place.x()), row - kMargin + rounded(place.y()));
-            }
-        }
+        for (const Pull &pull : pulls)
+            m_points.push_back(rounded(pull.sum / pull.weight, pull.chance));
+    }
+
+    /// To what a texel holds, clear of the sides of the square that `inside` lies in.
+    static QPointF rounded(const QPointF &point, const QPointF &inside)
+    {
+        const auto along = [](double value, double within) {
+            const double whole = std::floor(within);
+            return whole + std::round(std::clamp(value - whole, 0.06, 0.94) * 255.0) / 255.0;
+        };
+        return {along(point.x(), inside.x()), along(point.y(), inside.y())};
     }
 
     Facet facet(const QPointF &a, const QPointF &b, const QPointF &c) const
@@ -177,12 +188,12 @@ public:
     FilterRenderResult render(const FilterRenderRequest &request) const override
     {
         const QSize size = request.size();
-        const double side = std::max(request.diagonalPixels(u"facetSize"_s, 18.0), 2.0);
+        const double side = std::max(request.diagonalPixels(u"facetSize"_s, 16.0), 2.0);
         const double seed = request.number(u"seed"_s, 7.0);
         LibraryUniformBlock block(u"low-poly-effect"_s);
         block.setVec2("u_size"_L1, size.width(), size.height());
         block.setFloat("u_facetSize"_L1, side);
-        block.setFloat("u_variation"_L1, request.percent(u"variation"_s, 40.0));
+        block.setFloat("u_variation"_L1, request.percent(u"variation"_s, 25.0));
         block.setFloat("u_saturation"_L1, request.percent(u"saturation"_s, 115.0));
         block.setFloat("u_edgeWidth"_L1, request.diagonalPixels(u"edgeWidth"_s, 0.0));
         block.setColor("u_edgeColor"_L1, request.parameters.color(u"edgeColor"_s, Qt::white));

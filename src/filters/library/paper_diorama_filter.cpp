@@ -1,6 +1,7 @@
 #include "filters/library_filter.h"
 #include "filters/library_filters.h"
 
+#include <algorithm>
 #include <cmath>
 #include <numbers>
 
@@ -9,6 +10,10 @@ using namespace Qt::StringLiterals;
 namespace zm {
 
 namespace {
+
+constexpr double kFirstBlur = 0.35; // sigma, of the reach of the smoothing
+constexpr double kRounding = 0.35; // sigma of the blur that rounds corners and parts the sheets, of the reach
+constexpr int kSmoothingPasses = 4; // across and down in turn
 
 // Cut paper in layers.
 class PaperDioramaFilter final : public LibraryFilter
@@ -26,7 +31,7 @@ public:
         block.setVec2("u_size"_L1, request.image.width(), request.image.height());
         block.setFloat("u_renderScale"_L1, request.renderScale());
         block.setFloat("u_layers"_L1, request.number(u"layers"_s, 7.0));
-        block.setFloat("u_depthPx"_L1, request.diagonalPixels(u"depth"_s, 6.0));
+        block.setFloat("u_depthPx"_L1, request.diagonalPixels(u"depth"_s, 5.0));
         block.setVec2("u_lightDirection"_L1, std::cos(angle), -std::sin(angle));
         block.setFloat(
             "u_palette"_L1,
@@ -40,12 +45,22 @@ public:
     }
 
 private:
-    /// Large forms without small ones: what the sheets are cut from. Blurred a little first, which lets the smoothing
-    /// that keeps edges work at a reduced size.
+    /// Large forms with crisp outlines: what the sheets are cut from. Blurred a little first, which takes the grain and
+    /// lets the smoothing that keeps edges work at a reduced size.
     static PassChain::Picture softCopy(PassChain &chain, const FilterRenderRequest &request, PassChain::Picture input)
     {
-        const double reach = request.diagonalPixels(u"smoothness"_s, 5.0);
-        return chain.reducedBlur(input, reach);
+        const double reach = std::max(request.diagonalPixels(u"smoothness"_s, 8.0), 0.1);
+        PassChain::Picture soft = chain.reducedBlur(input, reach * kFirstBlur);
+        const QSize size = chain.size(soft);
+        LibraryUniformBlock block(u"paper-diorama-smooth"_s);
+        block.setVec2("u_size"_L1, size.width(), size.height());
+        block.setFloat("u_radiusPx"_L1, reach * size.width() / request.image.width());
+        block.setFloat("u_detail"_L1, request.percent(u"detail"_s, 40.0));
+        for (int pass = 0; pass < kSmoothingPasses; ++pass) {
+            block.setVec2("u_direction"_L1, pass % 2 == 0 ? 1.0 : 0.0, pass % 2 == 0 ? 0.0 : 1.0);
+            soft = addPass(chain, block, {soft});
+        }
+        return chain.gaussianBlur(soft, kRounding * reach * size.width() / request.image.width());
     }
 };
 
