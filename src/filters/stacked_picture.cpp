@@ -40,4 +40,10 @@ QImage stackedPicture(const QImage &picture, const QImage &map, int maximumSide)
     return stack;
 }
 
+QSize mapSize(const QSize &picture, int reduction)
+{
+    const auto along = [reduction](int length) { return (length + reduction - 1) / reduction; };
+    return {along(picture.width()), along(picture.height())};
+}
+
 } // namespace zm

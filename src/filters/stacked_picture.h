@@ -9,4 +9,7 @@ namespace zm {
 /// null when neither way has room or one of the two is null.
 QImage stackedPicture(const QImage &picture, const QImage &map, int maximumSide);
 
+/// The size of a map with one pixel for a square of `reduction` pixels of a picture; those at the rim may be cut.
+QSize mapSize(const QSize &picture, int reduction);
+
 } // namespace zm

@@ -1,22 +1,25 @@
 #version 440
 // A cyanotype drawing: light lines along the edges of the picture, hatched shadows and a grid on unevenly coated paper.
-// In and out: straight alpha, (0, 0) top left; alpha is kept. Cost: ten texture reads.
+// Two passes: the first makes a map of tones, to be smoothed; the second reads it beside the picture
+// (common/stacked.glsl).
+// In and out: straight alpha, (0, 0) top left; alpha is kept. Cost: four reads a pixel of the map, ten a pixel.
 #extension GL_GOOGLE_include_directive : require
 #include "../common/edges.glsl"
 #include "../common/noise.glsl"
 #include "../common/sampling.glsl"
 #include "../common/shapes.glsl"
+#include "../common/stacked.glsl"
 layout(location = 0) in vec2 v_uv;
 layout(location = 0) out vec4 fragColor;
 layout(binding = 0) uniform sampler2D u_input;
 layout(std140, binding = 1) uniform LibraryUniforms {
-    vec4 u_param0;   // size: width and height, pixels
+    vec4 u_param0;   // size: xy of the picture, zw of the map, pixels
     vec4 u_param1;   // texel size: one pixel in 0..1
     vec4 u_param2;   // tint: the paper's colour
     vec4 u_param3;   // line colour
     vec4 u_param4;   // intensity: of the shading, 0..1
     vec4 u_param5;   // edge strength: 0..1
-    vec4 u_param6;   // edge radius: reach of the gradient, pixels, above 0
+    vec4 u_param6;   // edge radius: reach of the gradient, pixels; 0 makes the map
     vec4 u_param7;   // tint mix: share of the paper against the picture's colours, 0..1
     vec4 u_param8;   // grid size: side of a small square, pixels, above 0
     vec4 u_param9;   // grid opacity: 0..1
@@ -37,24 +40,32 @@ float gridLine(vec2 px, float spacing, float width)
 
 void main()
 {
-    vec4 src = texture(u_input, v_uv);
     vec2 size = u_param0.xy;
+    if (u_param6.x <= 0.0) {
+        float sum = 0.0;
+        for (int i = 0; i < 4; ++i)
+            sum += coveredLuminance(u_input, v_uv + (vec2(i & 1, i >> 1) - 0.5) * 0.5 / u_param0.zw);
+        fragColor = vec4(vec3(0.25 * sum), 1.0);
+        return;
+    }
+
+    vec4 src = readStackedPicture(u_input, size, v_uv);
     vec2 px = v_uv * size;
     float unit = length(size) / 1000.0; // what line widths and the paper are measured by, pixels
 
     // An edge counts against the brightness around it, so that shadows are drawn as well.
-    float reach = max(u_param6.x * 1.4, 0.8);
+    float reach = u_param6.x;
     float tones[9];
     float tone = 0.0;
     for (int i = 0; i < 9; ++i) {
-        float covered = coveredLuminance(u_input, v_uv + (vec2(i % 3, i / 3) - 1.0) * reach * u_param1.xy);
-        tone += covered / 9.0;
-        tones[i] = covered;
+        vec2 uv = v_uv + (vec2(i % 3, i / 3) - 1.0) * reach * u_param1.xy;
+        tones[i] = readStackedMap(u_input, size, u_param0.zw, uv).r;
+        tone += tones[i] / 9.0;
     }
     vec2 edge = edgeNear(tones);
     float strength = edge.x / (0.3 + tone);
     float low = mix(0.2, 0.006, sqrt(u_param5.x));
-    float line = smoothstep(low, low * 2.5 + 0.05, strength) * penLine(edge, 2.2, 1.0 / reach)
+    float line = smoothstep(low, low * 2.5 + 0.05, strength) * penLine(edge, 1.3, 1.0 / reach)
         * smoothstep(0.0, 0.1, u_param5.x);
 
     // The coating: washed on by brush, never quite even.

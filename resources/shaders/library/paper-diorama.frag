@@ -111,7 +111,7 @@ void main()
         shadow += blocks * (1.0 - 0.25 * way);
         contact = max(contact, blocks * (1.0 - 0.45 * way));
     }
-    shadow = 0.55 * contact + 0.45 * shadow * 1.6 / float(kSteps);
+    shadow = 0.3 * contact + 0.7 * shadow * 1.7 / float(kSteps);
     shadow = clamp(shadow, 0.0, 1.0) * smoothstep(0.0, 1.0, depth);
 
     // The paper's surface in the same light, and the light that catches the rim of a cut.

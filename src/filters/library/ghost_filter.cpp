@@ -24,8 +24,7 @@ public:
     FilterRenderResult render(const FilterRenderRequest &request) const override
     {
         const QSize size = request.size();
-        const QSize copySize((size.width() + kCopyReduction - 1) / kCopyReduction,
-                             (size.height() + kCopyReduction - 1) / kCopyReduction);
+        const QSize copySize = mapSize(size, kCopyReduction);
         const double radius = std::max(request.diagonalPixels(u"blurRadius"_s, 9.0), 0.01);
         LibraryUniformBlock block(u"ghost"_s);
         block.setVec4("u_size"_L1, size.width(), size.height(), copySize.width(), copySize.height());

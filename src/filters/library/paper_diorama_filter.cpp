@@ -11,8 +11,8 @@ namespace zm {
 
 namespace {
 
-constexpr double kFirstBlur = 0.35; // sigma, of the reach of the smoothing
-constexpr double kRounding = 0.35; // sigma of the blur that rounds corners and parts the sheets, of the reach
+constexpr double kFirstBlur = 0.25; // sigma, of the reach of the smoothing
+constexpr double kRounding = 0.16; // sigma of the blur that rounds corners and parts the sheets, of the reach
 constexpr int kSmoothingPasses = 4; // across and down in turn
 
 // Cut paper in layers.
@@ -49,13 +49,13 @@ private:
     /// lets the smoothing that keeps edges work at a reduced size.
     static PassChain::Picture softCopy(PassChain &chain, const FilterRenderRequest &request, PassChain::Picture input)
     {
-        const double reach = std::max(request.diagonalPixels(u"smoothness"_s, 8.0), 0.1);
+        const double reach = std::max(request.diagonalPixels(u"smoothness"_s, 5.0), 0.1);
         PassChain::Picture soft = chain.reducedBlur(input, reach * kFirstBlur);
         const QSize size = chain.size(soft);
         LibraryUniformBlock block(u"paper-diorama-smooth"_s);
         block.setVec2("u_size"_L1, size.width(), size.height());
         block.setFloat("u_radiusPx"_L1, reach * size.width() / request.image.width());
-        block.setFloat("u_detail"_L1, request.percent(u"detail"_s, 40.0));
+        block.setFloat("u_detail"_L1, request.percent(u"detail"_s, 60.0));
         for (int pass = 0; pass < kSmoothingPasses; ++pass) {
             block.setVec2("u_direction"_L1, pass % 2 == 0 ? 1.0 : 0.0, pass % 2 == 0 ? 0.0 : 1.0);
             soft = addPass(chain, block, {soft});
