@@ -3,6 +3,7 @@
 #include "filters/stacked_picture.h"
 
 #include <algorithm>
+#include <cmath>
 
 using namespace Qt::StringLiterals;
 
@@ -10,7 +11,20 @@ namespace zm {
 
 namespace {
 
-constexpr int kMapReduction = 4; // a glow has nothing fine
+constexpr double kReach = 1.1; // of the gradient, thousandths of the diagonal
+constexpr double kReachInMap = 1.6; // the same in pixels of the maps, or more
+constexpr double kSmoothing = 0.6; // sigma of the blur before the gradient, of its reach
+
+/// Writes the red of one picture into the green of another of the same size, both RGBA8888.
+void mergeIntoGreen(QImage &image, const QImage &red)
+{
+    for (int y = 0; y < image.height(); ++y) {
+        uchar *to = image.scanLine(y);
+        const uchar *from = red.constScanLine(y);
+        for (qsizetype x = 0; x < image.width(); ++x)
+            to[x * 4 + 1] = from[x * 4];
+    }
+}
 
 // Edges that glow like neon.
 class VoltageInkFilter final : public LibraryFilter
@@ -24,27 +38,42 @@ public:
     FilterRenderResult render(const FilterRenderRequest &request) const override
     {
         const QSize size = request.size();
-        const QSize mapSize((size.width() + kMapReduction - 1) / kMapReduction,
-                            (size.height() + kMapReduction - 1) / kMapReduction);
-        const double radius = std::max(request.diagonalPixels(u"glowRadius"_s, 9.0), 0.01);
+        const double reach = std::max(kReach * std::hypot(size.width(), size.height()) / 1000.0, 0.8);
+        const int reduction = std::max(int(reach / kReachInMap), 1);
+        const double radius = request.diagonalPixels(u"glowRadius"_s, 9.0);
+        const QSize mapsSize = mapSize(size, reduction);
         LibraryUniformBlock block(u"voltage-ink"_s);
-        block.setVec4("u_size"_L1, size.width(), size.height(), mapSize.width(), mapSize.height());
+        block.setVec4("u_size"_L1, size.width(), size.height(), mapsSize.width(), mapsSize.height());
         block.setFloat("u_edgeThreshold"_L1, request.percent(u"edgeThreshold"_s, 30.0));
         block.setFloat("u_lineIntensity"_L1, request.percent(u"lineIntensity"_s, 70.0));
         block.setColor("u_glowColor"_L1, request.parameters.color(u"glowColor"_s, QColor(0x22, 0xc8, 0xff)));
         block.setFloat("u_backgroundDim"_L1, request.percent(u"backgroundDim"_s, 82.0));
+        const auto pass = [&](PassChain &chain, Stage stage, const QImage &input, const QSize &passSize) {
+            block.setVec4("u_glowRadius"_L1, radius, double(stage), reach, 0.0);
+            return chain.libraryShader(block.shaderId(), passSize, {chain.source(input)}, block.bytes());
+        };
 
-        PassChain chain;
-        const PassChain::Picture lines =
-            chain.libraryShader(block.shaderId(), mapSize, {chain.source(request.image)}, block.bytes());
-        const QImage glow = request.renderer->renderChain(chain, chain.gaussianBlur(lines, radius / kMapReduction));
-        block.setFloat("u_glowRadius"_L1, radius);
+        FilterUtilityRenderer &renderer = *request.renderer;
+        PassChain toning;
+        const PassChain::Picture rough = pass(toning, Stage::Tones, request.image, mapsSize);
+        QImage maps = renderer.renderChain(toning, toning.gaussianBlur(rough, kSmoothing * reach / reduction));
+        if (maps.isNull())
+            return request.unchanged();
+
+        PassChain glowing;
+        const PassChain::Picture lines = pass(glowing, Stage::Lines, maps, mapsSize);
+        const QImage glow = renderer.renderChain(glowing, glowing.gaussianBlur(lines, radius / reduction));
+        if (glow.size() != maps.size())
+            return request.unchanged();
+        mergeIntoGreen(maps, glow);
 
         PassChain drawing;
-        const PassChain::Picture stack =
-            drawing.source(stackedPicture(request.image, glow, request.renderer->maximumTextureSize()));
-        return request.chained(drawing, drawing.libraryShader(block.shaderId(), size, {stack}, block.bytes()));
+        const QImage stack = stackedPicture(request.image, maps, renderer.maximumTextureSize());
+        return request.chained(drawing, pass(drawing, Stage::Drawing, stack, size));
     }
+
+private:
+    enum class Stage { Tones, Lines, Drawing };
 };
 
 } // namespace
