@@ -11,7 +11,7 @@ namespace zm {
 
 namespace {
 
-constexpr double kFirstBlur = 0.25; // sigma, of the reach of the smoothing
+constexpr double kFirstBlur = 0.4; // sigma, of the reach of the smoothing
 constexpr double kRounding = 0.16; // sigma of the blur that rounds corners and parts the sheets, of the reach
 constexpr int kSmoothingPasses = 4; // across and down in turn
 
