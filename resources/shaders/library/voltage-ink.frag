@@ -15,7 +15,8 @@ layout(std140, binding = 1) uniform LibraryUniforms {
     vec4 u_param0;  // size: xy of the picture; zw of the map; pixels
     vec4 u_param1;  // edge threshold: 0..1
     vec4 u_param2;  // line intensity: 0..1
-    vec4 u_param3;  // glow radius: x pixels; y the pass, 0 tones, 1 lines, 2 drawing; z reach of the gradient, pixels
+    vec4 u_param3;  // glow radius: x pixels; y the pass, 0 tones, 1 lines, 2 drawing; z reach of the gradient, pixels;
+                    // w what lines of that reach are worth where pixels allow no finer ones, 0..1
     vec4 u_param4;  // glow colour
     vec4 u_param5;  // background dim: 0..1
 };
@@ -33,7 +34,7 @@ vec2 lineOf(float nine[9])
     vec2 edge = edgeNear(nine);
     float low = mix(0.008, 0.3, u_param1.x * u_param1.x);
     float strength = smoothstep(low, low * 2.2 + 0.05, edge.x);
-    return strength * vec2(1.0, penLine(edge, 1.3, 1.0 / u_param3.z));
+    return strength * u_param3.w * vec2(1.0, penLine(edge, 1.3, 1.0 / u_param3.z));
 }
 
 void main()

@@ -13,7 +13,7 @@ namespace zm {
 
 namespace {
 
-constexpr int kDetail = 12; // pixels a square when the picture is looked at
+constexpr int kDetail = 8; // pixels a square when the picture is looked at
 constexpr int kMargin = 3; // squares around the picture
 constexpr int kRounds = 4;
 constexpr double kColorReach = 2.5; // how far, in squares, a colour as far as black from white puts a place

@@ -38,7 +38,8 @@ public:
     FilterRenderResult render(const FilterRenderRequest &request) const override
     {
         const QSize size = request.size();
-        const double reach = std::max(kReach * std::hypot(size.width(), size.height()) / 1000.0, 0.8);
+        const double wanted = kReach * std::hypot(size.width(), size.height()) / 1000.0;
+        const double reach = std::max(wanted, 0.8);
         const int reduction = std::max(int(reach / kReachInMap), 1);
         const double radius = request.diagonalPixels(u"glowRadius"_s, 9.0);
         const QSize mapsSize = mapSize(size, reduction);
@@ -49,7 +50,7 @@ public:
         block.setColor("u_glowColor"_L1, request.parameters.color(u"glowColor"_s, QColor(0x22, 0xc8, 0xff)));
         block.setFloat("u_backgroundDim"_L1, request.percent(u"backgroundDim"_s, 82.0));
         const auto pass = [&](PassChain &chain, Stage stage, const QImage &input, const QSize &passSize) {
-            block.setVec4("u_glowRadius"_L1, radius, double(stage), reach, 0.0);
+            block.setVec4("u_glowRadius"_L1, radius, double(stage), reach, std::sqrt(wanted / reach));
             return chain.libraryShader(block.shaderId(), passSize, {chain.source(input)}, block.bytes());
         };
 
