@@ -3,6 +3,7 @@
 #include "filters/fade_out_filter.h"
 #include "filters/library_filters.h"
 #include "filters/shape_tool_filter.h"
+#include "filters/tinted_mask_overlay_filter.h"
 
 #include <algorithm>
 
@@ -39,6 +40,13 @@ FilterRegistry::FilterRegistry()
     m_filters.push_back(makeBlueprintFilter());
     m_filters.push_back(makeGhostFilter());
     m_filters.push_back(makeSobelFilter());
+    m_filters.push_back(makeBokehPearlsFilter());
+    m_filters.push_back(std::make_unique<ColorScratchesFilter>());
+    m_filters.push_back(makeBevelFilter());
+    m_filters.push_back(std::make_unique<StarMaskFilter>());
+    m_filters.push_back(makeStardustFilter());
+    m_filters.push_back(makeVignetteFilter());
+    m_filters.push_back(makePixelDriftFilter());
 }
 
 const FilterRegistry &FilterRegistry::instance()

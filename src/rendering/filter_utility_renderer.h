@@ -62,6 +62,9 @@ public:
     virtual QImage renderFilterShader(const QString &shaderId, const QSize &outputSize, const QList<QImage> &images,
                                       const QByteArray &uniformBytes, const FilterTextureFormats &formats) = 0;
 
+    /// Sorts pixels along lines. The picture comes back unchanged with an amount of 0.
+    virtual QImage renderPixelDrift(const QImage &image, const PixelDriftSettings &settings) = 0;
+
     /// One pass of a library shader with the three samplers source, blurred source and blurred mask, in the source's
     /// size. Sigmas are in pixels of their image; a negative or non-finite one counts as 0. Outside the mask is
     /// nothing.

@@ -23,6 +23,7 @@ double sigmaOrZero(double sigma)
 OpenGLTextureRenderer::OpenGLTextureRenderer(const FilterShaderCatalog &catalog)
     : m_catalog(catalog)
     , m_passes(m_context, catalog)
+    , m_pixelDrift(m_passes, m_context)
 {
 }
 
@@ -118,6 +119,14 @@ QImage OpenGLTextureRenderer::renderFilterShader(const QString &shaderId, const 
     for (const QImage &image : images)
         inputs.append(chain.source(image));
     return renderChain(chain, chain.libraryShader(shaderId, outputSize, inputs, uniformBytes));
+}
+
+QImage OpenGLTextureRenderer::renderPixelDrift(const QImage &image, const PixelDriftSettings &settings)
+{
+    const QImage picture = m_pixelDrift.render(image, settings);
+    if (picture.isNull() && !image.isNull())
+        ++m_failures;
+    return picture;
 }
 
 QImage OpenGLTextureRenderer::renderMaskedBlurFilterShader(const QString &shaderId, const QImage &source,

@@ -3,6 +3,7 @@
 #include "rendering/filter_pass_drawer.h"
 #include "rendering/filter_utility_renderer.h"
 #include "rendering/offscreen_context.h"
+#include "rendering/pixel_drift_renderer.h"
 #include "rendering/shader_texture_renderer.h"
 
 #include <functional>
@@ -40,6 +41,7 @@ public:
     QImage raise(const QImage &image, const QRectF &region, double bevelSize) override;
     QImage renderFilterShader(const QString &shaderId, const QSize &outputSize, const QList<QImage> &images,
                               const QByteArray &uniformBytes, const FilterTextureFormats &formats) override;
+    QImage renderPixelDrift(const QImage &image, const PixelDriftSettings &settings) override;
     QImage renderMaskedBlurFilterShader(const QString &shaderId, const QImage &source, double sourceSigma,
                                         const QImage &mask, double maskSigma, const QByteArray &uniformBytes,
                                         const FilterTextureFormats &formats) override;
@@ -59,6 +61,7 @@ private:
     const FilterShaderCatalog &m_catalog;
     OffscreenContext m_context;
     FilterPassDrawer m_passes; // after the context, on which its programs live
+    PixelDriftRenderer m_pixelDrift;
 };
 
 } // namespace zm

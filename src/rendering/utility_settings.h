@@ -93,6 +93,18 @@ struct WaterReflectionSettings
     double sheen = 0.3;             ///< whiteness of glass, 0..1
 };
 
+/// Pixels sorted by brightness along parallel lines, in blocks whose edges are scattered.
+struct PixelDriftSettings
+{
+    double angle = 0.0;              ///< direction of the walk, degrees clockwise from the right, 0..360
+    bool descending = false;         ///< the brightest first
+    double streakLength = 96.0;      ///< length of a block, pixels of the picture, at least 2
+    double shadowThreshold = 0.15;   ///< pixels darker than this stay, 0..1
+    double highlightThreshold = 0.9; ///< pixels brighter than this stay, 0..1; under the other one all stay
+    double amount = 0.75;            ///< share of the sorted picture, 0..1
+    double seed = 23.0;
+};
+
 /// Edges by the gradients of Sobel.
 struct EdgeDetection
 {

@@ -1,0 +1,132 @@
+#version 440
+// Lights out of focus: translucent discs, hexagons or hearts in three depths, added as light to the picture. Each takes
+// its colour and strength from the picture behind it, and whether it is there at all from the mask.
+// In and out: straight alpha, (0, 0) top left; alpha is kept. Cost: one texture read, six for each light over a pixel.
+#extension GL_GOOGLE_include_directive : require
+#include "../common/color.glsl"
+#include "../common/hash.glsl"
+#include "../common/sampling.glsl"
+#include "../common/shapes.glsl"
+layout(location = 0) in vec2 v_uv;
+layout(location = 0) out vec4 fragColor;
+layout(binding = 0) uniform sampler2D u_input;
+layout(binding = 1) uniform sampler2D u_mask;
+layout(std140, binding = 2) uniform LibraryUniforms {
+    vec4 u_param0;   // size: width and height, pixels
+    vec4 u_param1;   // density: 0..1
+    vec4 u_param2;   // radius: of the largest lights, pixels
+    vec4 u_param3;   // softness: of the outline, 0..1
+    vec4 u_param4;   // rim: brightness of the outline over the inside, 0..1
+    vec4 u_param5;   // intensity: x 0..1; y 1 draws the lights outside the mask
+    vec4 u_param6;   // shape: 0 disc, 1 hexagon, 2 heart
+    vec4 u_param7;   // colorBoost: saturation of the lights, 0..1
+    vec4 u_param8;   // variation: of the sizes, 0..1
+    vec4 u_param9;   // overlap: 0 apart, 1 over each other
+    vec4 u_param10;  // colorWarmth: -1 cool .. 1 warm
+};
+
+const int kDepths = 3;
+const float kJitter = 0.6; // of a cell; with radii up to 0.7 a light reaches no farther than one cell from its middle
+
+// Inigo Quilez, "2D distance functions".
+float sdHexagon(vec2 p, float r)
+{
+    const vec3 k = vec3(-0.866025404, 0.5, 0.577350269);
+    p = abs(p);
+    p -= 2.0 * min(dot(k.xy, p), 0.0) * k.xy;
+    p -= vec2(clamp(p.x, -k.z * r, k.z * r), r);
+    return length(p) * sign(p.y);
+}
+
+// The point at (0, 0), the lobes up to y = 1.1; half a unit wide to either side. Inigo Quilez, as above.
+float sdHeart(vec2 p)
+{
+    p.x = abs(p.x);
+    if (p.x + p.y > 1.0)
+        return length(p - vec2(0.25, 0.75)) - 0.353553391;
+    vec2 edge = p - 0.5 * max(p.x + p.y, 0.0);
+    return sqrt(min(dot(p - vec2(0.0, 1.0), p - vec2(0.0, 1.0)), dot(edge, edge))) * sign(p.x - p.y);
+}
+
+// For a light of radius 1.
+float distanceTo(vec2 p, float turn)
+{
+    if (u_param6.x < 0.5)
+        return sdCircle(p, 1.0);
+    p = rotation(turn) * p;
+    if (u_param6.x < 1.5)
+        return sdHexagon(p, 0.87) - 0.05; // the blades of a diaphragm are a little round
+    return 1.5 * sdHeart(vec2(p.x, 0.78 - p.y) / 1.5);
+}
+
+// The colour around a place, premultiplied: a mean of few pixels, so that noise makes no light.
+vec4 colorAround(vec2 uv, vec2 reach)
+{
+    return 0.2 * (premultiplied(readInside(u_input, uv)) + premultiplied(readInside(u_input, uv + reach))
+        + premultiplied(readInside(u_input, uv - reach))
+        + premultiplied(readInside(u_input, uv + vec2(reach.x, -reach.y)))
+        + premultiplied(readInside(u_input, uv + vec2(-reach.x, reach.y))));
+}
+
+// The light of one depth in linear colour. `scale` is of the radius, 0..1.
+vec3 depthLight(vec2 px, float scale, float sharpness, uint seed)
+{
+    float fraction = mix(0.32, 0.7, u_param9.x); // radius in cells
+    float radius = max(u_param2.x * scale, 0.75);
+    float cellSize = radius / fraction;
+    vec2 place = px / cellSize;
+    ivec2 base = ivec2(floor(place - 0.5));
+    float spread = 0.55 * u_param8.x;
+    float pixel = 1.0 / radius;
+    vec3 sum = vec3(0.0);
+    for (int i = 0; i < 4; ++i) {
+        ivec2 cell = base + ivec2(i & 1, i >> 1);
+        vec3 random = hash23(cell, seed);
+        float chance = hash21(cell, seed + 1u);
+        if (chance >= u_param1.x)
+            continue;
+        vec2 center = vec2(cell) + 0.5 + kJitter * (random.xy - 0.5);
+        float size = 1.0 - spread * random.z;
+        vec2 p = (place - center) / (fraction * size);
+        if (dot(p, p) > 1.44)
+            continue;
+        float d = distanceTo(p, 0.6 * (random.x - 0.5));
+        float edge = max(mix(0.02, 0.5, u_param3.x * sharpness), pixel / size);
+        float body = 1.0 - smoothstep(-edge, min(edge, pixel / size), d);
+        if (body <= 0.0)
+            continue;
+
+        vec2 uv = center * cellSize / u_param0.xy;
+        float inside = texture(u_mask, uv).a;
+        float mask = mix(inside, 1.0 - inside, u_param5.y);
+        vec4 behind = colorAround(uv, 0.3 * radius / u_param0.xy);
+        vec3 color = toLinear(straight(behind).rgb) * behind.a;
+        float light = linearLuminance(color);
+        // A pure colour of the same hue, brighter where the picture is bright.
+        vec3 hue = (color + 0.02) / (light + 0.02);
+        hue = max(mix(vec3(1.0), hue, 0.45 + 0.9 * u_param7.x), 0.0);
+        hue *= mix(vec3(1.0), u_param10.x > 0.0 ? vec3(1.35, 0.95, 0.5) : vec3(0.6, 0.95, 1.45), abs(u_param10.x));
+        float strength = (0.05 + 0.75 * smoothstep(0.0, 0.6, sqrt(light))) * (0.55 + 0.45 * random.y);
+        // Brightest along the outline, as an overcorrected lens draws it, with a soft middle.
+        float rim = exp2(-pow(abs(d + 0.5 * edge + 0.04) / (0.06 + 0.25 * edge), 2.0));
+        float face = 0.62 + 0.38 * clamp(1.0 + d, 0.0, 1.0) * u_param4.x + 1.1 * rim * u_param4.x;
+        sum += hue * (strength * mask * body * face);
+    }
+    return sum;
+}
+
+void main()
+{
+    vec4 src = texture(u_input, v_uv);
+    vec2 px = v_uv * u_param0.xy;
+    vec3 light = vec3(0.0);
+    float scale = 1.0;
+    for (int i = 0; i < kDepths; ++i) {
+        // Farther lights are smaller, sharper and brighter.
+        light += (0.55 + 0.25 * float(i)) * depthLight(px, scale, 1.0 - 0.25 * float(i), 11u + 7u * uint(i));
+        scale *= mix(0.86, 0.52, u_param8.x);
+    }
+    light = 1.0 - exp(-light * u_param5.x * 0.9);
+    vec3 rgb = toEncoded(blendScreen(toLinear(src.rgb), light));
+    fragColor = vec4(dot(light, vec3(1.0)) > 0.0 ? rgb : src.rgb, src.a);
+}

@@ -1,0 +1,43 @@
+#include "filters/stardust_render.h"
+
+#include <algorithm>
+
+using namespace Qt::StringLiterals;
+
+namespace zm {
+
+namespace {
+
+// Of the size of a star and of a grain: how far apart they are at most. The shader relies on neither reaching farther
+// than 0.7 of a cell.
+constexpr double kStarsCell = 1.6;
+constexpr double kDustCell = 3.2;
+
+} // namespace
+
+PassChain::Picture addStardust(PassChain &chain, const FilterRenderRequest &request, PassChain::Picture input,
+                               PassChain::Picture mask, const StardustUse &use)
+{
+    const double seed = request.number(u"seed"_s, 12.0);
+    const double starSize = std::max(request.diagonalPixels(u"starSize"_s, 36.0), 1.0);
+    const double dustSize = std::max(request.diagonalPixels(u"dustSize"_s, 1.6), 0.1);
+    const double rays = request.choice(u"rays"_s, {"four"_L1, "six"_L1, "mixed"_L1});
+    const double glow = request.percent(u"glow"_s, 45.0);
+    const QSize size = chain.size(input);
+
+    LibraryUniformBlock block(u"stardust"_s);
+    block.setVec2("u_size"_L1, size.width(), size.height());
+    block.setColor("u_sparkleColor"_L1, request.parameters.color(u"color"_s, QColor(0xff, 0xe2, 0xa6)));
+    block.setFloat("u_sparkSeed"_L1, seed);
+    block.setFloat("u_fineSeed"_L1, seed + 1000.0);
+    block.setVec4("u_sparkParams"_L1, kStarsCell * starSize, request.percent(u"stars"_s, 45.0), starSize, rays);
+    block.setVec4("u_fineParams"_L1, kDustCell * dustSize, request.percent(u"dust"_s, 50.0), dustSize, 0.0);
+    block.setVec4("u_styleParams"_L1, glow, request.percent(u"twinkle"_s, 60.0),
+                  request.percent(u"colorVariation"_s, 30.0), 0.0);
+    block.setVec4("u_renderParams"_L1, request.percent(u"highlights"_s, 20.0), 0.0, 0.0, 0.0);
+    block.setFloat("u_maskInverted"_L1, use.maskInverted ? 1.0 : 0.0);
+    block.setFloat("u_starsOnly"_L1, use.starsOnly ? 1.0 : 0.0);
+    return addPass(chain, block, {input, mask});
+}
+
+} // namespace zm
