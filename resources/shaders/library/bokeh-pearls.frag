@@ -4,7 +4,7 @@
 // In and out: straight alpha, (0, 0) top left; alpha is kept. Cost: one texture read, six for each light over a pixel.
 #extension GL_GOOGLE_include_directive : require
 #include "../common/color.glsl"
-#include "../common/hash.glsl"
+#include "../common/noise.glsl"
 #include "../common/sampling.glsl"
 #include "../common/shapes.glsl"
 layout(location = 0) in vec2 v_uv;
@@ -83,7 +83,9 @@ vec3 depthLight(vec2 px, float scale, float sharpness, uint seed)
         ivec2 cell = base + ivec2(i & 1, i >> 1);
         vec3 random = hash23(cell, seed);
         float chance = hash21(cell, seed + 1u);
-        if (chance >= u_param1.x)
+        // Lights come in groups.
+        float group = smoothstep(0.3, 0.7, valueNoise((vec2(cell) + 0.5) * 0.45, seed + 2u));
+        if (chance >= u_param1.x * (0.25 + 1.0 * group))
             continue;
         vec2 center = vec2(cell) + 0.5 + kJitter * (random.xy - 0.5);
         float size = 1.0 - spread * random.z;
@@ -102,15 +104,19 @@ vec3 depthLight(vec2 px, float scale, float sharpness, uint seed)
         vec4 behind = colorAround(uv, 0.3 * radius / u_param0.xy);
         vec3 color = toLinear(straight(behind).rgb) * behind.a;
         float light = linearLuminance(color);
-        // A pure colour of the same hue, brighter where the picture is bright.
-        vec3 hue = (color + 0.02) / (light + 0.02);
-        hue = max(mix(vec3(1.0), hue, 0.45 + 0.9 * u_param7.x), 0.0);
-        hue *= mix(vec3(1.0), u_param10.x > 0.0 ? vec3(1.35, 0.95, 0.5) : vec3(0.6, 0.95, 1.45), abs(u_param10.x));
-        float strength = (0.05 + 0.75 * smoothstep(0.0, 0.6, sqrt(light))) * (0.55 + 0.45 * random.y);
-        // Brightest along the outline, as an overcorrected lens draws it, with a soft middle.
-        float rim = exp2(-pow(abs(d + 0.5 * edge + 0.04) / (0.06 + 0.25 * edge), 2.0));
-        float face = 0.62 + 0.38 * clamp(1.0 + d, 0.0, 1.0) * u_param4.x + 1.1 * rim * u_param4.x;
-        sum += hue * (strength * mask * body * face);
+        // The hue of the picture at full strength; where it is nearly grey, gold to rose, as of lamps.
+        vec3 own = color / max(max(color.r, max(color.g, color.b)), 1e-4);
+        float chroma = 1.0 - min(own.r, min(own.g, own.b));
+        vec3 lamp = mix(vec3(1.0, 0.62, 0.24), vec3(1.0, 0.45, 0.42), chance / max(u_param1.x, 1e-4));
+        vec3 tint = mix(lamp, own, smoothstep(0.1, 0.5, chroma) * smoothstep(0.002, 0.03, light));
+        tint = mix(vec3(1.0), tint, 0.25 + 0.75 * u_param7.x);
+        tint *= mix(vec3(1.0), u_param10.x > 0.0 ? vec3(1.25, 0.85, 0.4) : vec3(0.45, 0.85, 1.35), abs(u_param10.x));
+        float strength = (0.1 + 0.9 * smoothstep(0.0, 0.55, sqrt(light))) * (0.25 + 0.75 * random.y * random.y);
+        // Brighter along the outline, as an overcorrected lens draws it.
+        float rimWidth = 0.045 + 0.5 * edge;
+        float rim = exp2(-pow((d + 0.7 * rimWidth) / rimWidth, 2.0));
+        float face = mix(1.0, 0.72 + 0.28 * clamp(1.0 + d, 0.0, 1.0), u_param4.x) + 0.9 * rim * u_param4.x;
+        sum += tint * (strength * mask * body * face);
     }
     return sum;
 }
