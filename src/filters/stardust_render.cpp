@@ -19,8 +19,8 @@ PassChain::Picture addStardust(PassChain &chain, const FilterRenderRequest &requ
                                PassChain::Picture mask, const StardustUse &use)
 {
     const double seed = request.number(u"seed"_s, 12.0);
-    const double starSize = std::max(request.diagonalPixels(u"starSize"_s, 36.0), 1.0);
-    const double dustSize = std::max(request.diagonalPixels(u"dustSize"_s, 1.6), 0.1);
+    const double starSize = std::max(request.diagonalPixels(u"starSize"_s, 44.0), 1.0);
+    const double dustSize = std::max(request.diagonalPixels(u"dustSize"_s, 1.2), 0.1);
     const double rays = request.choice(u"rays"_s, {"four"_L1, "six"_L1, "mixed"_L1});
     const double glow = request.percent(u"glow"_s, 45.0);
     const QSize size = chain.size(input);
@@ -31,9 +31,9 @@ PassChain::Picture addStardust(PassChain &chain, const FilterRenderRequest &requ
     block.setFloat("u_sparkSeed"_L1, seed);
     block.setFloat("u_fineSeed"_L1, seed + 1000.0);
     block.setVec4("u_sparkParams"_L1, kStarsCell * starSize, request.percent(u"stars"_s, 45.0), starSize, rays);
-    block.setVec4("u_fineParams"_L1, kDustCell * dustSize, request.percent(u"dust"_s, 50.0), dustSize, 0.0);
+    block.setVec4("u_fineParams"_L1, kDustCell * dustSize, request.percent(u"dust"_s, 60.0), dustSize, 0.0);
     block.setVec4("u_styleParams"_L1, glow, request.percent(u"twinkle"_s, 60.0),
-                  request.percent(u"colorVariation"_s, 30.0), 0.0);
+                  request.percent(u"colorVariation"_s, 35.0), 0.0);
     block.setVec4("u_renderParams"_L1, request.percent(u"highlights"_s, 20.0), 0.0, 0.0, 0.0);
     block.setFloat("u_maskInverted"_L1, use.maskInverted ? 1.0 : 0.0);
     block.setFloat("u_starsOnly"_L1, use.starsOnly ? 1.0 : 0.0);

@@ -21,7 +21,7 @@ Q_LOGGING_CATEGORY(lcPixelDrift, "zelmoraatelier.rendering.pixel-drift")
 constexpr GLuint kUniformBinding = 1;
 constexpr int kMaximumBins = 64;   // the shaders walk no further
 constexpr int kShortestSpan = 2;    // pixels
-constexpr double kGroupsASpan = 24.0; // lines that share block edges are this much narrower than a block is long
+constexpr double kGroupsASpan = 40.0; // lines that share block edges are this much narrower than a block is long
 
 /// A number within limits; the fallback for one that is not finite.
 double limited(double value, double low, double high, double fallback)

@@ -76,7 +76,7 @@ vec3 depthLight(vec2 px, float scale, float sharpness, uint seed)
     float cellSize = radius / fraction;
     vec2 place = px / cellSize;
     ivec2 base = ivec2(floor(place - 0.5));
-    float spread = 0.55 * u_param8.x;
+    float spread = 0.7 * u_param8.x;
     float pixel = 1.0 / radius;
     vec3 sum = vec3(0.0);
     for (int i = 0; i < 4; ++i) {
@@ -107,11 +107,11 @@ vec3 depthLight(vec2 px, float scale, float sharpness, uint seed)
         // The hue of the picture at full strength; where it is nearly grey, gold to rose, as of lamps.
         vec3 own = color / max(max(color.r, max(color.g, color.b)), 1e-4);
         float chroma = 1.0 - min(own.r, min(own.g, own.b));
-        vec3 lamp = mix(vec3(1.0, 0.62, 0.24), vec3(1.0, 0.45, 0.42), chance / max(u_param1.x, 1e-4));
+        vec3 lamp = mix(vec3(1.0, 0.56, 0.14), vec3(1.0, 0.30, 0.22), chance / max(u_param1.x, 1e-4));
         vec3 tint = mix(lamp, own, smoothstep(0.1, 0.5, chroma) * smoothstep(0.002, 0.03, light));
-        tint = mix(vec3(1.0), tint, 0.25 + 0.75 * u_param7.x);
+        tint = mix(vec3(1.0), tint, 0.4 + 0.6 * sqrt(u_param7.x));
         tint *= mix(vec3(1.0), u_param10.x > 0.0 ? vec3(1.25, 0.85, 0.4) : vec3(0.45, 0.85, 1.35), abs(u_param10.x));
-        float strength = (0.1 + 0.9 * smoothstep(0.0, 0.55, sqrt(light))) * (0.25 + 0.75 * random.y * random.y);
+        float strength = (0.22 + 0.9 * smoothstep(0.0, 0.6, sqrt(light))) * (0.2 + 0.8 * random.y * random.y);
         // Brighter along the outline, as an overcorrected lens draws it.
         float rimWidth = 0.045 + 0.5 * edge;
         float rim = exp2(-pow((d + 0.7 * rimWidth) / rimWidth, 2.0));
@@ -132,7 +132,7 @@ void main()
         light += (0.55 + 0.25 * float(i)) * depthLight(px, scale, 1.0 - 0.25 * float(i), 11u + 7u * uint(i));
         scale *= mix(0.86, 0.52, u_param8.x);
     }
-    light = 1.0 - exp(-light * u_param5.x * 0.9);
+    light = 1.0 - exp(-light * u_param5.x * 1.7);
     vec3 rgb = toEncoded(blendScreen(toLinear(src.rgb), light));
     fragColor = vec4(dot(light, vec3(1.0)) > 0.0 ? rgb : src.rgb, src.a);
 }

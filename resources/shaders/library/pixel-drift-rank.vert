@@ -9,42 +9,38 @@ layout(std140, binding = 1) uniform LibraryUniforms {
 
 const int kFarthestNeighbour = 63;
 
-vec4 entryAt(int index)
-{
-    int width = int(u_param0.x);
-    return texelFetch(u_atlas, ivec2(index % width, index / width), 0);
-}
-
-// Equal keys keep their order.
-bool precedes(vec4 a, vec4 b) { return a.y < b.y || (a.y == b.y && a.w < b.w); }
-
 void main()
 {
+    // A row holds whole blocks, so that all neighbours are in it; division is dear.
     int slots = int(u_param0.w);
-    int index = gl_VertexIndex;
-    vec4 entry = entryAt(index);
-    int bin = index % slots;
-    int destination = index;
-    if (entry.x > 0.5) {
-        int start = bin;
-        int rank = 0;
-        for (int i = 1; i <= kFarthestNeighbour && i <= bin; ++i) {
-            vec4 other = entryAt(index - i);
-            if (other.x <= 0.5)
-                break;
-            start = bin - i;
-            rank += precedes(other, entry) ? 1 : 0;
-        }
-        for (int i = 1; i <= kFarthestNeighbour && bin + i < slots; ++i) {
-            vec4 other = entryAt(index + i);
-            if (other.x <= 0.5)
-                break;
-            rank += precedes(other, entry) ? 1 : 0;
-        }
-        destination = index - bin + start + rank;
-    }
     int width = int(u_param0.x);
-    vec2 center = vec2(float(destination % width), float(destination / width)) + 0.5;
+    int row = gl_VertexIndex / width;
+    int column = gl_VertexIndex - row * width;
+    int bin = column % slots;
+    vec4 entry = texelFetch(u_atlas, ivec2(column, row), 0);
+    int destination = column;
+    if (entry.x > 0.5) {
+        // Of equal keys the one in the lower slot precedes.
+        int before = 0;
+        int rank = 0;
+        int reach = min(bin, kFarthestNeighbour);
+        for (int i = 1; i <= reach; ++i) {
+            vec2 other = texelFetch(u_atlas, ivec2(column - i, row), 0).xy;
+            if (other.x <= 0.5)
+                break;
+            before = i;
+            rank += other.y <= entry.y ? 1 : 0;
+        }
+        reach = min(slots - 1 - bin, kFarthestNeighbour);
+        for (int i = 1; i <= reach; ++i) {
+            vec2 other = texelFetch(u_atlas, ivec2(column + i, row), 0).xy;
+            if (other.x <= 0.5)
+                break;
+            rank += other.y < entry.y ? 1 : 0;
+        }
+        destination = column - before + rank;
+    }
+    vec2 center = vec2(float(destination), float(row)) + 0.5;
     gl_Position = vec4(center / u_param0.xy * 2.0 - 1.0, 0.0, 1.0);
     gl_PointSize = 1.0;
     v_entry = entry;

@@ -16,12 +16,6 @@ layout(std140, binding = 2) uniform LibraryUniforms {
     vec4 u_param4;  // lineMapping: slope; across offset; 1 walks against the axis
 };
 
-vec4 entryAt(int index)
-{
-    int width = int(u_param1.x);
-    return texelFetch(u_sorted, ivec2(index % width, index / width), 0);
-}
-
 void main()
 {
     DriftLines lines = driftLines(u_param0, u_param2, u_param4);
@@ -51,8 +45,11 @@ void main()
     int blockIndex = (along - line.x + offset) / span;
     DriftBlock block = driftBlock(line, blockIndex, span, offset);
     int base = (localLine * blocks + blockIndex) * slots;
+    int width = int(u_param1.x);
+    int row = base / width;
+    ivec2 first = ivec2(base - row * width, row); // of the block, whose entries lie in one row
     int slot = clamp(((2 * (along - block.start) + 1) * block.count) / (2 * block.pixels), 0, block.count - 1);
-    vec4 entry = entryAt(base + slot);
+    vec4 entry = texelFetch(u_sorted, first + ivec2(slot, 0), 0);
     if (entry.x <= 0.5)
         return;
 
@@ -60,8 +57,8 @@ void main()
     if (block.pixels > block.count) { // pixels between two samples take what lies between their colours
         float position = (float(along - block.start) + 0.5) * float(block.count) / float(block.pixels) - 0.5;
         int left = clamp(int(floor(position)), 0, block.count - 1);
-        vec4 low = entryAt(base + left);
-        vec4 high = entryAt(base + min(left + 1, block.count - 1));
+        vec4 low = texelFetch(u_sorted, first + ivec2(left, 0), 0);
+        vec4 high = texelFetch(u_sorted, first + ivec2(min(left + 1, block.count - 1), 0), 0);
         if (low.x > 0.5 && high.x > 0.5) {
             vec3 lowColor = texelFetch(u_input, drifted(lines, int(low.z), across), 0).rgb;
             vec3 highColor = texelFetch(u_input, drifted(lines, int(high.z), across), 0).rgb;

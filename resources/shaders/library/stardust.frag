@@ -43,7 +43,7 @@ vec3 sparkleColor(float random)
 {
     float variation = u_param6.z;
     vec3 hsv = rgbToHsv(u_param1.rgb);
-    float hue = hsv.x + variation * 0.5 * (random - 0.5);
+    float hue = hsv.x + variation * 0.35 * (random - 0.5);
     float saturation = clamp(max(hsv.y, 0.6 * variation) * (1.0 - 0.5 * variation * fract(random * 7.0)), 0.0, 1.0);
     return toLinear(hsvToRgb(vec3(hue, saturation, hsv.z)));
 }
@@ -126,12 +126,12 @@ vec3 dust(vec2 px, float scale, float density, uint seed)
         if (chance >= density)
             continue;
         vec2 center = vec2(cell) + 0.5 + kJitter * (random.xy - 0.5);
-        float d = length(place - center) * cellSize / drawn;
+        float d = length(place - center) * cellSize / (drawn * mix(1.0, 0.6, fract(chance * 389.0)));
         if (d >= 2.0)
             continue;
-        float sparkle = mix(0.7, 0.08 + 2.4 * random.z * random.z * random.z, u_param6.y);
+        float sparkle = mix(0.7, 0.06 + 3.2 * pow(random.z, 5.0), u_param6.y);
         float light = exp2(-2.0 * d * d) * pale * sparkle;
-        sum += mix(sparkleColor(fract(chance * 977.0)), vec3(1.0), 0.5 * random.z) * light;
+        sum += mix(sparkleColor(fract(chance * 977.0)), vec3(1.0), 0.35 * random.z * random.z) * light;
     }
     return sum;
 }
