@@ -64,7 +64,7 @@ FilterRenderResult TintedMaskOverlayFilter::render(const FilterRenderRequest &re
     PassChain chain;
     const PassChain::Picture input = chain.source(request.image);
     const PassChain::Picture pattern = chain.source(fittedTile(tile, shownScale));
-    const PassChain::Picture mask = addShapeMask(chain, request, {u"ellipse"_s, {}, 30.0});
+    const PassChain::Picture mask = addShapeMask(chain, request, {u"ellipse"_s, {.scaleX = 0.9, .scaleY = 0.9}, 30.0});
     return request.chained(chain, addPass(chain, block, {input, pattern, mask}));
 }
 
