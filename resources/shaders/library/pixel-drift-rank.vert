@@ -1,7 +1,7 @@
 #version 440
 // Moves every entry to its rank within its run, the neighbouring slots that take part: a point for each entry, without
 // attributes. Cost: at most 127 texture reads an entry.
-layout(location = 0) out vec4 v_entry;
+layout(location = 0) flat out vec4 v_entry;
 layout(binding = 0) uniform sampler2D u_atlas;
 layout(std140, binding = 1) uniform LibraryUniforms {
     vec4 u_param0;  // width and height of both textures; unused; slots of a block, at most 64
