@@ -13,6 +13,10 @@ FilterRegistry::FilterRegistry()
 {
     m_filters.push_back(makeShadowFilter());
     m_filters.push_back(makeBrushstrokeFrameFilter());
+    m_filters.push_back(makeColorAdjustFilter());
+    m_filters.push_back(makeRelightFilter());
+    m_filters.push_back(makeSharpenFilter());
+    m_filters.push_back(std::make_unique<FadeOutFilter>());
     m_filters.push_back(std::make_unique<ShapeToolFilter>());
     m_filters.push_back(std::make_unique<FadeOutFilter>());
     m_filters.push_back(makeFocusFrameFilter());
@@ -47,6 +51,15 @@ FilterRegistry::FilterRegistry()
     m_filters.push_back(makeStardustFilter());
     m_filters.push_back(makeVignetteFilter());
     m_filters.push_back(makePixelDriftFilter());
+    m_filters.push_back(makeCrystalContrastFilter());
+    m_filters.push_back(makeSoftAmberFilter());
+    m_filters.push_back(makeColorswapFilter());
+    m_filters.push_back(makeGrayscaleFilter());
+    m_filters.push_back(makeSelectiveColorFilter());
+    m_filters.push_back(makeHDRPhotoFilter());
+    m_filters.push_back(makeSepiaToneFilter());
+    m_filters.push_back(makeTritoneFilter());
+    m_filters.push_back(makeHeatmapFilter());
 }
 
 const FilterRegistry &FilterRegistry::instance()

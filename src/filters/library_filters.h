@@ -12,6 +12,9 @@ std::unique_ptr<Filter> makeShadowFilter();
 std::unique_ptr<Filter> makeBrushstrokeFrameFilter();
 std::unique_ptr<Filter> makeFocusFrameFilter();
 std::unique_ptr<Filter> makeJaggedEdgeFilter();
+std::unique_ptr<Filter> makeColorAdjustFilter();
+std::unique_ptr<Filter> makeRelightFilter();
+std::unique_ptr<Filter> makeSharpenFilter();
 std::unique_ptr<Filter> makeBevelFilter();
 std::unique_ptr<Filter> makeRoundedCornersFilter();
 std::unique_ptr<Filter> makeSwirlStackFilter();
@@ -38,5 +41,14 @@ std::unique_ptr<Filter> makePixelateFilter();
 std::unique_ptr<Filter> makeBlueprintFilter();
 std::unique_ptr<Filter> makeGhostFilter();
 std::unique_ptr<Filter> makeSobelFilter();
+std::unique_ptr<Filter> makeCrystalContrastFilter();
+std::unique_ptr<Filter> makeSoftAmberFilter();
+std::unique_ptr<Filter> makeColorswapFilter();
+std::unique_ptr<Filter> makeGrayscaleFilter();
+std::unique_ptr<Filter> makeSelectiveColorFilter();
+std::unique_ptr<Filter> makeHDRPhotoFilter();
+std::unique_ptr<Filter> makeSepiaToneFilter();
+std::unique_ptr<Filter> makeTritoneFilter();
+std::unique_ptr<Filter> makeHeatmapFilter();
 
 } // namespace zm

@@ -19,6 +19,8 @@ struct ColorAdjustment
     double exposure = 0.0;    ///< 1 is two stops
     double temperature = 0.0; ///< above 0 is warm
     double gamma = 0.0;       ///< above 0 lightens midtones
+
+    friend bool operator==(const ColorAdjustment &a, const ColorAdjustment &b) = default;
 };
 
 /// Noise of a normal distribution that stays within each pixel.

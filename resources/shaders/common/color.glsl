@@ -114,4 +114,22 @@ vec3 blendSoftLight(vec3 base, vec3 top)
     return c + (2.0 * top - 1.0) * mix(c * (1.0 - c), lifted - c, step(0.5, top));
 }
 
+// Into 0..1 by moving towards the grey of the same luminance: unlike clamping it shifts no hue.
+vec3 fitted(vec3 encoded)
+{
+    float grey = clamp(luminance(encoded), 0.0, 1.0);
+    float high = max(encoded.r, max(encoded.g, encoded.b));
+    float low = min(encoded.r, min(encoded.g, encoded.b));
+    float share = min(1.0, min((1.0 - grey) / max(high - grey, 1e-4), grey / max(grey - low, 1e-4)));
+    return clamp(grey + (encoded - grey) * share, 0.0, 1.0);
+}
+
+// An S through (0, 0), (0.5, 0.5) and (1, 1). amount: -1 (flat) .. 0 (as it is) .. 1.
+float curved(float tone, float amount)
+{
+    float t = clamp(tone, 0.0, 1.0);
+    float steep = t * t * (3.0 - 2.0 * t);
+    return t + amount * (amount > 0.0 ? steep - t : (t - 0.5) * 0.8);
+}
+
 #endif

@@ -1,0 +1,42 @@
+#include "filters/library_filter.h"
+#include "filters/library_filters.h"
+#include "filters/tone_base.h"
+
+using namespace Qt::StringLiterals;
+
+namespace zm {
+
+namespace {
+
+// Compresses the broad tones and keeps what is finer.
+class HDRPhotoFilter final : public LibraryFilter
+{
+public:
+    HDRPhotoFilter()
+        : LibraryFilter(u"hdr-photo"_s)
+    {
+    }
+
+    FilterRenderResult render(const FilterRenderRequest &request) const override
+    {
+        PassChain chain;
+        const ToneBase base =
+            addToneBase(chain, chain.source(request.image), request.diagonalPixels(u"radius"_s, 14.0));
+
+        LibraryUniformBlock block = toneBaseBlock(base, ToneBaseStage::Use);
+        block.setFloat("u_amount"_L1, request.percent(u"amount"_s, 65.0));
+        block.setFloat("u_detail"_L1, request.percent(u"detail"_s, 50.0));
+        block.setFloat("u_color"_L1, request.percent(u"color"_s, 35.0));
+        return request.chained(chain,
+                               chain.libraryShader(block.shaderId(), base.pictureSize, {base.atlas}, block.bytes()));
+    }
+};
+
+} // namespace
+
+std::unique_ptr<Filter> makeHDRPhotoFilter()
+{
+    return std::make_unique<HDRPhotoFilter>();
+}
+
+} // namespace zm

@@ -1,0 +1,59 @@
+#include "filters/library_filter.h"
+#include "filters/library_filters.h"
+
+#include <algorithm>
+
+using namespace Qt::StringLiterals;
+
+namespace zm {
+
+namespace {
+
+// What the shader does, in its own numbers.
+enum class Step { Sharpen, Premultiply, Divide };
+
+constexpr double kBlurPerRadius = 8.0; // sigma of the full blur: blurs are wanted much wider than what sharpens
+
+// Below 0 the slider blurs, above it sharpens.
+class SharpenFilter final : public LibraryFilter
+{
+public:
+    SharpenFilter()
+        : LibraryFilter(u"sharpen"_s)
+    {
+    }
+
+    FilterRenderResult render(const FilterRenderRequest &request) const override
+    {
+        const double strength = request.percent(u"strength"_s, 50.0);
+        const double radius = request.pixels(u"radius"_s, 1.5);
+        if (strength == 0.0)
+            return request.unchanged();
+
+        PassChain chain;
+        const PassChain::Picture input = chain.source(request.image);
+        const auto pass = [&](PassChain::Picture picture, Step step) {
+            LibraryUniformBlock block(u"sharpen"_s);
+            block.setVec2("u_size"_L1, request.size().width(), request.size().height());
+            block.setVec2("u_strength"_L1, std::max(strength, 0.0), double(step));
+            block.setFloat("u_radius"_L1, radius);
+            return addPass(chain, block, {picture});
+        };
+        if (strength > 0.0)
+            return request.chained(chain, pass(input, Step::Sharpen));
+
+        // Colours are weighted by their alpha, or the surroundings of a cut-out would show in its edges.
+        const PassChain::Picture blurred =
+            chain.gaussianBlur(pass(input, Step::Premultiply), -strength * kBlurPerRadius * radius);
+        return request.chained(chain, pass(blurred, Step::Divide));
+    }
+};
+
+} // namespace
+
+std::unique_ptr<Filter> makeSharpenFilter()
+{
+    return std::make_unique<SharpenFilter>();
+}
+
+} // namespace zm
