@@ -8,7 +8,7 @@
 namespace zm {
 
 /// A picture with a small map of its broad tones beside it, in one texture, for shaders that change local contrast.
-/// The map follows strong edges, so that what is done with it makes no halos. common/tone_base.glsl tells the layout.
+/// The map follows strong edges, so that what is done with it makes no halos. common/tone_base.glsl tells how.
 struct ToneBase
 {
     PassChain::Picture atlas;

@@ -1,10 +1,13 @@
 #ifndef ZM_TONE_BASE_GLSL
 #define ZM_TONE_BASE_GLSL
-// A picture and the map of its broad tones in one texture. The map lies below a picture that is wider than high, else
-// to the right of it. One pixel of the map stands for a square of cell x cell pixels: red and green hold the tone,
-// 0..1, as a number of 16 bits; blue holds the mean alpha. A tone is the luminance of encoded colour.
+// A picture and a map of its broad tones in one texture. The map lies below a picture that is wider than high, else to
+// the right of it. One pixel of the map stands for a square of cell x cell pixels. A tone is the luminance of encoded
+// colour. Around its square, a pixel of the map takes broad tones to be share * tone + offset: where nothing but
+// texture is, share is near 0 and the base is their mean; at edges it is near 1 and the base follows them. Being a
+// straight line, it can turn no gradient round. He, Sun and Tang, "Guided Image Filtering", 2010.
+// Red and green hold the offset, 0..1, as a number of 16 bits; blue holds the share.
 
-const float kToneSpread = 0.13; // tones that differ by more belong to different surfaces
+const float kTextureVariance = 0.009; // of tones; at more, it is rather an edge than texture
 
 ivec2 toneMapOrigin(ivec2 size) { return size.x >= size.y ? ivec2(0, size.y) : ivec2(size.x, 0); }
 // The last pixel of the map, counted from its origin.
@@ -13,42 +16,37 @@ ivec2 toneMapLast(ivec2 size, float cell)
     return clamp(ivec2(ceil(vec2(size) / cell - 0.001)) - 1, ivec2(0), size - 1);
 }
 
-vec4 packedTone(float tone, float alpha)
+// A number of 0..1 in two channels, and back.
+vec2 packed16(float number)
 {
-    float bits = floor(clamp(tone, 0.0, 1.0) * 65535.0 + 0.5);
+    float bits = floor(clamp(number, 0.0, 1.0) * 65535.0 + 0.5);
     float high = floor(bits / 256.0);
-    return vec4(high / 255.0, (bits - 256.0 * high) / 255.0, alpha, 1.0);
+    return vec2(high, bits - 256.0 * high) / 255.0;
 }
 
-float unpackedTone(vec4 texel) { return dot(floor(texel.rg * 255.0 + 0.5), vec2(256.0, 1.0)) / 65535.0; }
+float unpacked16(vec2 texel) { return dot(floor(texel * 255.0 + 0.5), vec2(256.0, 1.0)) / 65535.0; }
 
-// The tone of the surroundings that belong to the same surface as a pixel with this tone. position: pixels of the
-// picture. Nine reads.
-float toneBase(sampler2D atlas, ivec2 size, float cell, vec2 position, float tone)
+// x: the broad tone at a pixel with this tone; y: how much of what differs from it is texture rather than noise, 0..1.
+// position: pixels of the picture. Four reads.
+vec2 toneBase(sampler2D atlas, ivec2 size, float cell, vec2 position, float tone)
 {
     ivec2 origin = toneMapOrigin(size);
     ivec2 last = toneMapLast(size, cell);
     vec2 place = position / cell - 0.5;
-    vec2 nearest = floor(place + 0.5);
-    vec2 f = place - nearest;
-    vec2 weights[3] = vec2[](0.5 * (0.5 - f) * (0.5 - f), 0.75 - f * f, 0.5 * (0.5 + f) * (0.5 + f));
-    float sum = 0.0;
-    float total = 0.0;
-    for (int y = 0; y < 3; ++y)
-        for (int x = 0; x < 3; ++x) {
-            ivec2 at = clamp(ivec2(nearest) + ivec2(x - 1, y - 1), ivec2(0), last);
-            vec4 texel = texelFetch(atlas, origin + at, 0);
-            float base = unpackedTone(texel);
-            float difference = (base - tone) / kToneSpread;
-            float weight =
-                weights[x].x * weights[y].y * texel.b * (exp(-0.5 * difference * difference) + 0.0005);
-            sum += weight * base;
-            total += weight;
-        }
-    return total > 1e-7 ? sum / total : tone;
+    ivec2 low = clamp(ivec2(floor(place)), ivec2(0), last);
+    ivec2 high = clamp(ivec2(floor(place)) + 1, ivec2(0), last);
+    vec2 f = fract(place);
+    vec3 nw = texelFetch(atlas, origin + low, 0).rgb;
+    vec3 ne = texelFetch(atlas, origin + ivec2(high.x, low.y), 0).rgb;
+    vec3 sw = texelFetch(atlas, origin + ivec2(low.x, high.y), 0).rgb;
+    vec3 se = texelFetch(atlas, origin + high, 0).rgb;
+    float offset = mix(mix(unpacked16(nw.rg), unpacked16(ne.rg), f.x), mix(unpacked16(sw.rg), unpacked16(se.rg), f.x),
+                       f.y);
+    float share = mix(mix(nw.b, ne.b, f.x), mix(sw.b, se.b, f.x), f.y);
+    return vec2(clamp(share * tone + offset, 0.0, 1.0), smoothstep(0.0, 0.07, share));
 }
 
-// The colour with another tone, and its chroma times `chroma`, within 0..1.
+// The colour with another tone, and its chroma times `chroma`. Not clamped.
 vec3 withTone(vec3 rgb, float tone, float newTone, float chroma)
 {
     float ratio = (newTone + 0.03) / (tone + 0.03);

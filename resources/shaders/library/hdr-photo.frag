@@ -1,7 +1,7 @@
 #version 440
 // Opens shadows and brings back lights by compressing the broad tones, and lifts what is finer than them.
-// In three steps: the map of tones is gathered beside the picture, smoothed within its surfaces, and used.
-// In and out: straight alpha, (0, 0) top left; alpha is kept. Cost: ten texture reads, and two copies.
+// In three steps: the map of tones is gathered beside the picture, smoothed, and used.
+// In and out: straight alpha, (0, 0) top left; alpha is kept. Cost: five texture reads, and two copies.
 #extension GL_GOOGLE_include_directive : require
 #include "../common/color.glsl"
 #include "../common/tone_base.glsl"
@@ -19,44 +19,46 @@ layout(std140, binding = 1) uniform LibraryUniforms {
 const int kMostTaps = 6;  // along a side of a cell
 const int kReach = 4;     // of the smoothing, cells: two standard deviations
 
-// The mean tone of a cell, of what is not transparent there.
+// Mean and standard deviation of the tones in a cell, of what is not transparent there, and the mean alpha.
 vec4 gathered(ivec2 size, ivec2 at, float cell, bool isWanted)
 {
     int taps = isWanted ? clamp(int(ceil(cell * 0.5)), 1, kMostTaps) : 0;
-    float sum = 0.0;
+    vec2 sum = vec2(0.0);
     float alpha = 0.0;
     for (int y = 0; y < taps; ++y)
         for (int x = 0; x < taps; ++x) {
             vec2 position = (vec2(at) + (vec2(float(x), float(y)) + 0.5) / float(taps)) * cell;
             vec4 color = texelFetch(u_input, clamp(ivec2(position), ivec2(0), size - 1), 0);
-            sum += luminance(color.rgb) * color.a;
+            float tone = luminance(color.rgb);
+            sum += vec2(tone, tone * tone) * color.a;
             alpha += color.a;
         }
-    return packedTone(alpha > 0.0 ? sum / alpha : 0.0, alpha / float(max(taps * taps, 1)));
+    sum /= max(alpha, 1e-5);
+    return vec4(packed16(sum.x), sqrt(max(sum.y - sum.x * sum.x, 0.0)), alpha / float(max(taps * taps, 1)));
 }
 
-// The mean over the surroundings whose tone is near: Tomasi and Manduchi, "Bilateral Filtering for Gray and Color
-// Images", 1998.
+// Offset and share from the mean and the variance over the surroundings, by a bell curve.
 vec4 smoothed(ivec2 size, ivec2 at, float cell, bool isWanted)
 {
     int reach = isWanted ? kReach : -1;
     ivec2 origin = toneMapOrigin(size);
     ivec2 last = toneMapLast(size, cell);
-    vec4 middle = texelFetch(u_input, origin + min(at, last), 0);
-    float tone = unpackedTone(middle);
-    float spread = middle.b > 0.02 ? 1.0 / kToneSpread : 0.0; // a transparent place takes what is around it
-    float sum = 0.0;
+    vec2 sum = vec2(0.0);
     float total = 0.0;
     for (int y = -reach; y <= reach; ++y)
         for (int x = -reach; x <= reach; ++x) {
             vec4 texel = texelFetch(u_input, origin + clamp(at + ivec2(x, y), ivec2(0), last), 0);
-            float value = unpackedTone(texel);
-            vec3 away = vec3(vec2(float(x), float(y)) * (2.0 / float(kReach)), (value - tone) * spread);
-            float weight = texel.b * exp(-0.5 * dot(away, away));
-            sum += weight * value;
+            float mean = unpacked16(texel.rg);
+            vec2 away = vec2(float(x), float(y)) * (2.0 / float(kReach));
+            float weight = texel.a * exp(-0.5 * dot(away, away));
+            sum += vec2(mean, mean * mean + texel.b * texel.b) * weight;
             total += weight;
         }
-    return packedTone(total > 1e-6 ? sum / total : tone, middle.b);
+    sum /= max(total, 1e-5);
+    float variance = max(sum.y - sum.x * sum.x, 0.0);
+    // Rounded first, so that the offset fits what is stored.
+    float share = total > 1e-4 ? floor(255.0 * variance / (variance + kTextureVariance) + 0.5) / 255.0 : 1.0;
+    return vec4(packed16(sum.x * (1.0 - share)), share, 1.0);
 }
 
 // Steep near black and white, flat in between; black and white stay.
@@ -72,17 +74,20 @@ vec4 toneMapped(ivec2 size, vec2 position, float cell)
     vec4 src = texelFetch(u_input, clamp(ivec2(position), ivec2(0), size - 1), 0);
     float amount = u_param1.x;
     float tone = luminance(src.rgb);
-    float base = clamp(toneBase(u_input, size, cell, position, tone), 0.0, 1.0);
+    vec2 broad = toneBase(u_input, size, cell, position, tone);
+    float base = broad.x;
     float newBase = compressed(base, amount);
 
-    // Detail follows its surroundings up, less in deep shadow, where it is noise; strong detail gains least.
+    // Detail follows its surroundings up, but noise does not, nor what lies in deep shadow; strong detail gains least.
     float fine = tone - base;
     float follow = clamp(sqrt((newBase + 0.02) / (base + 0.02)), 0.8, 1.6);
-    float gain = follow * (1.0 + 2.4 * u_param2.x * smoothstep(0.0, 0.2, base + 0.05) / (1.0 + 6.0 * abs(fine)));
+    float clear = mix(0.2, 1.0, broad.y) * smoothstep(-0.05, 0.15, base);
+    float gain = follow * (1.0 + 3.0 * u_param2.x * clear / (1.0 + 6.0 * abs(fine)));
     float newTone = curved(newBase + fine * gain, 0.22 * amount);
 
+    // Faint colours gain more than strong ones.
     float chroma = max(src.r, max(src.g, src.b)) - min(src.r, min(src.g, src.b));
-    float vivid = 1.0 + u_param3.x * (1.0 - 0.75 * smoothstep(0.15, 0.75, chroma));
+    float vivid = 1.0 - 0.12 * amount + u_param3.x * (1.0 - 0.75 * smoothstep(0.15, 0.75, chroma));
     return vec4(fitted(withTone(src.rgb, tone, newTone, vivid)), src.a);
 }
 

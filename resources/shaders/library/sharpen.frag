@@ -1,7 +1,7 @@
 #version 440
 // Sharpens by what distinguishes a pixel from its surroundings (an unsharp mask), in brightness alone. Noise is spared
 // and edges overshoot little. Two more steps prepare and finish a blur, which happens elsewhere.
-// In and out: straight alpha, (0, 0) top left; sharpening keeps alpha. Cost: 12 to 40 texture reads, by radius.
+// In and out: straight alpha, (0, 0) top left; sharpening keeps alpha. Cost: 9 to 22 texture reads, by radius.
 #extension GL_GOOGLE_include_directive : require
 #include "../common/color.glsl"
 #include "../common/sampling.glsl"
@@ -14,6 +14,7 @@ layout(std140, binding = 1) uniform LibraryUniforms {
     vec4 u_param2;  // radius: standard deviation of the surroundings, pixels
 };
 
+const float kReachPerRadius = 2.83; // of the disc whose bell has this standard deviation
 const mat2 kGoldenTurn = mat2(-0.7373688, 0.6754903, -0.6754903, -0.7373688);
 
 void main()
@@ -24,22 +25,23 @@ void main()
         return;
     }
 
-    // Places as dense as a bell curve, on the spiral of sunflower seeds.
-    float radius = u_param2.x;
-    int count = int(clamp(8.0 + 7.0 * radius, 12.0, 40.0));
+    // Places on the spiral of sunflower seeds, evenly over a disc; the weight (1 - r^2)^2 makes it a bell.
+    int count = int(clamp(6.0 + 3.0 * u_param2.x, 8.0, 21.0));
+    float reach = kReachPerRadius * u_param2.x / sqrt(float(count) + 0.5);
     vec2 texel = 1.0 / u_param0.xy;
     vec2 direction = vec2(1.0, 0.0);
     float tone = luminance(src.rgb);
     float low = tone;
     float high = tone;
-    float sum = 0.0;
-    float total = 0.0;
-    for (int i = 0; i < count; ++i) {
-        float reach = radius * sqrt(-2.0 * log(1.0 - (float(i) + 0.5) / float(count)));
-        vec4 near = readInside(u_input, v_uv + direction * reach * texel);
+    float sum = tone * src.a;
+    float total = src.a;
+    for (int i = 1; i <= count; ++i) {
+        vec4 near = texture(u_input, v_uv + direction * (reach * sqrt(float(i))) * texel);
         float nearTone = luminance(near.rgb);
-        sum += nearTone * near.a;
-        total += near.a;
+        float inner = 1.0 - float(i) / (float(count) + 1.0);
+        float weight = inner * inner * near.a;
+        sum += nearTone * weight;
+        total += weight;
         low = near.a > 0.5 ? min(low, nearTone) : low;
         high = near.a > 0.5 ? max(high, nearTone) : high;
         direction = kGoldenTurn * direction;

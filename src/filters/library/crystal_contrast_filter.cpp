@@ -32,7 +32,7 @@ public:
                       base.pictureSize.height(), base.cell);
         block.setFloat("u_contrast"_L1, request.percent(u"contrast"_s, 35.0));
         block.setFloat("u_colorPop"_L1, request.percent(u"colorPop"_s, 35.0));
-        block.setFloat("u_coolTone"_L1, request.percent(u"coolTone"_s, 40.0));
+        block.setFloat("u_coolTone"_L1, request.percent(u"coolTone"_s, 30.0));
         return request.chained(chain,
                                chain.libraryShader(block.shaderId(), base.pictureSize, {base.atlas}, block.bytes()));
     }
