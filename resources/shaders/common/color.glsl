@@ -124,12 +124,12 @@ vec3 fitted(vec3 encoded)
     return clamp(grey + (encoded - grey) * share, 0.0, 1.0);
 }
 
-// An S through (0, 0), (0.5, 0.5) and (1, 1). amount: -1 (flat) .. 0 (as it is) .. 1.
+// An S through (0, 0), (0.5, 0.5) and (1, 1). amount: -1 (half as steep) .. 0 (as it is) .. 1.
 float curved(float tone, float amount)
 {
     float t = clamp(tone, 0.0, 1.0);
     float steep = t * t * (3.0 - 2.0 * t);
-    return t + amount * (amount > 0.0 ? steep - t : (t - 0.5) * 0.8);
+    return t + amount * (amount > 0.0 ? steep - t : (t - 0.5) * 0.5);
 }
 
 #endif

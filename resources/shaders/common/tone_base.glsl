@@ -7,7 +7,7 @@
 // straight line, it can turn no gradient round. He, Sun and Tang, "Guided Image Filtering", 2010.
 // Red and green hold the offset, 0..1, as a number of 16 bits; blue holds the share.
 
-const float kTextureVariance = 0.009; // of tones; at more, it is rather an edge than texture
+const float kTextureVariance = 0.007; // of tones; at more, it is rather an edge than texture
 
 ivec2 toneMapOrigin(ivec2 size) { return size.x >= size.y ? ivec2(0, size.y) : ivec2(size.x, 0); }
 // The last pixel of the map, counted from its origin.

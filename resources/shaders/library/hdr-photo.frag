@@ -65,7 +65,7 @@ vec4 smoothed(ivec2 size, ivec2 at, float cell, bool isWanted)
 float compressed(float base, float amount)
 {
     float lifted = pow(base, 1.0 / (1.0 + 0.85 * amount));
-    float lowered = 1.0 - pow(1.0 - base, 1.0 / (1.0 + 0.55 * amount));
+    float lowered = 1.0 - pow(1.0 - base, 1.0 / (1.0 + 0.42 * amount));
     return mix(lifted, lowered, smoothstep(0.1, 0.9, base));
 }
 
@@ -76,7 +76,10 @@ vec4 toneMapped(ivec2 size, vec2 position, float cell)
     float tone = luminance(src.rgb);
     vec2 broad = toneBase(u_input, size, cell, position, tone);
     float base = broad.x;
-    float newBase = compressed(base, amount);
+    // Strong colours look brighter than their tone: a deep blue sky is no shadow.
+    float chroma = max(src.r, max(src.g, src.b)) - min(src.r, min(src.g, src.b));
+    float strong = smoothstep(0.2, 0.8, chroma);
+    float newBase = mix(compressed(base, amount), base, 0.65 * strong);
 
     // Detail follows its surroundings up, but noise does not, nor what lies in deep shadow; strong detail gains least.
     float fine = tone - base;
@@ -86,8 +89,7 @@ vec4 toneMapped(ivec2 size, vec2 position, float cell)
     float newTone = curved(newBase + fine * gain, 0.22 * amount);
 
     // Faint colours gain more than strong ones.
-    float chroma = max(src.r, max(src.g, src.b)) - min(src.r, min(src.g, src.b));
-    float vivid = 1.0 - 0.12 * amount + u_param3.x * (1.0 - 0.75 * smoothstep(0.15, 0.75, chroma));
+    float vivid = 1.0 - 0.12 * amount + u_param3.x * (1.0 - 0.75 * strong);
     return vec4(fitted(withTone(src.rgb, tone, newTone, vivid)), src.a);
 }
 
