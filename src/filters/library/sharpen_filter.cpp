@@ -2,6 +2,7 @@
 #include "filters/library_filters.h"
 
 #include <algorithm>
+#include <cmath>
 
 using namespace Qt::StringLiterals;
 
@@ -12,7 +13,9 @@ namespace {
 // What the shader does, in its own numbers.
 enum class Step { Sharpen, Premultiply, Divide };
 
-constexpr double kBlurPerRadius = 8.0; // sigma of the full blur: blurs are wanted much wider than what sharpens
+// Sigma of the full blur: blurs are wanted much wider than what sharpens. Towards 0 it falls faster than the slider,
+// for fine settings of faint blurs.
+constexpr double kBlurPerRadius = 8.0;
 
 // Below 0 the slider blurs, above it sharpens.
 class SharpenFilter final : public LibraryFilter
@@ -44,7 +47,7 @@ public:
 
         // Colours are weighted by their alpha, or the surroundings of a cut-out would show in its edges.
         const PassChain::Picture blurred =
-            chain.gaussianBlur(pass(input, Step::Premultiply), -strength * kBlurPerRadius * radius);
+            chain.gaussianBlur(pass(input, Step::Premultiply), std::pow(-strength, 1.5) * kBlurPerRadius * radius);
         return request.chained(chain, pass(blurred, Step::Divide));
     }
 };
