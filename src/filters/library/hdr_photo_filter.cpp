@@ -26,7 +26,7 @@ public:
         LibraryUniformBlock block = toneBaseBlock(base, ToneBaseStage::Use);
         block.setFloat("u_amount"_L1, request.percent(u"amount"_s, 70.0));
         block.setFloat("u_detail"_L1, request.percent(u"detail"_s, 50.0));
-        block.setFloat("u_color"_L1, request.percent(u"color"_s, 30.0));
+        block.setFloat("u_color"_L1, request.percent(u"color"_s, 20.0));
         return request.chained(chain,
                                chain.libraryShader(block.shaderId(), base.pictureSize, {base.atlas}, block.bytes()));
     }
