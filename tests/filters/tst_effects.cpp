@@ -143,7 +143,10 @@ ParameterValues prerequisites(const QString &effect, const QString &control)
         QLatin1StringView key;
         ParameterValue value;
     };
-    static const QList<Row> rows = {};
+    static const QList<Row> rows = {
+        {"grayscale"_L1, "thresholdPoint"_L1, "thresholdAmount"_L1, 100.0},
+        {"grayscale"_L1, "thresholdSoftness"_L1, "thresholdAmount"_L1, 100.0},
+    };
     ParameterValues values;
     for (const Row &row : rows) {
         if (row.effect == effect && row.control == control)
