@@ -68,4 +68,29 @@ void multiplyAlphaEnlarged(QImage &image, const QImage &mask, double steeper)
     }
 }
 
+bool hasTransparency(const QImage &image)
+{
+    Q_ASSERT(image.format() == QImage::Format_RGBA8888);
+    for (int y = 0; y < image.height(); ++y) {
+        const uchar *alpha = image.constScanLine(y) + 3;
+        for (int x = 0; x < image.width(); ++x, alpha += 4) {
+            if (*alpha != 255)
+                return true;
+        }
+    }
+    return false;
+}
+
+void copyAlpha(QImage &image, const QImage &from)
+{
+    Q_ASSERT(image.format() == QImage::Format_RGBA8888 && from.format() == QImage::Format_RGBA8888);
+    Q_ASSERT(image.size() == from.size());
+    for (int y = 0; y < image.height(); ++y) {
+        uchar *alpha = image.scanLine(y) + 3;
+        const uchar *wanted = from.constScanLine(y) + 3;
+        for (int x = 0; x < image.width(); ++x, alpha += 4, wanted += 4)
+            *alpha = *wanted;
+    }
+}
+
 } // namespace zm

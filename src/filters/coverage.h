@@ -12,4 +12,10 @@ void multiplyAlpha(QImage &image, const QImage &mask, bool inverted = false);
 /// so that its edges are as crisp as the picture.
 void multiplyAlphaEnlarged(QImage &image, const QImage &mask, double steeper);
 
+/// Whether any pixel of an RGBA8888 picture is not opaque.
+bool hasTransparency(const QImage &image);
+
+/// Replaces the alpha of an RGBA8888 picture by that of another one of the same size.
+void copyAlpha(QImage &image, const QImage &from);
+
 } // namespace zm

@@ -60,6 +60,13 @@ FilterRegistry::FilterRegistry()
     m_filters.push_back(makeSepiaToneFilter());
     m_filters.push_back(makeTritoneFilter());
     m_filters.push_back(makeHeatmapFilter());
+    m_filters.push_back(makeComicBookFilter());
+    m_filters.push_back(makePencilSketchFilter());
+    m_filters.push_back(makePaintingFilter());
+    m_filters.push_back(makeWatercolorWashFilter());
+    m_filters.push_back(makeEmbroideryFilter());
+    m_filters.push_back(makeStipplingFilter());
+    m_filters.push_back(makeRisoPressFilter());
 }
 
 const FilterRegistry &FilterRegistry::instance()

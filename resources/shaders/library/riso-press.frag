@@ -1,0 +1,112 @@
+#version 440
+// A stencil print in two or three spot colours: each ink a screen of its own angle, out of register, uneven and grainy,
+// over warm uncoated paper. Inks are see-through: where they overlap, they multiply.
+// In and out: straight alpha, (0, 0) top left; alpha is kept. Cost: four texture reads.
+#extension GL_GOOGLE_include_directive : require
+#include "../common/noise.glsl"
+#include "../common/sampling.glsl"
+#include "../common/shapes.glsl"
+layout(location = 0) in vec2 v_uv;
+layout(location = 0) out vec4 fragColor;
+layout(binding = 0) uniform sampler2D u_input;
+layout(std140, binding = 1) uniform LibraryUniforms {
+    vec4 u_param0;  // size: width and height, pixels
+    vec4 u_param1;  // palette: index of the inks below
+    vec4 u_param2;  // screenScale: pitch of the screens, pixels
+    vec4 u_param3;  // misregistration: shift of the inks, pixels
+    vec4 u_param4;  // inkDensity: 0..1
+    vec4 u_param5;  // grain: 0..1
+    vec4 u_param6;  // seed
+    vec4 u_param7;  // renderScale: pixels for a unit of the layer
+};
+
+// Three inks a palette; a white one is none.
+const vec3 kInks[18] = vec3[](
+    vec3(1.00, 0.28, 0.52), vec3(0.00, 0.42, 0.72), vec3(1.00, 0.88, 0.10),  // pink, blue, yellow
+    vec3(1.00, 0.28, 0.40), vec3(0.05, 0.33, 0.60), vec3(1.0),               // fluorescent pink, blue
+    vec3(0.98, 0.42, 0.16), vec3(0.00, 0.40, 0.40), vec3(1.0),               // orange, teal
+    vec3(0.95, 0.26, 0.22), vec3(0.13, 0.13, 0.15), vec3(1.0),               // red, black
+    vec3(0.98, 0.74, 0.13), vec3(0.32, 0.18, 0.55), vec3(1.0),               // sunflower, violet
+    vec3(0.22, 0.72, 0.52), vec3(0.93, 0.36, 0.45), vec3(0.14, 0.20, 0.42)); // mint, coral, midnight
+const float kAngles[3] = float[](1.30899694, 0.26179939, 0.78539816);
+const vec3 kPaper = vec3(0.965, 0.95, 0.915);
+const vec3 kTone = vec3(0.299, 0.587, 0.114);
+
+// Optical density; the fourth component, of the luminance, makes the fit keep the tones first.
+vec4 density(vec3 color)
+{
+    vec3 c = max(color, 0.02);
+    return vec4(-log(c), -2.2 * log(dot(c, kTone)));
+}
+
+// How much of each ink comes nearest to a colour: a least-squares fit with shares of 0..1, by Gauss-Seidel steps.
+vec3 separation(vec3 color, vec4 inks[3], float weight)
+{
+    vec4 wanted = density(color) * weight;
+    vec3 share = vec3(0.0);
+    for (int step = 0; step < 5; ++step) {
+        for (int i = 0; i < 3; ++i) {
+            vec4 rest = wanted - share.x * inks[0] - share.y * inks[1] - share.z * inks[2];
+            float norm = dot(inks[i], inks[i]);
+            share[i] = clamp(share[i] + (norm > 0.01 ? dot(rest, inks[i]) / (norm + 0.12) : 0.0), 0.0, 1.0);
+        }
+    }
+    return share;
+}
+
+// The share of ink at a place of the screen, which has this share on average.
+float screened(vec2 pixel, float pitch, float angle, float share)
+{
+    vec2 q = rotation(angle) * pixel / pitch * 6.28318531;
+    // The product of waves gives round dots in light tones, squares at one half and round holes in dark ones.
+    float wave = 0.5 + 0.25 * (cos(q.x) + cos(q.y));
+    // The wave's own distribution: about this much of it lies within 0.5 of its nearer end.
+    float part = min(share, 1.0 - share);
+    float threshold = part * (1.57 - 1.14 * part);
+    threshold = share < 0.5 ? 1.0 - threshold : threshold;
+    float soft = clamp(1.6 / pitch, 0.04, 1.0);
+    threshold = mix(-soft, 1.0 + soft, threshold);
+    return smoothstep(threshold - soft, threshold + soft, wave);
+}
+
+void main()
+{
+    vec2 size = max(u_param0.xy, 1.0);
+    int palette = int(clamp(floor(u_param1.x + 0.5), 0.0, 5.0));
+    float pitch = max(u_param2.x, 1.0);
+    float grain = clamp(u_param5.x, 0.0, 1.0);
+    uint seed = seedBits(u_param6.x);
+    float alpha = texture(u_input, v_uv).a;
+    vec2 pixel = v_uv * size;
+    vec2 place = pixel / pitch;
+
+    vec4 inks[3];
+    for (int i = 0; i < 3; ++i)
+        inks[i] = density(kInks[3 * palette + i]);
+    float strength = mix(0.45, 1.25, u_param4.x);
+
+    vec3 print = kPaper * (1.0 + 0.05 * grain * fbm(place * 0.35, 3.0, seed + 50u));
+    for (int i = 0; i < 3; ++i) {
+        vec3 random = hash23(ivec2(i, palette), seed);
+        float angle = 6.28318531 * (random.x + float(i) / 3.0);
+        vec2 shift = vec2(cos(angle), sin(angle)) * u_param3.x * mix(0.6, 1.0, random.y);
+        // Paper never feeds quite straight.
+        vec2 fromMiddle = pixel - 0.5 * size;
+        shift += vec2(-fromMiddle.y, fromMiddle.x) * (random.z - 0.5) * 1.2 * u_param3.x / max(length(size), 1.0);
+        vec4 src = readInside(u_input, (pixel - shift) / size);
+        vec3 color = mix(vec3(1.0), src.rgb, src.a);
+        float share = separation(color, inks, strength)[i];
+
+        uint own = seed + 11u * uint(i + 1);
+        // Uneven rollers in large, dry spots in small.
+        float roller = fbm(place * 0.035 + float(i) * 7.3, 3.0, own);
+        float speck = valueNoise(place * 2.3, own + 4u);
+        float fine = valueNoise(place * 5.1, own + 5u);
+        share = clamp(share * (1.0 + 0.35 * grain * roller), 0.0, 1.0);
+        float ink = screened(pixel - shift, pitch, kAngles[i], share);
+        ink *= 1.0 - grain * smoothstep(0.62, 0.95, 0.65 * speck + 0.35 * fine + 0.25 * roller);
+        ink *= mix(1.0, mix(0.80, 1.0, fine), grain);
+        print *= mix(vec3(1.0), kInks[3 * palette + i], ink);
+    }
+    fragColor = vec4(clamp(print, 0.0, 1.0), alpha);
+}

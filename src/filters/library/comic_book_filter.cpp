@@ -1,0 +1,49 @@
+#include "filters/library_filter.h"
+#include "filters/library_filters.h"
+
+#include <cmath>
+
+using namespace Qt::StringLiterals;
+
+namespace zm {
+
+namespace {
+
+// The diagonal, in pixels, of a picture whose contours are a pixel wide.
+constexpr double kLineDiagonal = 1500.0;
+
+// Flat tones, a screen of dots and ink lines.
+class ComicBookFilter final : public LibraryFilter
+{
+public:
+    ComicBookFilter()
+        : LibraryFilter(u"comic-book"_s)
+    {
+    }
+
+    FilterRenderResult render(const FilterRenderRequest &request) const override
+    {
+        LibraryUniformBlock block(u"comic-book"_s);
+        block.setVec2("u_size"_L1, request.image.width(), request.image.height());
+        block.setFloat("u_style"_L1, request.choice(u"style"_s, {"sunday"_L1, "pulp"_L1, "noir"_L1}));
+        block.setFloat("u_ink"_L1, request.percent(u"ink"_s, 65.0));
+        block.setFloat("u_levels"_L1, request.number(u"levels"_s, 5.0));
+        block.setFloat("u_dotSize"_L1, request.diagonalPixels(u"dotSize"_s, 3.5));
+        block.setFloat("u_colorPunch"_L1, request.percent(u"colorPunch"_s, 55.0));
+        block.setFloat("u_brightnessCorrection"_L1, request.percent(u"brightness"_s, 15.0));
+        block.setFloat("u_renderScale"_L1, std::hypot(request.image.width(), request.image.height()) / kLineDiagonal);
+
+        PassChain chain;
+        const PassChain::Picture input = chain.source(request.image);
+        return request.chained(chain, addPass(chain, block, {input}));
+    }
+};
+
+} // namespace
+
+std::unique_ptr<Filter> makeComicBookFilter()
+{
+    return std::make_unique<ComicBookFilter>();
+}
+
+} // namespace zm

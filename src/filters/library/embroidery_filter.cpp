@@ -1,0 +1,53 @@
+#include "filters/library_filter.h"
+#include "filters/library_filters.h"
+#include "filters/patch_smoothing.h"
+
+#include <numbers>
+
+using namespace Qt::StringLiterals;
+
+namespace zm {
+
+namespace {
+
+// Threads stitched over fabric.
+class EmbroideryFilter final : public LibraryFilter
+{
+public:
+    EmbroideryFilter()
+        : LibraryFilter(u"embroidery"_s)
+    {
+    }
+
+    FilterRenderResult render(const FilterRenderRequest &request) const override
+    {
+        const double stitch = request.diagonalPixels(u"stitchSize"_s, 4.5);
+
+        LibraryUniformBlock block(u"embroidery"_s);
+        block.setVec2("u_size"_L1, request.image.width(), request.image.height());
+        block.setFloat("u_stitchSize"_L1, stitch);
+        block.setFloat("u_direction"_L1, request.number(u"direction"_s, 30.0) * std::numbers::pi / 180.0);
+        block.setFloat("u_followContours"_L1, request.percent(u"followContours"_s, 80.0));
+        block.setFloat("u_threadSheen"_L1, request.percent(u"threadSheen"_s, 55.0));
+        block.setFloat("u_fabricTexture"_L1, request.percent(u"fabricTexture"_s, 60.0));
+        block.setFloat("u_colorDepth"_L1, request.percent(u"colorDepth"_s, 65.0));
+        block.setColor("u_fabricColor"_L1, request.parameters.color(u"fabricColor"_s, QColor(0xe9, 0xdf, 0xcb)));
+        block.setFloat("u_seed"_L1, request.number(u"seed"_s, 1.0));
+        block.setFloat("u_renderScale"_L1, request.renderScale());
+
+        PassChain chain;
+        const PassChain::Picture input = chain.source(request.image);
+        const PassChain::Picture soft = chain.reducedBlur(input, 0.5 * stitch);
+        return chainedWithAlpha(request, chain,
+                                chain.libraryShader(block.shaderId(), request.size(), {soft}, block.bytes()));
+    }
+};
+
+} // namespace
+
+std::unique_ptr<Filter> makeEmbroideryFilter()
+{
+    return std::make_unique<EmbroideryFilter>();
+}
+
+} // namespace zm

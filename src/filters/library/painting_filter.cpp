@@ -1,0 +1,57 @@
+#include "filters/library_filter.h"
+#include "filters/library_filters.h"
+#include "filters/patch_smoothing.h"
+
+using namespace Qt::StringLiterals;
+
+namespace zm {
+
+namespace {
+
+constexpr double kBrush = 8.0; // the width of a brush in the working copy, pixels
+
+// Brush strokes along the contours: patches of flat colour, in which noise is drawn out to the marks of bristles.
+class PaintingFilter final : public LibraryFilter
+{
+public:
+    PaintingFilter()
+        : LibraryFilter(u"painting"_s)
+    {
+    }
+
+    FilterRenderResult render(const FilterRenderRequest &request) const override
+    {
+        const double brush = request.diagonalPixels(u"brushSize"_s, 6.0);
+        const double detail = request.percent(u"detail"_s, 40.0);
+        const double bristles = request.percent(u"bristles"_s, 50.0);
+
+        PassChain chain;
+        PassChain::Picture picture = addWorkingCopy(chain, request, brush, kBrush);
+        const QSize working = chain.size(picture);
+        picture = addFlatPatches(chain, picture, 0.75 * kBrush, detail);
+        picture = addSmoothing(chain, picture, working, kAlongContours, kBrush, 0.0);
+        picture = chain.addNoise(picture, {.amount = 0.22 * bristles});
+        picture = addSmoothing(chain, picture, working, kAlongContours, kBrush, 0.0);
+        picture = addSmoothing(chain, picture, working, kAlongContours, kBrush, 0.0);
+        // The borders, blurred as the picture grows to its size, become crisp again.
+        const double grown = double(request.image.width()) / working.width();
+        picture = addSmoothing(chain, picture, request.size(), {1.0, 0.0}, 0.9 * grown, 0.0);
+        picture = addSmoothing(chain, picture, request.size(), {0.0, 1.0}, 0.9 * grown, 0.0);
+
+        LibraryUniformBlock block(u"painting"_s);
+        block.setVec2("u_texelSize"_L1, 1.0 / working.width(), 1.0 / working.height());
+        block.setFloat("u_strength"_L1, request.percent(u"strength"_s, 30.0));
+        block.setFloat("u_satMul"_L1, request.percent(u"saturation"_s, 130.0));
+        block.setFloat("u_brightMul"_L1, request.percent(u"brightness"_s, 108.0));
+        return chainedWithAlpha(request, chain, addPass(chain, block, {picture}));
+    }
+};
+
+} // namespace
+
+std::unique_ptr<Filter> makePaintingFilter()
+{
+    return std::make_unique<PaintingFilter>();
+}
+
+} // namespace zm

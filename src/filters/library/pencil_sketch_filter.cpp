@@ -1,0 +1,67 @@
+#include "filters/library_filter.h"
+#include "filters/library_filters.h"
+#include "generators/texture_loader.h"
+
+#include <algorithm>
+#include <cmath>
+
+using namespace Qt::StringLiterals;
+
+namespace zm {
+
+namespace {
+
+constexpr double kLineWidth = 1.0 / 1500.0; // of the diagonal
+
+// Graphite hatching and lines.
+class PencilSketchFilter final : public LibraryFilter
+{
+public:
+    PencilSketchFilter()
+        : LibraryFilter(u"pencil-sketch"_s)
+    {
+    }
+
+    FilterRenderResult render(const FilterRenderRequest &request) const override
+    {
+        const double diagonal = std::hypot(request.image.width(), request.image.height());
+        const double tileSize = request.diagonalPixels(u"strokeSize"_s, 400.0);
+
+        LibraryUniformBlock block(u"pencil-sketch"_s);
+        block.setVec2("u_size"_L1, request.image.width(), request.image.height());
+        block.setFloat("u_tileSize"_L1, tileSize);
+        block.setFloat("u_color"_L1, request.percent(u"color"_s, 0.0));
+        block.setFloat("u_tone"_L1, request.percent(u"tone"_s, 55.0));
+        block.setFloat("u_texture"_L1, request.percent(u"texture"_s, 75.0));
+        block.setFloat("u_edgeStrength"_L1, request.percent(u"edgeStrength"_s, 90.0));
+        block.setFloat("u_softness"_L1, std::max(request.percent(u"softness"_s, 12.0), 0.01));
+
+        PassChain chain;
+        const PassChain::Picture input = chain.source(request.image);
+        // Lines that are as wide on a small picture as on a large one, and no lines from grain.
+        const double width = diagonal * kLineWidth;
+        const PassChain::Picture edges =
+            chain.sobel(chain.gaussianBlur(input, 0.5 * width), {.strength = 1.3, .radius = width, .threshold = 0.08});
+        return request.chained(chain, addPass(chain, block, {input, edges, chain.source(tile(request, tileSize))}));
+    }
+
+private:
+    // The hatching at the size at which it is drawn, so that fine strokes do not flicker.
+    static QImage tile(const FilterRenderRequest &request, double size)
+    {
+        if (!request.services.textureLoader)
+            return {};
+        const QImage image = request.services.textureLoader->loadImage(u"pencil/graphite-hatching.png"_s);
+        const int side = std::max(int(std::lround(size)), 1);
+        return side < image.width() ? image.scaled(side, side, Qt::IgnoreAspectRatio, Qt::SmoothTransformation) : image;
+    }
+};
+
+} // namespace
+
+std::unique_ptr<Filter> makePencilSketchFilter()
+{
+    return std::make_unique<PencilSketchFilter>();
+}
+
+} // namespace zm
