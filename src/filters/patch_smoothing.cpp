@@ -56,6 +56,13 @@ PassChain::Picture addWorkingCopy(PassChain &chain, const FilterRenderRequest &r
     return addSmoothing(chain, across, size, {0.0, 1.0}, 1.0, 0.0);
 }
 
+PassChain::Picture addEnlargement(PassChain &chain, PassChain::Picture input, const QSize &size)
+{
+    const double radius = 0.9 * size.width() / chain.size(input).width();
+    return addSmoothing(chain, addSmoothing(chain, input, size, {1.0, 0.0}, radius, 0.0), size, {0.0, 1.0}, radius,
+                        0.0);
+}
+
 FilterRenderResult chainedWithAlpha(const FilterRenderRequest &request, const PassChain &chain,
                                     PassChain::Picture picture)
 {

@@ -24,6 +24,9 @@ PassChain::Picture addFlatPatches(PassChain &chain, PassChain::Picture input, do
 /// of transparent pixels stay out.
 PassChain::Picture addWorkingCopy(PassChain &chain, const FilterRenderRequest &request, double feature, double pixels);
 
+/// The picture in another, larger size. The borders, blurred as it grows, become crisp again.
+PassChain::Picture addEnlargement(PassChain &chain, PassChain::Picture input, const QSize &size);
+
 /// Carries out a chain whose passes read a working copy, and gives its result the alpha of the request's picture.
 FilterRenderResult chainedWithAlpha(const FilterRenderRequest &request, const PassChain &chain,
                                     PassChain::Picture picture);

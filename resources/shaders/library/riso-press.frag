@@ -22,7 +22,7 @@ layout(std140, binding = 1) uniform LibraryUniforms {
 
 // Three inks a palette; a white one is none.
 const vec3 kInks[18] = vec3[](
-    vec3(1.00, 0.28, 0.52), vec3(0.00, 0.42, 0.72), vec3(1.00, 0.88, 0.10),  // pink, blue, yellow
+    vec3(1.00, 0.28, 0.52), vec3(0.10, 0.42, 0.76), vec3(1.00, 0.88, 0.16),  // pink, blue, yellow
     vec3(1.00, 0.28, 0.40), vec3(0.05, 0.33, 0.60), vec3(1.0),               // fluorescent pink, blue
     vec3(0.98, 0.42, 0.16), vec3(0.00, 0.40, 0.40), vec3(1.0),               // orange, teal
     vec3(0.95, 0.26, 0.22), vec3(0.13, 0.13, 0.15), vec3(1.0),               // red, black
@@ -35,21 +35,24 @@ const vec3 kTone = vec3(0.299, 0.587, 0.114);
 // Optical density; the fourth component, of the luminance, makes the fit keep the tones first.
 vec4 density(vec3 color)
 {
-    vec3 c = max(color, 0.02);
-    return vec4(-log(c), -2.2 * log(dot(c, kTone)));
+    vec3 c = max(color, 0.07);
+    return vec4(-log(c), -0.8 * log(dot(c, kTone)));
 }
 
 // How much of each ink comes nearest to a colour: a least-squares fit with shares of 0..1, by Gauss-Seidel steps.
 vec3 separation(vec3 color, vec4 inks[3], float weight)
 {
     vec4 wanted = density(color) * weight;
-    vec3 share = vec3(0.0);
-    for (int step = 0; step < 5; ++step) {
-        for (int i = 0; i < 3; ++i) {
-            vec4 rest = wanted - share.x * inks[0] - share.y * inks[1] - share.z * inks[2];
-            float norm = dot(inks[i], inks[i]);
-            share[i] = clamp(share[i] + (norm > 0.01 ? dot(rest, inks[i]) / (norm + 0.12) : 0.0), 0.0, 1.0);
-        }
+    vec3 goal = vec3(dot(wanted, inks[0]), dot(wanted, inks[1]), dot(wanted, inks[2]));
+    float ab = dot(inks[0], inks[1]);
+    float ac = dot(inks[0], inks[2]);
+    float bc = dot(inks[1], inks[2]);
+    vec3 norm = vec3(dot(inks[0], inks[0]), dot(inks[1], inks[1]), dot(inks[2], inks[2])) + 0.05;
+    vec3 share = vec3(0.3);
+    for (int step = 0; step < 12; ++step) {
+        share.x = clamp((goal.x - ab * share.y - ac * share.z) / norm.x, 0.0, 1.0);
+        share.y = clamp((goal.y - ab * share.x - bc * share.z) / norm.y, 0.0, 1.0);
+        share.z = clamp((goal.z - ac * share.x - bc * share.y) / norm.z, 0.0, 1.0);
     }
     return share;
 }

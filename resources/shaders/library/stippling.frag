@@ -52,8 +52,8 @@ float wantedInk(vec2 uv, float contrast, float density)
     float curved = tone * tone * (3.0 - 2.0 * tone);
     tone = mix(tone, curved, contrast);
     tone = mix(tone, curved * curved * (3.0 - 2.0 * curved), max(contrast - 0.5, 0.0));
-    float ink = 1.0 - pow(tone, 1.7);
-    return clamp(1.0 - pow(1.0 - ink, exp2(2.4 * (density - 0.5))), 0.0, 0.985);
+    float ink = 1.0 - pow(tone, 0.75);
+    return clamp(1.0 - pow(1.0 - ink, exp2(2.4 * (density - 0.5))), 0.0, 0.96);
 }
 
 void main()

@@ -37,18 +37,18 @@ void main()
 
     // The paper: hollows and tooth of cold-pressed sheets.
     float octaves = visibleOctaves(3.0 * unit, 4.0);
-    float tooth = fbm(p / 3.0, octaves, 11u) + 0.45 * gradientNoise(p / 1.3, 12u) * clamp(unit - 0.3, 0.0, 1.0);
+    float tooth = fbm(p / 3.0, octaves, 11u) + 0.45 * gradientNoise(kOctaveStep * p / 2.1, 12u) * clamp(unit - 0.3, 0.0, 1.0);
 
     // Borders wander: widely with the water, finely with the tooth.
     vec2 wide = vec2(fbm(p / 34.0, 3.0, 21u), fbm(p / 34.0, 3.0, 22u));
     vec2 fine = vec2(fbm(p / 7.0, 2.0, 23u), fbm(p / 7.0, 2.0, 24u));
-    float calm = mix(1.0, 0.45, detail);
+    float calm = mix(1.0, 0.3, detail);
     vec2 wander = calm * (wide * (3.0 + 13.0 * bleed) + fine * (1.2 + 5.0 * bleed) + tooth * 0.5);
     vec2 place = v_uv + wander * unit / size;
 
     vec3 here = readInside(u_input, place).rgb;
     // Two rings around: what the wash borders on.
-    float reach = mix(1.6, 3.2, bleed) * mix(1.2, 0.8, detail);
+    float reach = mix(1.1, 2.0, bleed) * mix(1.3, 0.8, detail);
     vec3 near = vec3(0.0);
     vec3 far = vec3(0.0);
     vec3 darkest = here;
@@ -69,12 +69,13 @@ void main()
 
     // Pigment flows to the border of a wash and dries there: the darker side of an edge.
     float tone = luminance(here);
-    float pooled = max(luminance(near) - tone, 0.0) * 3.2 + max(luminance(far) - tone, 0.0) * 0.9;
+    float pooled = max(luminance(near) - tone, 0.0) * 5.0 + max(luminance(far) - tone, 0.0) * 0.9;
     pooled = pooled / (1.0 + 1.6 * pooled) * (1.0 - 0.8 * wetness);
     // A lighter fringe outside, where water pushed pigment away.
     float fringe = clamp(max(tone - luminance(near), 0.0) * 1.6, 0.0, 0.5);
 
     // Highlights stay paper, and shadows are never black: the thinnest and the thickest wash.
+    color = pow(color, vec3(mix(0.68, 0.95, pigment)));
     color = saturated(color, 1.0 + 0.55 * pigment);
     vec3 wash = mix(color, vec3(1.0), mix(0.24, 0.02, pigment));
     float light = luminance(wash);
@@ -85,7 +86,7 @@ void main()
     // How much pigment lies here: pools, flow, grains in the hollows.
     float flow = fbm(p / 60.0, 3.0, 41u) + 0.6 * fbm(p / 14.0, 3.0, 42u);
     float granulation = -tooth * (0.35 + 1.1 * pigment) * u_param5.x;
-    float amount = 1.0 + pooled * (0.9 + 1.6 * pigment) - 0.5 * fringe + flow * (0.55 + 0.6 * pigment) + granulation * 1.2;
+    float amount = 1.0 + pooled * (0.9 + 1.6 * pigment) - 0.5 * fringe + flow * (0.3 + 0.6 * pigment) + granulation * 1.2;
     wash = clamp(pigmented(wash, clamp(amount, 0.15, 3.2)), 0.0, 1.0);
 
     // Light across the paper.

@@ -1,6 +1,8 @@
 #include "filters/library_filter.h"
 #include "filters/library_filters.h"
 
+#include "filters/patch_smoothing.h"
+
 #include <cmath>
 
 using namespace Qt::StringLiterals;
@@ -11,6 +13,8 @@ namespace {
 
 // The diagonal, in pixels, of a picture whose contours are a pixel wide.
 constexpr double kLineDiagonal = 1500.0;
+constexpr double kLargestForm = 0.006; // of the diagonal
+constexpr double kForm = 3.0; // the width of the smallest forms in the working copy, pixels
 
 // Flat tones, a screen of dots and ink lines.
 class ComicBookFilter final : public LibraryFilter
@@ -27,15 +31,21 @@ public:
         block.setVec2("u_size"_L1, request.image.width(), request.image.height());
         block.setFloat("u_style"_L1, request.choice(u"style"_s, {"sunday"_L1, "pulp"_L1, "noir"_L1}));
         block.setFloat("u_ink"_L1, request.percent(u"ink"_s, 65.0));
-        block.setFloat("u_levels"_L1, request.number(u"levels"_s, 5.0));
-        block.setFloat("u_dotSize"_L1, request.diagonalPixels(u"dotSize"_s, 3.5));
-        block.setFloat("u_colorPunch"_L1, request.percent(u"colorPunch"_s, 55.0));
-        block.setFloat("u_brightnessCorrection"_L1, request.percent(u"brightness"_s, 15.0));
+        block.setFloat("u_levels"_L1, request.number(u"levels"_s, 6.0));
+        block.setFloat("u_dotSize"_L1, request.diagonalPixels(u"dotSize"_s, 4.0));
+        block.setFloat("u_colorPunch"_L1, request.percent(u"colorPunch"_s, 45.0));
+        block.setFloat("u_brightnessCorrection"_L1, request.percent(u"brightness"_s, 25.0));
         block.setFloat("u_renderScale"_L1, std::hypot(request.image.width(), request.image.height()) / kLineDiagonal);
 
         PassChain chain;
-        const PassChain::Picture input = chain.source(request.image);
-        return request.chained(chain, addPass(chain, block, {input}));
+        const double simplify = request.percent(u"simplify"_s, 50.0);
+        if (simplify <= 0.0)
+            return request.chained(chain, addPass(chain, block, {chain.source(request.image)}));
+        // Fewer and clearer forms, as an inker sees them.
+        const double form = std::hypot(request.image.width(), request.image.height()) * kLargestForm * simplify;
+        const PassChain::Picture forms = addFlatPatches(chain, addWorkingCopy(chain, request, form, kForm), kForm, 0.5);
+        return chainedWithAlpha(request, chain,
+                                addPass(chain, block, {addEnlargement(chain, forms, request.size())}));
     }
 };
 

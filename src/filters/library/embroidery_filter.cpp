@@ -10,6 +10,8 @@ namespace zm {
 
 namespace {
 
+constexpr double kStitch = 3.0; // the width of a thread in the working copy, pixels
+
 // Threads stitched over fabric.
 class EmbroideryFilter final : public LibraryFilter
 {
@@ -21,7 +23,7 @@ public:
 
     FilterRenderResult render(const FilterRenderRequest &request) const override
     {
-        const double stitch = request.diagonalPixels(u"stitchSize"_s, 4.5);
+        const double stitch = request.diagonalPixels(u"stitchSize"_s, 2.4);
 
         LibraryUniformBlock block(u"embroidery"_s);
         block.setVec2("u_size"_L1, request.image.width(), request.image.height());
@@ -36,8 +38,9 @@ public:
         block.setFloat("u_renderScale"_L1, request.renderScale());
 
         PassChain chain;
-        const PassChain::Picture input = chain.source(request.image);
-        const PassChain::Picture soft = chain.reducedBlur(input, 0.5 * stitch);
+        // Clear forms with clear contours, as they are drawn before they are stitched.
+        const PassChain::Picture soft =
+            addFlatPatches(chain, addWorkingCopy(chain, request, stitch, kStitch), kStitch, 0.5);
         return chainedWithAlpha(request, chain,
                                 chain.libraryShader(block.shaderId(), request.size(), {soft}, block.bytes()));
     }

@@ -8,7 +8,7 @@ namespace zm {
 
 namespace {
 
-constexpr double kBrush = 8.0; // the width of a brush in the working copy, pixels
+constexpr double kBrush = 5.5; // the width of a brush in the working copy, pixels
 
 // Brush strokes along the contours: patches of flat colour, in which noise is drawn out to the marks of bristles.
 class PaintingFilter final : public LibraryFilter
@@ -28,15 +28,16 @@ public:
         PassChain chain;
         PassChain::Picture picture = addWorkingCopy(chain, request, brush, kBrush);
         const QSize working = chain.size(picture);
+        // Each patch is laid on with a colour that differs a little from the next one's.
+        picture = chain.addNoise(picture, {.amount = 0.1 * bristles, .seed = 1.0});
         picture = addFlatPatches(chain, picture, 0.75 * kBrush, detail);
         picture = addSmoothing(chain, picture, working, kAlongContours, kBrush, 0.0);
-        picture = chain.addNoise(picture, {.amount = 0.22 * bristles});
+        picture = chain.addNoise(picture, {.amount = 0.4 * bristles, .seed = 2.0});
+        // A hand's own slant, where no contour leads the brush.
+        picture = addSmoothing(chain, picture, working, {0.8, -0.6}, kBrush, 0.0);
+        picture = addSmoothing(chain, picture, working, kAlongContours, 1.5 * kBrush, 0.0);
         picture = addSmoothing(chain, picture, working, kAlongContours, kBrush, 0.0);
-        picture = addSmoothing(chain, picture, working, kAlongContours, kBrush, 0.0);
-        // The borders, blurred as the picture grows to its size, become crisp again.
-        const double grown = double(request.image.width()) / working.width();
-        picture = addSmoothing(chain, picture, request.size(), {1.0, 0.0}, 0.9 * grown, 0.0);
-        picture = addSmoothing(chain, picture, request.size(), {0.0, 1.0}, 0.9 * grown, 0.0);
+        picture = addEnlargement(chain, picture, request.size());
 
         LibraryUniformBlock block(u"painting"_s);
         block.setVec2("u_texelSize"_L1, 1.0 / working.width(), 1.0 / working.height());

@@ -25,16 +25,16 @@ public:
     FilterRenderResult render(const FilterRenderRequest &request) const override
     {
         const double diagonal = std::hypot(request.image.width(), request.image.height());
-        const double tileSize = request.diagonalPixels(u"strokeSize"_s, 400.0);
+        const double tileSize = request.diagonalPixels(u"strokeSize"_s, 280.0);
 
         LibraryUniformBlock block(u"pencil-sketch"_s);
         block.setVec2("u_size"_L1, request.image.width(), request.image.height());
         block.setFloat("u_tileSize"_L1, tileSize);
         block.setFloat("u_color"_L1, request.percent(u"color"_s, 0.0));
         block.setFloat("u_tone"_L1, request.percent(u"tone"_s, 55.0));
-        block.setFloat("u_texture"_L1, request.percent(u"texture"_s, 75.0));
+        block.setFloat("u_texture"_L1, request.percent(u"texture"_s, 70.0));
         block.setFloat("u_edgeStrength"_L1, request.percent(u"edgeStrength"_s, 90.0));
-        block.setFloat("u_softness"_L1, std::max(request.percent(u"softness"_s, 12.0), 0.01));
+        block.setFloat("u_softness"_L1, std::max(request.percent(u"softness"_s, 18.0), 0.01));
 
         PassChain chain;
         const PassChain::Picture input = chain.source(request.image);

@@ -18,7 +18,7 @@ public:
 
     FilterRenderResult render(const FilterRenderRequest &request) const override
     {
-        const double pitch = request.diagonalPixels(u"screenScale"_s, 3.2);
+        const double pitch = request.diagonalPixels(u"screenScale"_s, 4.2);
 
         LibraryUniformBlock block(u"riso-press"_s);
         block.setVec2("u_size"_L1, request.image.width(), request.image.height());
@@ -26,9 +26,9 @@ public:
                                                                      "orangeTeal"_L1, "redBlack"_L1,
                                                                      "sunViolet"_L1, "mintCoral"_L1}));
         block.setFloat("u_screenScale"_L1, pitch);
-        block.setFloat("u_misregistration"_L1, request.diagonalPixels(u"misregistration"_s, 1.5));
+        block.setFloat("u_misregistration"_L1, request.diagonalPixels(u"misregistration"_s, 2.2));
         block.setFloat("u_inkDensity"_L1, request.percent(u"inkDensity"_s, 65.0));
-        block.setFloat("u_grain"_L1, request.percent(u"grain"_s, 40.0));
+        block.setFloat("u_grain"_L1, request.percent(u"grain"_s, 50.0));
         block.setFloat("u_seed"_L1, request.number(u"seed"_s, 1.0));
         block.setFloat("u_renderScale"_L1, request.renderScale());
         return request.singlePass(block);

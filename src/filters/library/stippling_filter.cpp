@@ -25,7 +25,7 @@ public:
         block.setVec2("u_size"_L1, request.image.width(), request.image.height());
         block.setFloat("u_dotSize"_L1, dot);
         block.setFloat("u_density"_L1, request.percent(u"density"_s, 50.0));
-        block.setFloat("u_contrast"_L1, request.percent(u"contrast"_s, 40.0));
+        block.setFloat("u_contrast"_L1, request.percent(u"contrast"_s, 25.0));
         block.setColor("u_inkColor"_L1, request.parameters.color(u"inkColor"_s, QColor(0x1c, 0x1b, 0x22)));
         block.setColor("u_paperColor"_L1, request.parameters.color(u"paperColor"_s, QColor(0xf7, 0xf3, 0xe9)));
         block.setFloat("u_paperTexture"_L1, request.percent(u"paperTexture"_s, 35.0));

@@ -37,10 +37,11 @@ public:
 
         PassChain chain;
         // Patches of about this width, in thousandths of the diagonal, are what a brush lays down at once.
-        const double patch = 9.0 - 5.5 * detail;
+        const double patch = 8.0 - 6.0 * detail;
         PassChain::Picture picture = addWorkingCopy(chain, request, patch * unit, kPatch);
-        picture = addFlatPatches(chain, picture, kPatch, 0.25 * detail);
-        picture = addFlatPatches(chain, picture, kPatch, 0.25 * detail);
+        picture = addFlatPatches(chain, picture, kPatch, 0.4 * detail);
+        picture = addSmoothing(chain, picture, chain.size(picture), kAlongContours, kPatch, 0.0);
+        picture = addFlatPatches(chain, picture, 0.5 * kPatch, 0.4 * detail);
         return chainedWithAlpha(
             request, chain, chain.libraryShader(block.shaderId(), request.size(), {picture}, block.bytes()));
     }
