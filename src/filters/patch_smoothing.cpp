@@ -33,8 +33,8 @@ PassChain::Picture addFlatPatches(PassChain &chain, PassChain::Picture input, do
 {
     constexpr double kDiagonal = std::numbers::sqrt2 / 2.0;
     const QSize size = chain.size(input);
-    for (const QPointF direction : {QPointF(1.0, 0.0), QPointF(0.0, 1.0), QPointF(kDiagonal, kDiagonal),
-                                    QPointF(kDiagonal, -kDiagonal)}) {
+    for (const QPointF direction :
+         {QPointF(1.0, 0.0), QPointF(0.0, 1.0), QPointF(kDiagonal, kDiagonal), QPointF(kDiagonal, -kDiagonal)}) {
         input = addSmoothing(chain, input, size, direction, radius, detail);
     }
     return input;
@@ -58,7 +58,7 @@ PassChain::Picture addWorkingCopy(PassChain &chain, const FilterRenderRequest &r
 
 PassChain::Picture addEnlargement(PassChain &chain, PassChain::Picture input, const QSize &size)
 {
-    const double radius = 0.9 * size.width() / chain.size(input).width();
+    const double radius = 1.4 * size.width() / chain.size(input).width();
     return addSmoothing(chain, addSmoothing(chain, input, size, {1.0, 0.0}, radius, 0.0), size, {0.0, 1.0}, radius,
                         0.0);
 }

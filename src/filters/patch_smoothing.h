@@ -20,8 +20,8 @@ PassChain::Picture addSmoothing(PassChain &chain, PassChain::Picture input, cons
 /// Flat patches with crisp borders: passes in four directions.
 PassChain::Picture addFlatPatches(PassChain &chain, PassChain::Picture input, double radius, double detail);
 
-/// The request's picture at the size at which `feature` pixels of it are `pixels` pixels, at most twice its own. Colours
-/// of transparent pixels stay out.
+/// The request's picture at the size at which `feature` pixels of it are `pixels` pixels, at most twice its own.
+/// Colours of transparent pixels stay out.
 PassChain::Picture addWorkingCopy(PassChain &chain, const FilterRenderRequest &request, double feature, double pixels);
 
 /// The picture in another, larger size. The borders, blurred as it grows, become crisp again.

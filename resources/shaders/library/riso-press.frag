@@ -49,7 +49,7 @@ vec3 separation(vec3 color, vec4 inks[3], float weight)
     float bc = dot(inks[1], inks[2]);
     vec3 norm = vec3(dot(inks[0], inks[0]), dot(inks[1], inks[1]), dot(inks[2], inks[2])) + 0.05;
     vec3 share = vec3(0.3);
-    for (int step = 0; step < 12; ++step) {
+    for (int step = 0; step < 8; ++step) {
         share.x = clamp((goal.x - ab * share.y - ac * share.z) / norm.x, 0.0, 1.0);
         share.y = clamp((goal.y - ab * share.x - bc * share.z) / norm.y, 0.0, 1.0);
         share.z = clamp((goal.z - ac * share.x - bc * share.y) / norm.z, 0.0, 1.0);
@@ -88,7 +88,7 @@ void main()
         inks[i] = density(kInks[3 * palette + i]);
     float strength = mix(0.45, 1.25, u_param4.x);
 
-    vec3 print = kPaper * (1.0 + 0.05 * grain * fbm(place * 0.35, 3.0, seed + 50u));
+    vec3 print = kPaper * (1.0 + 0.05 * grain * gradientNoise(place * 0.35, seed + 50u));
     for (int i = 0; i < 3; ++i) {
         vec3 random = hash23(ivec2(i, palette), seed);
         float angle = 6.28318531 * (random.x + float(i) / 3.0);
@@ -102,7 +102,7 @@ void main()
 
         uint own = seed + 11u * uint(i + 1);
         // Uneven rollers in large, dry spots in small.
-        float roller = fbm(place * 0.035 + float(i) * 7.3, 3.0, own);
+        float roller = fbm(place * 0.035, 2.0, own);
         float speck = valueNoise(place * 2.3, own + 4u);
         float fine = valueNoise(place * 5.1, own + 5u);
         share = clamp(share * (1.0 + 0.35 * grain * roller), 0.0, 1.0);

@@ -23,16 +23,16 @@ layout(std140, binding = 1) uniform LibraryUniforms {
 
 const float kPi = 3.14159265;
 const float kJitter = 0.72;
-const int kLevels = 4;
+const int kLevels = 3;
 
 // When the cell gets its dot, as the density is raised from 0 to 1.
-float turn(ivec2 cell, uint seed)
+float turn(ivec2 cell, float random, uint seed)
 {
     float order = 0.0;
     float digit = 0.25;
     for (int level = 0; level < kLevels; ++level) {
         ivec2 square = cell >> 1;
-        uint bits = pcg(uint(square.x) + pcg(uint(square.y) + seed + uint(level)));
+        uint bits = pcg(uint(square.x) * 2654435769u + uint(square.y) * 2246822519u + seed + uint(level));
         // One of the eight orders in which opposite corners follow each other: spread out from the second dot on.
         uint corner = uint(cell.x & 1) | (uint(cell.y & 1) << 1u);
         corner ^= bits & 3u;
@@ -41,19 +41,20 @@ float turn(ivec2 cell, uint seed)
         digit *= 0.25;
         cell = square;
     }
-    return order + 2.0 * digit;
+    return order + 4.0 * digit * random;
 }
 
-// How dark a tone is wanted, 0..1, of light by area.
-float wantedInk(vec2 uv, float contrast, float density)
+// What scattered dots have to cover, in areas of a cell: with n dots of area a, exp(-n a) of the paper is left, and that
+// is the tone.
+float neededArea(vec2 uv, float contrast, float exposure)
 {
-    vec4 c = readInside(u_input, uv);
+    vec4 c = texture(u_input, uv);
     float tone = mix(1.0, luminance(c.rgb), c.a);
     float curved = tone * tone * (3.0 - 2.0 * tone);
     tone = mix(tone, curved, contrast);
     tone = mix(tone, curved * curved * (3.0 - 2.0 * curved), max(contrast - 0.5, 0.0));
-    float ink = 1.0 - pow(tone, 0.75);
-    return clamp(1.0 - pow(1.0 - ink, exp2(2.4 * (density - 0.5))), 0.0, 0.96);
+    tone = mix(tone, sqrt(tone), 0.5); // paper, to the eye, is lighter between dots than the mean
+    return -log(max(tone, 0.03)) * exposure;
 }
 
 void main()
@@ -62,6 +63,7 @@ void main()
     float pitch = max(u_param1.x, 0.6) * 0.92;
     uint seed = seedBits(u_param7.x);
     float alpha = texture(u_input, v_uv).a;
+    float exposure = exp2(2.4 * (u_param2.x - 0.5));
 
     vec2 p = v_uv * size / pitch;
     float pixel = 1.0 / pitch;
@@ -72,27 +74,30 @@ void main()
             ivec2 cell = home + ivec2(x, y);
             vec3 random = hash23(cell, seed);
             vec2 centre = vec2(cell) + 0.5 + kJitter * (random.xy - 0.5);
-            float ink = wantedInk(centre * pitch / size, u_param3.x, u_param2.x);
-            // Scattered dots of area a and number n cover 1 - exp(-n a).
+            float area = neededArea(centre * pitch / size, u_param3.x, exposure);
+            float ink = 1.0 - exp(-area);
             float radius = mix(0.34, 0.78, ink * ink) * mix(0.86, 1.12, random.z);
-            float needed = -log(1.0 - ink) / (kPi * radius * radius);
-            float order = turn(cell, seed + 7u);
+            float needed = area / (kPi * radius * radius);
             // A dot grows as its turn comes near, so that tones run on without steps.
+            float order = turn(cell, random.z, seed + 7u);
             radius *= smoothstep(-0.02, 0.06, needed - order) * (ink > 0.012 ? 1.0 : 0.0);
-            radius *= max(1.0, min(needed, 1.4));
+            radius *= clamp(needed, 1.0, 1.4);
+            // Not quite round: three lobes, turned at random.
             vec2 q = p - centre;
-            float wobble = 1.0 + 0.09 * sin(3.0 * atan(q.y, q.x + 1e-5) + 6.28 * random.x)
-                + 0.05 * sin(5.0 * atan(q.y, q.x + 1e-5) + 6.28 * random.y);
+            vec2 u = q * inversesqrt(max(dot(q, q), 1e-8));
+            vec2 lobes = vec2(u.x * (4.0 * u.x * u.x - 3.0), u.y * (3.0 - 4.0 * u.y * u.y));
+            float wobble = 1.0 + 0.2 * dot(lobes, random.xy - 0.5);
             float edge = (length(q) - radius * wobble) / pixel;
             paper *= 1.0 - clamp(0.5 - edge, 0.0, 1.0) * step(0.03, radius);
         }
     }
 
-    // Fibres and tooth, in units of the dots, so that they shrink with them.
+    // Tooth of the paper, in units of the dots, so that they shrink with them.
     float texture01 = clamp(u_param6.x, 0.0, 1.0);
-    float cloud = fbm(p * 0.22, visibleOctaves(pitch / 0.22, 5.0), seed + 31u);
-    float fibre = gradientNoise(vec2(p.x * 0.12 + cloud, p.y * 1.1), seed + 40u);
-    vec3 sheet = u_param5.rgb * (1.0 + texture01 * (0.16 * cloud + 0.05 * fibre));
-    float covered = (1.0 - paper) * (1.0 - texture01 * 0.35 * smoothstep(0.1, 0.5, cloud + 0.3 * fibre));
+    float cloud = fbm(p * 0.3, visibleOctaves(pitch / 0.3, 3.0), seed + 31u);
+    vec3 sheet = u_param5.rgb * (1.0 + 0.22 * texture01 * cloud);
+    // Tooth that the ink did not reach.
+    float tooth = valueNoise(p * 1.7, seed + 45u) + 0.4 * cloud;
+    float covered = (1.0 - paper) * (1.0 - texture01 * smoothstep(0.80, 1.1, tooth));
     fragColor = vec4(clamp(mix(sheet, u_param4.rgb, covered), 0.0, 1.0), alpha);
 }

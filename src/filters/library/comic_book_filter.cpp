@@ -1,6 +1,5 @@
 #include "filters/library_filter.h"
 #include "filters/library_filters.h"
-
 #include "filters/patch_smoothing.h"
 
 #include <cmath>
@@ -44,8 +43,7 @@ public:
         // Fewer and clearer forms, as an inker sees them.
         const double form = std::hypot(request.image.width(), request.image.height()) * kLargestForm * simplify;
         const PassChain::Picture forms = addFlatPatches(chain, addWorkingCopy(chain, request, form, kForm), kForm, 0.5);
-        return chainedWithAlpha(request, chain,
-                                addPass(chain, block, {addEnlargement(chain, forms, request.size())}));
+        return chainedWithAlpha(request, chain, addPass(chain, block, {addEnlargement(chain, forms, request.size())}));
     }
 };
 

@@ -39,10 +39,11 @@ public:
 
         PassChain chain;
         // Clear forms with clear contours, as they are drawn before they are stitched.
-        const PassChain::Picture soft =
-            addFlatPatches(chain, addWorkingCopy(chain, request, stitch, kStitch), kStitch, 0.5);
+        PassChain::Picture forms = addFlatPatches(chain, addWorkingCopy(chain, request, stitch, kStitch), kStitch, 0.5);
+        for (int i = 0; i < 2; ++i)
+            forms = addSmoothing(chain, forms, chain.size(forms), kAlongContours, 2.5 * kStitch, 0.4);
         return chainedWithAlpha(request, chain,
-                                chain.libraryShader(block.shaderId(), request.size(), {soft}, block.bytes()));
+                                chain.libraryShader(block.shaderId(), request.size(), {forms}, block.bytes()));
     }
 };
 

@@ -22,9 +22,10 @@ public:
 
         LibraryUniformBlock block(u"riso-press"_s);
         block.setVec2("u_size"_L1, request.image.width(), request.image.height());
-        block.setFloat("u_palette"_L1, request.choice(u"palette"_s, {"pinkBlueYellow"_L1, "pinkBlue"_L1,
-                                                                     "orangeTeal"_L1, "redBlack"_L1,
-                                                                     "sunViolet"_L1, "mintCoral"_L1}));
+        block.setFloat("u_palette"_L1,
+                       request.choice(u"palette"_s,
+                                      {"pinkBlueYellow"_L1, "pinkBlue"_L1, "orangeTeal"_L1, "redBlack"_L1,
+                                       "sunViolet"_L1, "mintCoral"_L1}));
         block.setFloat("u_screenScale"_L1, pitch);
         block.setFloat("u_misregistration"_L1, request.diagonalPixels(u"misregistration"_s, 2.2));
         block.setFloat("u_inkDensity"_L1, request.percent(u"inkDensity"_s, 65.0));

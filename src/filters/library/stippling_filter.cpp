@@ -19,7 +19,7 @@ public:
 
     FilterRenderResult render(const FilterRenderRequest &request) const override
     {
-        const double dot = request.diagonalPixels(u"dotSize"_s, 2.4);
+        const double dot = request.diagonalPixels(u"dotSize"_s, 2.1);
 
         LibraryUniformBlock block(u"stippling"_s);
         block.setVec2("u_size"_L1, request.image.width(), request.image.height());

@@ -42,8 +42,8 @@ public:
         picture = addFlatPatches(chain, picture, kPatch, 0.4 * detail);
         picture = addSmoothing(chain, picture, chain.size(picture), kAlongContours, kPatch, 0.0);
         picture = addFlatPatches(chain, picture, 0.5 * kPatch, 0.4 * detail);
-        return chainedWithAlpha(
-            request, chain, chain.libraryShader(block.shaderId(), request.size(), {picture}, block.bytes()));
+        return chainedWithAlpha(request, chain,
+                                chain.libraryShader(block.shaderId(), request.size(), {picture}, block.bytes()));
     }
 };
 
