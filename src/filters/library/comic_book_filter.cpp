@@ -11,7 +11,7 @@ namespace zm {
 namespace {
 
 // The diagonal, in pixels, of a picture whose contours are a pixel wide.
-constexpr double kLineDiagonal = 1500.0;
+constexpr double kLineDiagonal = 900.0;
 constexpr double kLargestForm = 0.006; // of the diagonal
 constexpr double kForm = 3.0; // the width of the smallest forms in the working copy, pixels
 

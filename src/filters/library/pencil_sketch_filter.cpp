@@ -11,6 +11,7 @@ namespace zm {
 
 namespace {
 
+constexpr double kTileSize = 1024.0; // of the texture, pixels
 constexpr double kLineWidth = 1.0 / 1500.0; // of the diagonal
 
 // Graphite hatching and lines.
@@ -34,7 +35,10 @@ public:
         block.setFloat("u_tone"_L1, request.percent(u"tone"_s, 55.0));
         block.setFloat("u_texture"_L1, request.percent(u"texture"_s, 70.0));
         block.setFloat("u_edgeStrength"_L1, request.percent(u"edgeStrength"_s, 90.0));
-        block.setFloat("u_softness"_L1, std::max(request.percent(u"softness"_s, 18.0), 0.01));
+        // Strokes that melt together in a small tile are greys, whose share of ink is kept by a softer threshold.
+        const double melted = std::clamp((kTileSize / std::max(tileSize, 1.0) - 3.0) / 8.0, 0.0, 1.0);
+        const double softness = std::max(request.percent(u"softness"_s, 18.0), 0.01);
+        block.setFloat("u_softness"_L1, std::lerp(softness, 0.5, melted));
 
         PassChain chain;
         const PassChain::Picture input = chain.source(request.image);
