@@ -67,6 +67,7 @@ FilterRegistry::FilterRegistry()
     m_filters.push_back(makeEmbroideryFilter());
     m_filters.push_back(makeStipplingFilter());
     m_filters.push_back(makeRisoPressFilter());
+    m_filters.push_back(makeTiltShiftFilter());
 }
 
 const FilterRegistry &FilterRegistry::instance()

@@ -57,5 +57,6 @@ std::unique_ptr<Filter> makeHDRPhotoFilter();
 std::unique_ptr<Filter> makeSepiaToneFilter();
 std::unique_ptr<Filter> makeTritoneFilter();
 std::unique_ptr<Filter> makeHeatmapFilter();
+std::unique_ptr<Filter> makeTiltShiftFilter();
 
 } // namespace zm
