@@ -21,6 +21,7 @@ FilterRegistry::FilterRegistry()
     m_filters.push_back(std::make_unique<FadeOutFilter>());
     m_filters.push_back(makeFocusFrameFilter());
     m_filters.push_back(makeJaggedEdgeFilter());
+    m_filters.push_back(makePetzvalLensFilter());
     m_filters.push_back(makeBevelFilter());
     m_filters.push_back(makeRoundedCornersFilter());
     m_filters.push_back(makeSwirlStackFilter());
