@@ -22,6 +22,7 @@ FilterRegistry::FilterRegistry()
     m_filters.push_back(makeFocusFrameFilter());
     m_filters.push_back(makeJaggedEdgeFilter());
     m_filters.push_back(makePetzvalLensFilter());
+    m_filters.push_back(makePrismFlareFilter());
     m_filters.push_back(makeBevelFilter());
     m_filters.push_back(makeRoundedCornersFilter());
     m_filters.push_back(makeSwirlStackFilter());

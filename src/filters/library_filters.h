@@ -16,6 +16,7 @@ std::unique_ptr<Filter> makeColorAdjustFilter();
 std::unique_ptr<Filter> makeRelightFilter();
 std::unique_ptr<Filter> makeSharpenFilter();
 std::unique_ptr<Filter> makePetzvalLensFilter();
+std::unique_ptr<Filter> makePrismFlareFilter();
 std::unique_ptr<Filter> makeBevelFilter();
 std::unique_ptr<Filter> makeRoundedCornersFilter();
 std::unique_ptr<Filter> makeSwirlStackFilter();

@@ -1,0 +1,45 @@
+#include "filters/library_filter.h"
+#include "filters/library_filters.h"
+#include "filters/placed_line.h"
+
+using namespace Qt::StringLiterals;
+
+namespace zm {
+
+namespace {
+
+// Light that a prism before the lens has split, falling across the picture along a line.
+class PrismFlareFilter final : public LibraryFilter
+{
+public:
+    PrismFlareFilter()
+        : LibraryFilter(u"prism-flare"_s)
+    {
+    }
+
+    FilterRenderResult render(const FilterRenderRequest &request) const override
+    {
+        const QLineF line = placedLine(request, u"position"_s, {0.04, 0.06, 0.82, 0.8});
+        LibraryUniformBlock block(u"prism-flare"_s);
+        block.setVec2("u_size"_L1, request.image.width(), request.image.height());
+        block.setVec2("u_start"_L1, line.x1(), line.y1());
+        block.setVec2("u_end"_L1, line.x2(), line.y2());
+        block.setFloat("u_style"_L1, request.choice(u"style"_s, {"beam"_L1, "rays"_L1, "crystal"_L1}));
+        block.setFloat("u_intensity"_L1, request.percent(u"intensity"_s, 65.0));
+        block.setFloat("u_spread"_L1, request.percent(u"spread"_s, 35.0));
+        block.setFloat("u_width"_L1, request.percent(u"width"_s, 28.0));
+        block.setFloat("u_fragmentation"_L1, request.percent(u"fragmentation"_s, 30.0));
+        block.setFloat("u_ghosts"_L1, request.number(u"ghosts"_s, 4.0));
+        block.setFloat("u_seed"_L1, request.number(u"seed"_s, 0.0));
+        return request.singlePass(block);
+    }
+};
+
+} // namespace
+
+std::unique_ptr<Filter> makePrismFlareFilter()
+{
+    return std::make_unique<PrismFlareFilter>();
+}
+
+} // namespace zm
