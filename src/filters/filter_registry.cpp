@@ -21,6 +21,7 @@ FilterRegistry::FilterRegistry()
     m_filters.push_back(std::make_unique<FadeOutFilter>());
     m_filters.push_back(makeFocusFrameFilter());
     m_filters.push_back(makeJaggedEdgeFilter());
+    m_filters.push_back(makeLightLeakFilter());
     m_filters.push_back(makePetzvalLensFilter());
     m_filters.push_back(makePrismFlareFilter());
     m_filters.push_back(makeBevelFilter());

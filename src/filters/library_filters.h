@@ -15,6 +15,7 @@ std::unique_ptr<Filter> makeJaggedEdgeFilter();
 std::unique_ptr<Filter> makeColorAdjustFilter();
 std::unique_ptr<Filter> makeRelightFilter();
 std::unique_ptr<Filter> makeSharpenFilter();
+std::unique_ptr<Filter> makeLightLeakFilter();
 std::unique_ptr<Filter> makePetzvalLensFilter();
 std::unique_ptr<Filter> makePrismFlareFilter();
 std::unique_ptr<Filter> makeBevelFilter();

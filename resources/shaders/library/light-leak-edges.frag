@@ -1,0 +1,71 @@
+#version 440
+// Film that light has reached: a glow from one side, white-hot at the edge, then the inner colour, then the outer one,
+// with softer and harder tongues, streaks along its way and a haze over all.
+// In and out: straight alpha, (0, 0) top left; alpha is kept. Cost: one texture read, seven noises.
+#extension GL_GOOGLE_include_directive : require
+#include "../common/color.glsl"
+#include "../common/noise.glsl"
+layout(location = 0) in vec2 v_uv;
+layout(location = 0) out vec4 fragColor;
+layout(binding = 0) uniform sampler2D u_input;
+layout(std140, binding = 1) uniform LibraryUniforms {
+    vec4 u_param0;  // size: width and height, pixels
+    vec4 u_param1;  // start: where the light enters, pixels
+    vec4 u_param2;  // end: how far it reaches, pixels
+    vec4 u_param3;  // strength: 0..1
+    vec4 u_param4;  // spread: to the sides of its way, 0..1
+    vec4 u_param5;  // softness: 0, clear tongues, to 1, an even glow
+    vec4 u_param6;  // color_a: of the inner light
+    vec4 u_param7;  // color_b: of the outer light
+    vec4 u_param8;  // haze: 0..1
+    vec4 u_param9;  // streaks: 0..1
+    vec4 u_param10; // seed: 0..999
+};
+
+void main()
+{
+    vec4 src = texture(u_input, v_uv);
+    uint seed = seedBits(u_param10.x);
+    float diagonal = length(u_param0.xy);
+    vec2 way = u_param2.xy - u_param1.xy;
+    float reach = max(length(way), 0.02 * diagonal);
+    vec2 along = length(way) > 0.0 ? normalize(way) : vec2(1.0, 0.0);
+    vec2 from = v_uv * u_param0.xy - u_param1.xy;
+    float a = dot(from, along) / reach;            // 0 where the light enters, 1 where it ends
+    float c = dot(from, vec2(-along.y, along.x)) / diagonal;
+
+    // Tongues: the front of the light is nearer here and farther there.
+    vec2 p = from / diagonal;
+    vec2 bend = vec2(gradientNoise(p * 1.7, seed), gradientNoise(p * 1.7, seed + 1u));
+    float edge = fbm(vec2(c * 3.2, 0.25 * a) + 0.5 * bend, 3.0, seed + 2u);
+    float soft = u_param5.x;
+    float front = a + mix(1.0, 0.35, soft) * edge - 0.25 * bend.x;
+    float side = c / mix(0.08, 0.75, u_param4.x) + 0.35 * bend.y;
+    float beside = exp(-side * side);
+
+    // Behind where it enters, light stays as bright as there.
+    float x = max(front, 0.0);
+    float wide = exp(-mix(3.6, 3.0, soft) * x * x) * beside;
+    float core = exp(-mix(9.0, 5.0, soft) * x * x) * beside;
+    float sharp = smoothstep(0.95, 0.25, front) * beside;
+    float glow = mix(0.55 * wide + 0.45 * sharp, wide, soft);
+
+    // Streaks run with the light, finer and coarser ones, and fade out along it.
+    float lines = 0.75 * gradientNoise(vec2(c * 17.0, a * 0.5) + 0.7 * bend, seed + 5u)
+        + 0.25 * gradientNoise(vec2(c * 46.0, a * 0.4) + 1.2 * bend, seed + 6u);
+    float streak = clamp(1.0 + u_param9.x * (2.2 * lines - 0.15), 0.0, 2.5);
+    glow *= streak;
+    core *= mix(1.0, streak, 0.5);
+
+    vec3 inner = toLinear(u_param6.rgb);
+    vec3 outer = toLinear(u_param7.rgb);
+    vec3 light = outer * glow * 0.8 + inner * (0.22 * glow * glow + 1.25 * core * core)
+        + vec3(0.8, 0.72, 0.6) * pow(core, 5.0);
+    vec3 haze = mix(outer, inner, 0.45) * u_param8.x * (0.08 + 0.22 * exp(-1.1 * max(a, 0.0)));
+    vec3 exposed = 1.0 - exp(-(light * 1.5 * u_param3.x + haze * 1.4)); // film saturates, it does not clip
+    vec3 base = toLinear(src.rgb);
+    vec3 rgb = toEncoded(base + exposed * (1.0 - base));
+    // Less than a level of noise, against bands in the glow.
+    rgb += (hash23(ivec2(gl_FragCoord.xy), 11u) - 0.5) / 255.0;
+    fragColor = vec4(clamp(rgb, 0.0, 1.0), src.a);
+}
