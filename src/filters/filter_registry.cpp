@@ -73,6 +73,7 @@ FilterRegistry::FilterRegistry()
     m_filters.push_back(makeZoomTrailsFilter());
     m_filters.push_back(makeLightSculptorFilter());
     m_filters.push_back(makeGlassCausticsFilter());
+    m_filters.push_back(makeHolographicFoilFilter());
     m_filters.push_back(makeTiltShiftFilter());
 }
 

@@ -63,6 +63,7 @@ std::unique_ptr<Filter> makeHeatmapFilter();
 std::unique_ptr<Filter> makeZoomTrailsFilter();
 std::unique_ptr<Filter> makeLightSculptorFilter();
 std::unique_ptr<Filter> makeGlassCausticsFilter();
+std::unique_ptr<Filter> makeHolographicFoilFilter();
 std::unique_ptr<Filter> makeTiltShiftFilter();
 
 } // namespace zm
