@@ -71,6 +71,7 @@ FilterRegistry::FilterRegistry()
     m_filters.push_back(makeStipplingFilter());
     m_filters.push_back(makeRisoPressFilter());
     m_filters.push_back(makeZoomTrailsFilter());
+    m_filters.push_back(makeSignalMeltFilter());
     m_filters.push_back(makeLightSculptorFilter());
     m_filters.push_back(makeGlassCausticsFilter());
     m_filters.push_back(makeHolographicFoilFilter());

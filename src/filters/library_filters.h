@@ -61,6 +61,7 @@ std::unique_ptr<Filter> makeSepiaToneFilter();
 std::unique_ptr<Filter> makeTritoneFilter();
 std::unique_ptr<Filter> makeHeatmapFilter();
 std::unique_ptr<Filter> makeZoomTrailsFilter();
+std::unique_ptr<Filter> makeSignalMeltFilter();
 std::unique_ptr<Filter> makeLightSculptorFilter();
 std::unique_ptr<Filter> makeGlassCausticsFilter();
 std::unique_ptr<Filter> makeHolographicFoilFilter();
