@@ -19,17 +19,17 @@ public:
 
     FilterRenderResult render(const FilterRenderRequest &request) const override
     {
-        const QLineF line = placedLine(request, u"position"_s, {1.0, 0.3, 0.5, 0.5});
+        const QLineF line = placedLine(request, u"position"_s, {1.0, 0.3, 0.7, 0.42});
         LibraryUniformBlock block(u"light-leak-edges"_s);
         block.setVec2("u_size"_L1, request.image.width(), request.image.height());
         block.setVec2("u_start"_L1, line.x1(), line.y1());
         block.setVec2("u_end"_L1, line.x2(), line.y2());
-        block.setFloat("u_strength"_L1, request.percent(u"strength"_s, 70.0));
+        block.setFloat("u_strength"_L1, request.percent(u"strength"_s, 60.0));
         block.setFloat("u_spread"_L1, request.percent(u"spread"_s, 50.0));
         block.setFloat("u_softness"_L1, request.percent(u"softness"_s, 60.0));
         block.setColor("u_color_a"_L1, request.parameters.color(u"color.core"_s, QColor(0xff, 0xb3, 0x3a)));
         block.setColor("u_color_b"_L1, request.parameters.color(u"color.rim"_s, QColor(0xe8, 0x28, 0x1c)));
-        block.setFloat("u_haze"_L1, request.percent(u"haze"_s, 25.0));
+        block.setFloat("u_haze"_L1, request.percent(u"haze"_s, 15.0));
         block.setFloat("u_streaks"_L1, request.percent(u"streaks"_s, 35.0));
         block.setFloat("u_seed"_L1, request.number(u"seed"_s, 0.0));
         return request.singlePass(block);
