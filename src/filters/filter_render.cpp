@@ -21,6 +21,15 @@ double renderScale(const QSize &imageSize, const QRectF &bounds)
     return std::max(scale, kSmallestRenderScale);
 }
 
+QPointF FilterRenderRequest::placeInLayer(double x, double y) const
+{
+    if (bounds.isEmpty())
+        return {x * image.width(), y * image.height()};
+    const QRectF box = layerBox();
+    return {(box.left() - bounds.left() + x * box.width()) / bounds.width() * image.width(),
+            (box.top() - bounds.top() + y * box.height()) / bounds.height() * image.height()};
+}
+
 double FilterRenderRequest::diagonalPixels(const QString &key, double fallback) const
 {
     return number(key, fallback) * std::hypot(image.width(), image.height()) / 1000.0;

@@ -33,10 +33,16 @@ struct FilterRenderRequest
     FilterUtilityRenderer *renderer = nullptr; ///< never null in render()
     int inputFormat = 0;
     int outputFormat = 0;
-    std::optional<QRectF> canvas; ///< the layer's visible rectangle in the document, where there is one
+    /// The layer's own rectangle, in layer units, where there is one. The bounds leave it when an earlier filter has grown
+    /// the picture.
+    std::optional<QRectF> canvas;
 
     QSize size() const { return image.size(); }
     double renderScale() const { return zm::renderScale(image.size(), bounds); }
+    /// The layer's own rectangle in layer units, of which placed values are fractions.
+    QRectF layerBox() const { return canvas.value_or(bounds); }
+    /// A point in fractions of that rectangle as pixels of the picture.
+    QPointF placeInLayer(double x, double y) const;
 
     double number(const QString &key, double fallback) const { return parameters.number(key, fallback); }
     /// A value of 0..100 as a fraction.

@@ -31,13 +31,13 @@ QList<FilterInstance> effectiveInstances(const QList<FilterInstance> &instances)
 }
 
 FilterRenderResult render(const FilterInstance &instance, const FilterRenderResult &input,
-                          const RenderServices *services)
+                          const RenderServices *services, const QRectF &layerBox)
 {
     if (instance.filterId == ShapeToolFilter::kId)
         return {ShapeToolFilter::cutOut(input.image, input.bounds, instance.parameters, services), input.bounds};
     if (instance.filterId == FadeOutFilter::kId)
         return {FadeOutFilter::faded(input.image, instance.parameters, services), input.bounds};
-    return renderLibraryFilter(instance.filterId, input.image, input.bounds, instance.parameters, services, {});
+    return renderLibraryFilter(instance.filterId, input.image, input.bounds, instance.parameters, services, layerBox);
 }
 
 /// A filter that grew its picture cannot be limited to a selection.
@@ -47,9 +47,10 @@ bool isSamePlace(const FilterRenderResult &a, const FilterRenderResult &b)
 }
 
 FilterRenderResult renderScoped(const FilterInstance &instance, const FilterRenderResult &before,
-                                const RenderServices *services, const std::optional<EditablePath> &selection)
+                                const RenderServices *services, const QRectF &layerBox,
+                                const std::optional<EditablePath> &selection)
 {
-    FilterRenderResult after = render(instance, before, services);
+    FilterRenderResult after = render(instance, before, services, layerBox);
     after.image = straightRgba(after.image);
     const Filter *filter = FilterRegistry::instance().find(instance.filterId);
     if (instance.rasterSelectionScoped && selection && filter->flags().testFlag(FilterFlag::SupportsRasterSelection)
@@ -66,7 +67,8 @@ FilterRenderResult evaluateFilterStack(const QImage &image, const QSizeF &size, 
                                        [[maybe_unused]] quint64 revision)
 {
     const QList<FilterInstance> effective = effectiveInstances(instances);
-    FilterRenderResult current{straightRgba(image), QRectF(QPointF(), size)};
+    const QRectF layerBox(QPointF(), size);
+    FilterRenderResult current{straightRgba(image), layerBox};
     if (current.image.isNull())
         return current;
 
@@ -82,7 +84,7 @@ FilterRenderResult evaluateFilterStack(const QImage &image, const QSizeF &size, 
     const FilterUtilityRenderer *renderer = services ? services->filterRenderer : nullptr;
     const quint64 failuresBefore = renderer ? renderer->failureCount() : 0;
     for (; finished < effective.size(); ++finished) {
-        current = renderScoped(effective[finished], current, services, rasterSelection);
+        current = renderScoped(effective[finished], current, services, layerBox, rasterSelection);
         // What has seen a failure may come out better the next time.
         if (cache && renderer && renderer->failureCount() == failuresBefore) {
             key.instances = effective.first(finished + 1);

@@ -11,9 +11,7 @@ namespace zm {
 inline QLineF placedLine(const FilterRenderRequest &request, const QString &key, const GradientPosition &fallback)
 {
     const GradientPosition position = request.parameters.gradientPosition(key, fallback);
-    const double width = request.image.width();
-    const double height = request.image.height();
-    return {position.x1 * width, position.y1 * height, position.x2 * width, position.y2 * height};
+    return {request.placeInLayer(position.x1, position.y1), request.placeInLayer(position.x2, position.y2)};
 }
 
 } // namespace zm

@@ -75,6 +75,18 @@ private slots:
         QCOMPARE(evaluate({cut, bevel}).image, evaluateOne(bevel, evaluate({cut}).image));
     }
 
+    /// What is placed on the layer stays there when an earlier filter has grown the picture.
+    void placedValuesFollowTheLayer()
+    {
+        const FilterInstance shadow = instance(u"shadow"_s, {{u"distance"_s, 100.0}});
+        const FilterInstance light =
+            instance(u"relight"_s, {{u"baseLight"_s, 20.0}, {u"lights"_s, LightSources{LightSource{.x = 0.3, .radius = 0.3}}}});
+        const FilterRenderResult grown = evaluate({shadow, light});
+        QVERIFY(grown.image.width() > 40 && grown.bounds.right() > 40.0);
+        const QRect layer(-qRound(grown.bounds.left()), -qRound(grown.bounds.top()), 40, 30);
+        QCOMPARE_LE(maximumDifference(grown.image.copy(layer), evaluate({light}).image), 1);
+    }
+
     void selectionLimitsScopedInstances()
     {
         FilterInstance vignette =

@@ -26,12 +26,10 @@ void setLight(LibraryUniformBlock &block, int index, const LightSource &light, c
         const QByteArray field = QByteArray(name) + QByteArray::number(index);
         block.setVec4(QLatin1StringView(field), x, y, z, w);
     };
-    const QRectF &box = request.bounds;
-    const double scaleX = box.isEmpty() ? 1.0 : request.size().width() / box.width();
-    const double scaleY = box.isEmpty() ? 1.0 : request.size().height() / box.height();
+    const QRectF box = request.layerBox();
+    const QPointF centre = request.placeInLayer(light.x, light.y);
     const double radius = request.renderScale() * light.radius * std::min(box.width(), box.height());
-    set("u_lightGeometry", scaleX * box.width() * light.x, scaleY * box.height() * light.y, std::max(radius, 1.0),
-        qDegreesToRadians(light.angle));
+    set("u_lightGeometry", centre.x(), centre.y(), std::max(radius, 1.0), qDegreesToRadians(light.angle));
     const QColor tint = light.tint;
     set("u_lightColor", toLinear(tint.redF()), toLinear(tint.greenF()), toLinear(tint.blueF()), light.intensity);
     set("u_lightShape", double(light.shape), light.softness, 0.0, 0.0);
