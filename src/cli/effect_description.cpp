@@ -38,7 +38,6 @@ struct JsonWriter
     QJsonValue operator()(const ShapeMask &value) const { return value.generatorId; }
     QJsonValue operator()(const LightSources &value) const
     {
-        constexpr const char *shapes[] = {"round", "oval", "rectangle", "spot"};
         QJsonArray lights;
         for (const LightSource &light : value) {
             lights.append(QJsonObject{{u"x"_s, light.x},
@@ -47,7 +46,7 @@ struct JsonWriter
                                       {u"angle"_s, light.angle},
                                       {u"intensity"_s, light.intensity},
                                       {u"softness"_s, light.softness},
-                                      {u"shape"_s, QLatin1StringView(shapes[int(light.shape)])},
+                                      {u"shape"_s, lightShapeName(light.shape)},
                                       {u"tint"_s, colorText(light.tint)}});
         }
         return lights;

@@ -1,9 +1,14 @@
 #pragma once
 
 #include <QColor>
+#include <QLatin1StringView>
 #include <QList>
 #include <QString>
 #include <QUuid>
+
+#include <algorithm>
+#include <array>
+#include <optional>
 
 namespace zm {
 
@@ -88,6 +93,23 @@ struct LightSource
 
     friend bool operator==(const LightSource &a, const LightSource &b) = default;
 };
+
+/// What the shapes are called in descriptions of effects and on the command line, in the order of the enumeration.
+inline constexpr std::array<QLatin1StringView, 4> kLightShapeNames{
+    QLatin1StringView("round"), QLatin1StringView("oval"), QLatin1StringView("rectangle"), QLatin1StringView("spot")};
+
+inline QLatin1StringView lightShapeName(LightSource::Shape shape)
+{
+    return kLightShapeNames[size_t(shape)];
+}
+
+/// Nothing for an unknown name.
+inline std::optional<LightSource::Shape> lightShapeFromName(const QString &name)
+{
+    const auto found = std::ranges::find(kLightShapeNames, name);
+    return found == kLightShapeNames.end() ? std::nullopt
+                                           : std::optional(LightSource::Shape(found - kLightShapeNames.begin()));
+}
 
 using LightSources = QList<LightSource>;
 

@@ -127,11 +127,7 @@ private:
         control.uniformScaleOnly = m_object["uniformScaleOnly"_L1].toBool();
     }
     void fill(ShapeParameter &control) const { control.defaultValue = {given().toString()}; }
-    void fill(FilterActionParameter &control) const
-    {
-        control.flags |= ParameterFlag::NotStored;
-        control.buttonLabel = buttonLabel();
-    }
+    void fill(FilterActionParameter &control) const { control.buttonLabel = buttonLabel(); }
     void fill(DocumentColorParameter &control) const
     {
         control.defaultValue = colorFromJson(given(), control.defaultValue);
@@ -191,7 +187,6 @@ private:
 
     static LightSource lightFrom(const QJsonObject &object)
     {
-        static const QStringList shapes{u"round"_s, u"oval"_s, u"rectangle"_s, u"spot"_s};
         LightSource light;
         light.x = object["x"_L1].toDouble(light.x);
         light.y = object["y"_L1].toDouble(light.y);
@@ -199,7 +194,7 @@ private:
         light.angle = object["angle"_L1].toDouble(light.angle);
         light.intensity = object["intensity"_L1].toDouble(light.intensity);
         light.softness = object["softness"_L1].toDouble(light.softness);
-        light.shape = LightSource::Shape(std::max<qsizetype>(shapes.indexOf(object["shape"_L1].toString()), 0));
+        light.shape = lightShapeFromName(object["shape"_L1].toString()).value_or(light.shape);
         light.tint = colorFromJson(object["tint"_L1], light.tint);
         return light;
     }

@@ -18,36 +18,26 @@ constexpr QColor kDefaultFadeColor(255, 255, 255, 0);
 QStringList FadeOutFilter::pickerKeywords() const
 {
     constexpr auto english = QT_TR_NOOP("alpha, fade, gradient, transparent");
-    QStringList words = keywordList(tr(english)) + keywordList(QString::fromLatin1(english));
-    words.removeDuplicates();
-    return words;
+    return searchWords(tr(english), QString::fromLatin1(english));
 }
 
 QList<ParameterDefinition> FadeOutFilter::controls() const
 {
-    ChoiceParameter mode;
-    static_cast<ParameterHead &>(mode) = {u"mode"_s, tr("Mode"), {}, ParameterUnit::None};
+    auto mode = headed<ChoiceParameter>(u"mode"_s, tr("Mode"));
     mode.options = {{u"linear"_s, tr("Linear"), {}}, {u"radial"_s, tr("Radial"), {}}};
     mode.defaultValue = u"linear"_s;
-    GradientPositionParameter position;
-    static_cast<ParameterHead &>(position) = {u"position"_s, tr("Fade"), {}, ParameterUnit::None};
+    auto position = headed<GradientPositionParameter>(u"position"_s, tr("Fade"));
     position.buttonLabel = tr("Position Fade");
-    BooleanParameter invert;
-    static_cast<ParameterHead &>(invert) = {u"invert"_s, tr("Invert"), {}, ParameterUnit::None};
-    ColorParameter color;
-    static_cast<ParameterHead &>(color) = {u"fadeColor"_s, tr("Fade color"), {}, ParameterUnit::None};
+    auto color = headed<ColorParameter>(u"fadeColor"_s, tr("Fade color"));
     color.defaultValue = kDefaultFadeColor;
-    DocumentColorParameter documentColor;
-    documentColor.id = u"_documentColor"_s;
-    documentColor.label = tr("Document color");
     return {mode,
             position,
             realParameter(u"strength"_s, tr("Strength"), 100.0, 0.0, 100.0, 1.0),
             realParameter(u"curve"_s, tr("Curve"), 100.0, 25.0, 250.0, 1.0),
             realParameter(u"softness"_s, tr("Softness"), 60.0, 1.0, 100.0, 1.0),
-            invert,
+            headed<BooleanParameter>(u"invert"_s, tr("Invert")),
             color,
-            documentColor};
+            headed<DocumentColorParameter>(u"_documentColor"_s, tr("Document color"))};
 }
 
 QImage FadeOutFilter::faded(const QImage &image, const ParameterValues &parameters, const RenderServices *services)

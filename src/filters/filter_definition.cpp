@@ -106,12 +106,12 @@ AutoAddText autoAddTextFrom(const QJsonObject &object, const ControlTranslator &
 
 } // namespace
 
-QStringList keywordList(const QString &commaSeparated)
+QStringList searchWords(const QString &translated, const QString &english)
 {
     QStringList words;
-    const QStringList parts = commaSeparated.split(u',');
+    const QStringList parts = translated.split(u',') + english.split(u',');
     for (const QString &part : parts) {
-        if (const QString word = part.trimmed(); !word.isEmpty())
+        if (const QString word = part.trimmed(); !word.isEmpty() && !words.contains(word))
             words.append(word);
     }
     return words;
@@ -142,8 +142,7 @@ FilterDefinition filterDefinitionFromJson(const QString &id, const QByteArray &j
         imageFormatFrom(object["outputImageFormat"_L1].toString(), definition.outputImageFormat);
 
     const QString keywords = object["pickerKeywords"_L1].toString();
-    definition.pickerKeywords = keywordList(translator.translated(keywords)) + keywordList(keywords);
-    definition.pickerKeywords.removeDuplicates();
+    definition.pickerKeywords = searchWords(translator.translated(keywords), keywords);
     const QJsonArray resources = object["resources"_L1].toArray();
     for (const QJsonValue &resource : resources)
         definition.resources.append(resource.toString());

@@ -35,7 +35,7 @@ FilterDefinition filterDefinitionFromJson(const QString &id, const QByteArray &j
 /// The same from the program's resources.
 FilterDefinition loadFilterDefinition(const QString &id);
 
-/// The words of a comma-separated list, trimmed, without empty ones.
-QStringList keywordList(const QString &commaSeparated);
+/// The words of two comma-separated lists, trimmed, without empty ones and repeats: to be found in both languages.
+QStringList searchWords(const QString &translated, const QString &english);
 
 } // namespace zm

@@ -160,8 +160,9 @@ std::optional<QString> optionText(const ParameterValue &value)
 ParameterDefinition realParameter(const QString &id, const QString &label, double defaultValue, double minimum,
                                   double maximum, double step, ParameterFlags flags, ParameterUnit unit)
 {
-    RealRangeParameter parameter;
-    static_cast<ParameterHead &>(parameter) = {id, label, flags, unit};
+    auto parameter = headed<RealRangeParameter>(id, label);
+    parameter.flags = flags;
+    parameter.unit = unit;
     setNumbers(parameter, defaultValue, minimum, maximum, step);
     return parameter;
 }
@@ -169,8 +170,7 @@ ParameterDefinition realParameter(const QString &id, const QString &label, doubl
 ParameterDefinition integerParameter(const QString &id, const QString &label, qint64 defaultValue, qint64 minimum,
                                      qint64 maximum)
 {
-    IntegerRangeParameter parameter;
-    static_cast<ParameterHead &>(parameter) = {id, label, {}, ParameterUnit::None};
+    auto parameter = headed<IntegerRangeParameter>(id, label);
     std::tie(parameter.minimum, parameter.maximum) = std::minmax({minimum, maximum});
     parameter.defaultValue = snapped(defaultValue, parameter.minimum, parameter.maximum, parameter.step);
     return parameter;

@@ -200,6 +200,16 @@ std::optional<ParameterValue> acceptedValue(const ParameterDefinition &definitio
 /// round. Nothing for values that no option has.
 std::optional<QString> optionText(const ParameterValue &value);
 
+/// A control with a key and a label, for the rest to be set.
+template<typename Control>
+Control headed(const QString &id, const QString &label)
+{
+    Control control;
+    control.id = id;
+    control.label = label;
+    return control;
+}
+
 /// Limits that are the wrong way round are swapped, and the default is snapped into them.
 void setNumbers(NumericParameter<double> &parameter, double defaultValue, double minimum, double maximum, double step);
 

@@ -14,15 +14,6 @@ namespace {
 
 const QString kDefaultShape = u"heart"_s;
 
-template<typename Control>
-Control headed(const QString &id, const QString &label)
-{
-    Control control;
-    control.id = id;
-    control.label = label;
-    return control;
-}
-
 /// The values of the shape's own controls.
 ParameterValues shapeParameters(const ParameterValues &parameters)
 {
@@ -41,9 +32,7 @@ ParameterValues shapeParameters(const ParameterValues &parameters)
 QStringList ShapeToolFilter::pickerKeywords() const
 {
     constexpr auto english = QT_TR_NOOP("mask, cutout, crop, shape");
-    QStringList words = keywordList(tr(english)) + keywordList(QString::fromLatin1(english));
-    words.removeDuplicates();
-    return words;
+    return searchWords(tr(english), QString::fromLatin1(english));
 }
 
 QList<ParameterDefinition> ShapeToolFilter::controls() const
