@@ -1,5 +1,8 @@
 #include "cli/parameter_text.h"
 
+#include "generators/shape_generator.h"
+#include "generators/shape_generator_registry.h"
+
 #include <QJsonArray>
 #include <QJsonDocument>
 #include <QJsonObject>
@@ -55,7 +58,6 @@ std::optional<Stroke> strokeFromText(const QString &text)
 /// Absent members keep the default; an unknown one is a mistake in writing.
 std::optional<LightSource> lightFromJson(const QJsonValue &value)
 {
-    static const QStringList shapes{u"round"_s, u"oval"_s, u"rectangle"_s, u"spot"_s};
     LightSource light;
     const std::pair<QLatin1StringView, double *> numbers[] = {
         {"x"_L1, &light.x},
@@ -72,13 +74,13 @@ std::optional<LightSource> lightFromJson(const QJsonValue &value)
         const QString name = member.key();
         const auto number = std::ranges::find_if(numbers, [&](const auto &known) { return known.first == name; });
         const auto color = colorFromText(member->toString());
-        const qsizetype shape = shapes.indexOf(member->toString());
+        const auto shape = lightShapeFromName(member->toString());
         if (number != std::end(numbers) && member->isDouble())
             *number->second = member->toDouble();
         else if (name == "tint"_L1 && color)
             light.tint = *color;
-        else if (name == "shape"_L1 && shape >= 0)
-            light.shape = LightSource::Shape(shape);
+        else if (name == "shape"_L1 && shape)
+            light.shape = *shape;
         else
             return std::nullopt;
     }
@@ -153,12 +155,33 @@ struct TextReader
     std::optional<ParameterValue> operator()(const ParameterHead &) const { return text; }
 };
 
+/// What a control takes where that is a list of names; empty for the others.
+QStringList namesOf(const ParameterDefinition &definition)
+{
+    QStringList names;
+    const auto addOptions = [&names](const QList<ParameterOption> &options) {
+        for (const ParameterOption &option : options)
+            names.append(optionText(option.value).value_or(QString()));
+    };
+    if (const auto *choice = std::get_if<ChoiceParameter>(&definition)) {
+        addOptions(choice->options);
+    } else if (const auto *textures = std::get_if<TexturePickerParameter>(&definition)) {
+        addOptions(textures->options);
+    } else if (std::holds_alternative<ShapeParameter>(definition)) {
+        for (const auto &generator : ShapeGeneratorRegistry::instance().generators())
+            names.append(generator->id());
+    }
+    return names;
+}
+
 } // namespace
 
 std::optional<ParameterValue> parameterValueFromText(const ParameterDefinition &definition, const QString &text)
 {
     const std::optional<ParameterValue> written = std::visit(TextReader{text}, definition);
-    if (!written)
+    const bool isUnknownShape =
+        std::holds_alternative<ShapeParameter>(definition) && !ShapeGeneratorRegistry::instance().find(text);
+    if (!written || isUnknownShape)
         return std::nullopt;
     const std::optional<ParameterValue> accepted = acceptedValue(definition, *written);
     return accepted && isStorable(*accepted) ? accepted : std::nullopt;
@@ -180,7 +203,11 @@ QString setParameterFromText(ParameterValues &values, const QList<ParameterDefin
         return u"unknown key %1; the keys are %2"_s.arg(key, keys.join(", "_L1));
     }
     const std::optional<ParameterValue> value = parameterValueFromText(*definition, text);
-    return value && values.set(key, *value) ? QString() : u"%1 cannot be \"%2\""_s.arg(key, text);
+    if (value && values.set(key, *value))
+        return {};
+    const QString problem = u"%1 cannot be \"%2\""_s.arg(key, text);
+    const QStringList names = namesOf(*definition);
+    return names.isEmpty() ? problem : u"%1; it takes %2"_s.arg(problem, names.join(", "_L1));
 }
 
 } // namespace zm::cli
