@@ -40,11 +40,6 @@ void OwnedTexture::reset()
     m_name = 0;
 }
 
-QImage toStraightRgba(const QImage &image)
-{
-    return image.convertToFormat(QImage::Format_RGBA8888);
-}
-
 OwnedTexture uploadTexture(QOpenGLExtraFunctions *functions, const QImage &image, TextureEdge edge)
 {
     if (image.isNull())

@@ -49,9 +49,6 @@ private:
     GLuint m_name = 0;
 };
 
-/// The picture in the one format of layers and textures, sharing its pixels when it has that format already.
-QImage toStraightRgba(const QImage &image);
-
 /// Uploads an RGBA8888 picture into a linearly filtered texture. Name 0 when the picture is null, larger than the
 /// driver takes, or does not fit into its memory.
 OwnedTexture uploadTexture(QOpenGLExtraFunctions *functions, const QImage &image, TextureEdge edge);

@@ -137,6 +137,7 @@ QImage OpenGLTextureRenderer::renderMaskedBlurFilterShader(const QString &shader
     const FilterShaderDescriptor *descriptor = m_catalog.find(u"fx/%1"_s.arg(shaderId));
     if (!descriptor) {
         qCWarning(lcTexture) << "Unknown filter shader" << shaderId;
+        ++m_failures;
         return {};
     }
     if (descriptor->samplers.size() != kMaskedBlurSamplers
@@ -144,6 +145,7 @@ QImage OpenGLTextureRenderer::renderMaskedBlurFilterShader(const QString &shader
         qCWarning(lcTexture) << "Masked blur shader invocation mismatch" << shaderId << "samplers expected"
                              << descriptor->samplers.size() << "got 3 uniforms expected" << descriptor->uniforms.size()
                              << "got" << uniformBytes.size() / kUniformVec4Bytes;
+        ++m_failures;
         return {};
     }
     const double usedSourceSigma = sigmaOrZero(sourceSigma);

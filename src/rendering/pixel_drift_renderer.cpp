@@ -132,7 +132,7 @@ QImage PixelDriftRenderer::render(const QImage &image, const PixelDriftSettings 
 {
     const PixelDriftSettings defaults;
     const float amount = float(limited(settings.amount, 0.0, 1.0, defaults.amount));
-    const QImage source = toStraightRgba(image);
+    const QImage source = image.convertToFormat(QImage::Format_RGBA8888);
     if (source.isNull() || amount <= 0.0F)
         return source;
 
