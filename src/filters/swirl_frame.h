@@ -21,7 +21,7 @@ struct SwirlFrameSettings
     double ovalShape = 0.0;         ///< 0 rectangle to 1 ellipse
 };
 
-/// The request's picture before a background of this chain, which may be smaller.
+/// The picture before the background, which may be smaller; the result has the picture's size.
 PassChain::Picture addSwirlFrame(PassChain &chain, PassChain::Picture picture, PassChain::Picture background,
                                  const SwirlFrameSettings &settings);
 

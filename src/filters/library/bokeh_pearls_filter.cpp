@@ -38,7 +38,8 @@ public:
 
         PassChain chain;
         const PassChain::Picture input = chain.source(request.image);
-        const PassChain::Picture mask = addShapeMask(chain, request, {u"ellipse"_s, {.scaleX = 0.9, .scaleY = 0.9}, 75.0});
+        const PassChain::Picture mask =
+            addShapeMask(chain, request, {u"ellipse"_s, {.scaleX = 0.9, .scaleY = 0.9}, 75.0});
         return request.chained(chain, addPass(chain, block, {input, mask}));
     }
 };
