@@ -1,5 +1,6 @@
 #include "filters/library_filter.h"
 #include "filters/library_filters.h"
+#include "filters/placed_line.h"
 
 #include <cmath>
 
@@ -21,12 +22,12 @@ public:
     {
         const double width = request.image.width();
         const double height = request.image.height();
-        const GradientPosition place = request.parameters.gradientPosition(u"position"_s, {0.78, 0.12, 0.78, 0.8});
+        const QLineF place = placedLine(request, u"position"_s, {0.78, 0.12, 0.78, 0.8});
 
         LibraryUniformBlock block(u"autumn-glow"_s);
         block.setVec2("u_size"_L1, width, height);
-        block.setVec2("u_glowCenter"_L1, place.x1, place.y1);
-        block.setFloat("u_glowRadius"_L1, std::hypot((place.x2 - place.x1) * width, (place.y2 - place.y1) * height));
+        block.setVec2("u_glowCenter"_L1, place.x1() / width, place.y1() / height);
+        block.setFloat("u_glowRadius"_L1, place.length());
         block.setFloat("u_flash"_L1, request.percent(u"flash"_s, 50.0));
         block.setFloat("u_saturation"_L1, request.percent(u"saturation"_s, 15.0));
         block.setFloat("u_warmth"_L1, request.percent(u"warmth"_s, 65.0));

@@ -1,5 +1,6 @@
 #include "filters/library_filter.h"
 #include "filters/library_filters.h"
+#include "filters/placed_line.h"
 
 #include <cmath>
 
@@ -21,12 +22,12 @@ public:
     {
         const double width = request.image.width();
         const double height = request.image.height();
-        const GradientPosition place = request.parameters.gradientPosition(u"position"_s, {0.5, 0.42, 0.5, 0.98});
+        const QLineF place = placedLine(request, u"position"_s, {0.5, 0.42, 0.5, 0.98});
 
         LibraryUniformBlock block(u"80sflash"_s);
         block.setVec2("u_size"_L1, width, height);
-        block.setVec2("u_flashCenter"_L1, place.x1, place.y1);
-        block.setFloat("u_flashRadius"_L1, std::hypot((place.x2 - place.x1) * width, (place.y2 - place.y1) * height));
+        block.setVec2("u_flashCenter"_L1, place.x1() / width, place.y1() / height);
+        block.setFloat("u_flashRadius"_L1, place.length());
         block.setFloat("u_flash"_L1, request.percent(u"flash"_s, 65.0));
         block.setFloat("u_saturation"_L1, request.percent(u"saturation"_s, 20.0));
         block.setFloat("u_softFocus"_L1, request.percent(u"softFocus"_s, 18.0));
