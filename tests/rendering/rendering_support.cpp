@@ -1,7 +1,6 @@
 #include "rendering_support.h"
 
 #include <QFile>
-#include <QRandomGenerator>
 
 namespace zm::test {
 
@@ -48,22 +47,6 @@ bool writeFile(const QString &path, const QByteArray &bytes)
 {
     QFile file(path);
     return file.open(QIODevice::WriteOnly) && file.write(bytes) == bytes.size();
-}
-
-QImage noisePicture(int width, int height, quint32 seed)
-{
-    QRandomGenerator random(seed);
-    QImage picture(width, height, QImage::Format_RGBA8888);
-    for (int y = 0; y < height; ++y) {
-        uchar *pixel = picture.scanLine(y);
-        for (int x = 0; x < width; ++x, pixel += 4) {
-            for (int channel = 0; channel < 4; ++channel)
-                pixel[channel] = uchar(random.bounded(256));
-            if (random.bounded(4) == 0)
-                pixel[3] = 0;
-        }
-    }
-    return picture;
 }
 
 } // namespace zm::test

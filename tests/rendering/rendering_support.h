@@ -24,7 +24,4 @@ QByteArray shaderPackage(QShader::Stage stage, const QByteArray &glsl,
 
 bool writeFile(const QString &path, const QByteArray &bytes);
 
-/// Pseudo-random RGBA, fully transparent pixels with colour among them.
-QImage noisePicture(int width, int height, quint32 seed);
-
 } // namespace zm::test

@@ -1,13 +1,12 @@
 #include "rendering/opengl_texture_renderer.h"
-#include "rendering_support.h"
 #include "support/pictures.h"
+#include "support/pixel_formula.h"
 
 #include <QTest>
 
 #include <cmath>
 #include <functional>
 #include <numbers>
-#include <valarray>
 
 using namespace zm;
 using namespace zm::test;
@@ -16,83 +15,11 @@ namespace {
 
 // What every utility shader computes, in double precision on the CPU.
 
-/// Red, green, blue and straight alpha, 0..1.
-using Pixel = std::valarray<double>;
-/// What stands at a place of the result, from what stands there in the picture.
-using Formula = std::function<Pixel(const Pixel &, double x, double y)>;
 using Growth = ReflectionGrowth;
 
 constexpr double kPi = std::numbers::pi;
 const QColor kTeal(20, 160, 140, 128);
 const QImage kNoise = noisePicture(41, 23, 3);
-
-template<typename Value>
-Value mixed(const Value &a, const Value &b, double t)
-{
-    return Value(a + (b - a) * t);
-}
-
-double unit(double value)
-{
-    return std::clamp(value, 0.0, 1.0);
-}
-
-double softStep(double low, double high, double value)
-{
-    const double t = high > low ? unit((value - low) / (high - low)) : double(value >= high);
-    return t * t * (3.0 - 2.0 * t);
-}
-
-double dot(const Pixel &p, const Pixel &weights)
-{
-    return Pixel(p * weights).sum();
-}
-
-double luma(const Pixel &p)
-{
-    return dot(p, {0.299, 0.587, 0.114, 0.0});
-}
-
-Pixel pixelOf(const QColor &color)
-{
-    return {color.redF(), color.greenF(), color.blueF(), color.alphaF()};
-}
-
-Pixel withAlpha(Pixel color, double alpha)
-{
-    color[3] = alpha;
-    return color;
-}
-
-/// Linear between pixels, whose centres lie at halves; the nearest one beyond the edge.
-Pixel sampled(const QImage &picture, double x, double y)
-{
-    const auto at = [&](double column, double row) {
-        const int i = int(std::clamp(column, 0.0, picture.width() - 1.0));
-        const uchar *p = picture.constScanLine(int(std::clamp(row, 0.0, picture.height() - 1.0))) + i * 4;
-        return Pixel{p[0] / 255.0, p[1] / 255.0, p[2] / 255.0, p[3] / 255.0};
-    };
-    const double left = std::floor(x - 0.5);
-    const double top = std::floor(y - 0.5);
-    const auto row = [&](double line) { return mixed(at(left, line), at(left + 1, line), x - 0.5 - left); };
-    return mixed(row(top), row(top + 1), y - 0.5 - top);
-}
-
-/// How many pixels of `got` are further from the formula than `tolerance` levels.
-int countOff(const QImage &got, const QImage &picture, int tolerance, const Formula &formula)
-{
-    int count = 0;
-    for (int y = 0; y < got.height(); ++y)
-        for (int x = 0; x < got.width(); ++x) {
-            const Pixel levels = formula(sampled(picture, x + 0.5, y + 0.5), x + 0.5, y + 0.5).apply([](double v) {
-                return std::round(unit(v) * 255.0);
-            });
-            const uchar *p = got.constScanLine(y) + x * 4;
-            const Pixel off = std::abs(levels - Pixel{double(p[0]), double(p[1]), double(p[2]), double(p[3])});
-            count += off.max() > tolerance ? 1 : 0;
-        }
-    return count;
-}
 
 /// One rounding, and the eight bits in which drivers weigh the pixels of a linear read, make one level.
 bool follows(const QImage &got, const Formula &formula)

@@ -1,6 +1,7 @@
 #include "support/pictures.h"
 
 #include <QColor>
+#include <QRandomGenerator>
 
 namespace zm::test {
 
@@ -23,6 +24,22 @@ QImage plainPicture(int width, int height, const QColor &color)
 {
     QImage picture(width, height, QImage::Format_RGBA8888);
     picture.fill(color);
+    return picture;
+}
+
+QImage noisePicture(int width, int height, quint32 seed)
+{
+    QRandomGenerator random(seed);
+    QImage picture(width, height, QImage::Format_RGBA8888);
+    for (int y = 0; y < height; ++y) {
+        uchar *pixel = picture.scanLine(y);
+        for (int x = 0; x < width; ++x, pixel += 4) {
+            for (int channel = 0; channel < 4; ++channel)
+                pixel[channel] = uchar(random.bounded(256));
+            if (random.bounded(4) == 0)
+                pixel[3] = 0;
+        }
+    }
     return picture;
 }
 

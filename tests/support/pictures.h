@@ -10,6 +10,9 @@ QImage gradientPicture(int width, int height);
 /// A picture of one colour in the document's format.
 QImage plainPicture(int width, int height, const QColor &color);
 
+/// Pseudo-random RGBA, fully transparent pixels with colour among them.
+QImage noisePicture(int width, int height, quint32 seed);
+
 /// The greatest difference of any channel of any pixel; 256 when the sizes differ. Both are compared as RGBA8888.
 int maximumDifference(const QImage &a, const QImage &b);
 
