@@ -21,6 +21,11 @@ constexpr double kPi = std::numbers::pi;
 const QColor kTeal(20, 160, 140, 128);
 const QImage kNoise = noisePicture(41, 23, 3);
 
+Pixel pixelOf(const QColor &color)
+{
+    return {color.redF(), color.greenF(), color.blueF(), color.alphaF()};
+}
+
 /// One rounding, and the eight bits in which drivers weigh the pixels of a linear read, make one level.
 bool follows(const QImage &got, const Formula &formula)
 {
