@@ -91,13 +91,7 @@ std::pair<double, double> slopes(const QImage &image, double x, double y, double
 
 struct Comic
 {
-    double style;
-    double ink;
-    double levels;
-    double dotSize;
-    double punch;
-    double brightness;
-    double scale;
+    double style, ink, levels, dotSize, punch, brightness, scale;
 };
 
 Pixel comic(const QImage &image, const Pixel &source, double x, double y, const Comic &given)
@@ -159,13 +153,7 @@ Pixel comic(const QImage &image, const Pixel &source, double x, double y, const 
 
 struct Splash
 {
-    double hue;
-    double tolerance;
-    double softness;
-    double background;
-    double boost;
-    double amount;
-    double invert;
+    double hue, tolerance, softness, background, boost, amount, invert;
 };
 
 Pixel splashed(const Pixel &p, const Pixel &gray, const Splash &s)
@@ -187,11 +175,7 @@ Pixel splashed(const Pixel &p, const Pixel &gray, const Splash &s)
 
 struct Miniature
 {
-    double position;
-    double width;
-    double angle;
-    double blur;
-    double punch;
+    double position, width, angle, blur, punch;
 };
 
 Pixel miniature(const Pixel &source, const Pixel &blurred, double x, double y, const Miniature &m)
@@ -232,10 +216,7 @@ double toEncoded(double v)
 
 struct Light
 {
-    double x;
-    double y;
-    double radius;
-    double angle;
+    double x, y, radius, angle;
     int shape; ///< round, oval, rectangle, spot
     double softness;
     Pixel color; ///< linear, and the intensity
@@ -328,7 +309,11 @@ private slots:
     void pencilSketch()
     {
         const QImage edges = noisePicture(int(kWidth), int(kHeight), 5);
-        const QImage tile = noisePicture(16, 16, 7).convertToFormat(QImage::Format_RGBX8888);
+        // Dark on its left, so that on the right the strokes of the mirrored tile are the stronger ones. Not darker, as
+        // drivers read between pixels in eight bits, and the fifth root of values near black is steep.
+        QImage tile = noisePicture(16, 16, 7).convertToFormat(QImage::Format_RGBX8888);
+        for (int i = 0; i < 16 * 8; ++i)
+            tile.setPixelColor(i % 8, i / 8, tile.pixelColor(i % 8, i / 8).darker(400));
         struct Pencil
         {
             double tile, color, tone, texture, edge, softness;
