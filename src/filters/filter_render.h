@@ -33,8 +33,8 @@ struct FilterRenderRequest
     FilterUtilityRenderer *renderer = nullptr; ///< never null in render()
     int inputFormat = 0;
     int outputFormat = 0;
-    /// The layer's own rectangle, in layer units, where there is one. The bounds leave it when an earlier filter has grown
-    /// the picture.
+    /// The layer's own rectangle, in layer units, where there is one. The bounds leave it when an earlier filter has
+    /// grown the picture.
     std::optional<QRectF> canvas;
 
     QSize size() const { return image.size(); }

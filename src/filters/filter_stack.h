@@ -18,8 +18,9 @@ FilterRenderResult evaluateFilterStack(const QImage &image, const QSizeF &size, 
                                        const RenderServices *services,
                                        const std::optional<EditablePath> &rasterSelection, quint64 revision);
 
-/// One filter over a picture; the canvas is the layer's own rectangle in the units of the bounds. The input and its bounds come back for an unknown id, for a filter that is not of the
-/// library, without a renderer, and when the filter fails.
+/// One filter over a picture; the canvas is the layer's own rectangle in the units of the bounds. The input and its
+/// bounds come back for an unknown id, for a filter that is not of the library, without a renderer, and when the filter
+/// fails.
 FilterRenderResult renderLibraryFilter(const QString &filterId, const QImage &image, const QRectF &bounds,
                                        const ParameterValues &parameters, const RenderServices *services,
                                        const std::optional<QRectF> &canvas);

@@ -79,8 +79,8 @@ private slots:
     void placedValuesFollowTheLayer()
     {
         const FilterInstance shadow = instance(u"shadow"_s, {{u"distance"_s, 100.0}});
-        const FilterInstance light =
-            instance(u"relight"_s, {{u"baseLight"_s, 20.0}, {u"lights"_s, LightSources{LightSource{.x = 0.3, .radius = 0.3}}}});
+        const FilterInstance light = instance(
+            u"relight"_s, {{u"baseLight"_s, 20.0}, {u"lights"_s, LightSources{LightSource{.x = 0.3, .radius = 0.3}}}});
         const FilterRenderResult grown = evaluate({shadow, light});
         QVERIFY(grown.image.width() > 40 && grown.bounds.right() > 40.0);
         const QRect layer(-qRound(grown.bounds.left()), -qRound(grown.bounds.top()), 40, 30);
