@@ -14,6 +14,7 @@ namespace zm {
 /// the picture's logical size in layer units. Disabled instances and instances of unknown filters are skipped, and one
 /// that fails passes its input on. The selection, in layer units, limits the instances that are scoped to it. Results
 /// that are at hand in the services' cache are taken from there. On the thread of the renderer only.
+/// The revision tells an asynchronous filter whether its result is still wanted; none of the filters so far is one.
 FilterRenderResult evaluateFilterStack(const QImage &image, const QSizeF &size, const QList<FilterInstance> &instances,
                                        const RenderServices *services,
                                        const std::optional<EditablePath> &rasterSelection, quint64 revision);

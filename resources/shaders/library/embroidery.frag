@@ -21,7 +21,7 @@ layout(std140, binding = 1) uniform LibraryUniforms {
     vec4 u_param6;  // colorDepth: number of thread colours, 0 few to 1 many
     vec4 u_param7;  // fabricColor: red, green, blue, 0..1
     vec4 u_param8;  // seed
-    vec4 u_param9;  // renderScale: pixels for a unit of the layer
+    vec4 u_param9;  // renderScale: not read, as all sizes come in pixels
 };
 
 const int kAngles = 8;

@@ -17,7 +17,7 @@ layout(std140, binding = 1) uniform LibraryUniforms {
     vec4 u_param4;  // inkDensity: 0..1
     vec4 u_param5;  // grain: 0..1
     vec4 u_param6;  // seed
-    vec4 u_param7;  // renderScale: pixels for a unit of the layer
+    vec4 u_param7;  // renderScale: not read, as all sizes come in pixels
 };
 
 // Three inks a palette; a white one is none.

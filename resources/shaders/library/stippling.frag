@@ -18,7 +18,7 @@ layout(std140, binding = 1) uniform LibraryUniforms {
     vec4 u_param5;  // paperColor: red, green, blue, 0..1
     vec4 u_param6;  // paperTexture: 0..1
     vec4 u_param7;  // seed
-    vec4 u_param8;  // renderScale: pixels for a unit of the layer
+    vec4 u_param8;  // renderScale: not read, as all sizes come in pixels
 };
 
 const float kPi = 3.14159265;

@@ -35,7 +35,6 @@ public:
         block.setFloat("u_colorDepth"_L1, request.percent(u"colorDepth"_s, 65.0));
         block.setColor("u_fabricColor"_L1, request.parameters.color(u"fabricColor"_s, QColor(0xe9, 0xdf, 0xcb)));
         block.setFloat("u_seed"_L1, request.number(u"seed"_s, 1.0));
-        block.setFloat("u_renderScale"_L1, request.renderScale());
 
         PassChain chain;
         // Clear forms with clear contours, as they are drawn before they are stitched.

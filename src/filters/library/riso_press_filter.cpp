@@ -31,7 +31,6 @@ public:
         block.setFloat("u_inkDensity"_L1, request.percent(u"inkDensity"_s, 65.0));
         block.setFloat("u_grain"_L1, request.percent(u"grain"_s, 50.0));
         block.setFloat("u_seed"_L1, request.number(u"seed"_s, 1.0));
-        block.setFloat("u_renderScale"_L1, request.renderScale());
         return request.singlePass(block);
     }
 };

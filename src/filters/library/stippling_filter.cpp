@@ -30,7 +30,6 @@ public:
         block.setColor("u_paperColor"_L1, request.parameters.color(u"paperColor"_s, QColor(0xf7, 0xf3, 0xe9)));
         block.setFloat("u_paperTexture"_L1, request.percent(u"paperTexture"_s, 35.0));
         block.setFloat("u_seed"_L1, request.number(u"seed"_s, 1.0));
-        block.setFloat("u_renderScale"_L1, request.renderScale());
 
         PassChain chain;
         const PassChain::Picture input = chain.source(request.image);
