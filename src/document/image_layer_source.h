@@ -1,9 +1,12 @@
 #pragma once
 
+#include "document/picture_encodings.h"
+
 #include <QByteArray>
 #include <QImage>
 #include <QSizeF>
 
+#include <memory>
 #include <optional>
 #include <variant>
 
@@ -13,6 +16,8 @@ namespace zm {
 struct RasterImageSource
 {
     QImage image;
+    /// What document files hold for these pixels; of no account when sources are compared.
+    std::shared_ptr<PictureEncodings> encodings = std::make_shared<PictureEncodings>();
 };
 
 /// The whole text of an SVG file and the logical size it is drawn at, each side at least 1.

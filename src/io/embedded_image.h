@@ -1,0 +1,32 @@
+#pragma once
+
+#include "document/image_layer_source.h"
+#include "io/file_error.h"
+
+#include <QByteArrayView>
+
+namespace zm {
+
+/// The longest side that a WebP file can have, pixels.
+inline constexpr int kMaximumWebpSide = 16'383;
+
+/// True for a picture that a WebP file can hold.
+bool fitsWebp(const QSize &size);
+
+/// A whole WebP file of the picture. Lossless files keep the colour under transparent pixels. Fails for the raw mode
+/// and for a picture that does not fit.
+std::optional<QByteArray> encodeWebp(const QImage &image, EmbeddedImageMode mode, FileError &error);
+/// Pixels in QImage::Format_RGBA8888, as stored: no orientation is applied. Fails unless the file has the expected
+/// size, if that is valid.
+std::optional<QImage> decodeWebp(QByteArrayView file, const QSize &expectedSize, FileError &error);
+
+/// The source's WebP file in a mode: the one that it has, else a new one, which the source keeps.
+std::optional<QByteArray> webpFile(const RasterImageSource &source, EmbeddedImageMode mode, FileError &error);
+/// A source of a WebP file, which it keeps for being saved in the mode that the file was made in.
+std::optional<RasterImageSource> sourceFromWebp(QByteArrayView file, const QSize &expectedSize, FileError &error);
+
+/// Rows from top to bottom without padding, RGBA with straight alpha.
+std::optional<QByteArray> encodeRawRgba(const QImage &image, FileError &error);
+std::optional<QImage> decodeRawRgba(QByteArrayView bytes, const QSize &size, FileError &error);
+
+} // namespace zm

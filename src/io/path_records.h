@@ -1,0 +1,13 @@
+#pragma once
+
+#include "document/editable_path.h"
+#include "io/record_fields.h"
+
+namespace zm {
+
+std::optional<QByteArray> encodePath(const EditablePath &path, FileError &error);
+
+/// All of the bytes have to be the path.
+std::optional<EditablePath> decodePath(QByteArrayView record, FileError &error);
+
+} // namespace zm
