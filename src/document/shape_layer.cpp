@@ -1,6 +1,7 @@
 #include "document/shape_layer.h"
 
 #include "base/fuzzy.h"
+#include "base/pixel_limits.h"
 #include "base/sanitize.h"
 #include "document/valid_color.h"
 #include "generators/outline_stroke.h"
@@ -10,6 +11,7 @@
 #include <QSet>
 
 #include <algorithm>
+#include <cmath>
 
 namespace zm {
 
@@ -19,6 +21,16 @@ namespace {
 constexpr double kMaximumSide = 1'000'000.0;
 constexpr qsizetype kMaximumContours = 1'000'000;
 constexpr qsizetype kMaximumNodes = 1'000'000;
+
+/// A box of more pixels than a raster may have could be neither drawn nor saved: it is reduced in proportion.
+QSizeF cleanBox(const QSizeF &size)
+{
+    const QSizeF box = sizeOfAtLeastOne(size).boundedTo({kMaximumSide, kMaximumSide});
+    if (isAllocatableRasterSize(coveringPixels(box)))
+        return box;
+    const double factor = std::sqrt(double(kMaximumRasterPixels) / (box.width() * box.height()));
+    return {std::floor(box.width() * factor), std::floor(box.height() * factor)};
+}
 
 bool hasFinitePoints(const EditablePathNode &node)
 {
@@ -105,8 +117,7 @@ ShapeGeometry cleanGeometry(const ShapeGeometry &geometry)
 
 SizedShapeGeometry cleanGeometry(const SizedShapeGeometry &geometry)
 {
-    const QSizeF largest(kMaximumSide, kMaximumSide);
-    return {cleanGeometry(geometry.geometry), sizeOfAtLeastOne(geometry.size).boundedTo(largest)};
+    return {cleanGeometry(geometry.geometry), cleanBox(geometry.size)};
 }
 
 Stroke cleanStroke(const Stroke &stroke)

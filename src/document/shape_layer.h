@@ -32,7 +32,8 @@ struct SizedShapeGeometry
 /// The geometry as a layer keeps it: of a path, every coordinate finite, types known, ids present and unique, and no
 /// more contours and nodes than a document can hold.
 ShapeGeometry cleanGeometry(const ShapeGeometry &geometry);
-/// The same, with each side at least 1 and at most what a document can hold; one that is not finite becomes 1.
+/// The same, with each side at least 1 and at most what a document can hold; one that is not finite becomes 1. A box of
+/// more pixels than a raster may have is reduced to as many, in proportion.
 SizedShapeGeometry cleanGeometry(const SizedShapeGeometry &geometry);
 
 /// A width that is not finite or negative becomes 0, an absurd one that of the largest box; an invalid colour of a
@@ -51,8 +52,7 @@ public:
                const QString &name, const QUuid &id = {});
 
     LayerType layerType() const override { return LayerType::Shape; }
-    /// The filled and stroked outline. Nothing is drawn for a generator that is not known, and the image is null for a
-    /// box beyond what a raster may have.
+    /// The filled and stroked outline. Nothing is drawn for a generator that is not known.
     RenderedContent renderContent(const RenderServices *services) const override;
 
     const ShapeGeometry &geometry() const { return m_shape.geometry; }
