@@ -1,5 +1,7 @@
 #include "io/software_tag.h"
 
+#include "io/webp_container.h"
+
 #include <QtEndian>
 
 #include <optional>
@@ -26,11 +28,6 @@ void append32(QByteArray &bytes, quint32 value)
 {
     value = qToLittleEndian(value);
     bytes.append(reinterpret_cast<const char *>(&value), 4);
-}
-
-quint32 little24(const char *bytes)
-{
-    return qFromLittleEndian<quint16>(bytes) | quint32(quint8(bytes[2])) << 16;
 }
 
 QByteArray printableAscii(const QString &text)
@@ -110,60 +107,22 @@ bool tagJpeg(QByteArray &file, const QByteArray &block)
     return true;
 }
 
-struct WebpChunk
-{
-    QByteArrayView tag;
-    QByteArrayView payload;
-    /// Header, payload and pad byte.
-    QByteArrayView whole;
-};
-
-std::optional<QList<WebpChunk>> webpChunks(const QByteArray &file)
+std::optional<QList<WebpChunk>> webpChunks(QByteArrayView file)
 {
     QList<WebpChunk> chunks;
-    for (QByteArrayView rest = QByteArrayView(file).sliced(12); !rest.isEmpty();) {
-        if (rest.size() < 8)
+    for (ByteReader rest(file.sliced(kWebpHeaderSize)); !rest.atEnd();) {
+        const std::optional<WebpChunk> chunk = takeWebpChunk(rest);
+        if (!chunk)
             return std::nullopt;
-        const qint64 size = qFromLittleEndian<quint32>(rest.data() + 4);
-        const qint64 padded = 8 + size + (size & 1);
-        if (padded > rest.size())
-            return std::nullopt;
-        chunks.append({rest.first(4), rest.sliced(8, size), rest.first(padded)});
-        rest = rest.sliced(padded);
+        chunks.append(*chunk);
     }
     return chunks;
-}
-
-struct WebpCanvas
-{
-    quint32 widthMinusOne;
-    quint32 heightMinusOne;
-};
-
-/// The canvas size from the chunk that tells it; nothing for a chunk of another kind or one that is malformed.
-std::optional<WebpCanvas> canvasOf(const WebpChunk &chunk)
-{
-    const char *data = chunk.payload.data();
-    if (chunk.tag == "VP8X" && chunk.payload.size() == 10)
-        return WebpCanvas{little24(data + 4), little24(data + 7)};
-    if (chunk.tag == "VP8 " && chunk.payload.size() >= 10 && chunk.payload.sliced(3).startsWith("\x9D\x01\x2A")) {
-        const quint32 width = qFromLittleEndian<quint16>(data + 6) & 0x3FFF;
-        const quint32 height = qFromLittleEndian<quint16>(data + 8) & 0x3FFF;
-        if (width > 0 && height > 0)
-            return WebpCanvas{width - 1, height - 1};
-    }
-    if (chunk.tag == "VP8L" && chunk.payload.size() >= 5 && data[0] == 0x2F) {
-        const quint32 bits = qFromLittleEndian<quint32>(data + 1);
-        return WebpCanvas{bits & 0x3FFF, (bits >> 14) & 0x3FFF};
-    }
-    return std::nullopt;
 }
 
 bool tagWebp(QByteArray &file, const QByteArray &block)
 {
     constexpr quint8 exifFlag = 8;
-    if (file.size() < 12 || !file.startsWith("RIFF") || QByteArrayView(file).sliced(8, 4) != "WEBP"
-        || qFromLittleEndian<quint32>(file.constData() + 4) != quint64(file.size() - 8))
+    if (!isWholeWebp(file))
         return false;
     const std::optional<QList<WebpChunk>> chunks = webpChunks(file);
     if (!chunks)
@@ -171,7 +130,7 @@ bool tagWebp(QByteArray &file, const QByteArray &block)
 
     quint8 flags = exifFlag;
     bool hasExtendedHeader = false;
-    std::optional<WebpCanvas> canvas;
+    std::optional<QSize> canvas;
     for (const WebpChunk &chunk : *chunks) {
         if (chunk.tag == "ALPH" || chunk.tag == "VP8L")
             flags |= 16;
@@ -183,7 +142,7 @@ bool tagWebp(QByteArray &file, const QByteArray &block)
             flags |= 2;
         const bool extended = chunk.tag == "VP8X";
         hasExtendedHeader |= extended;
-        const std::optional<WebpCanvas> told = canvasOf(chunk);
+        const std::optional<QSize> told = canvasOf(chunk);
         if (extended && !told)
             return false;
         if (told && (extended || !canvas))
@@ -198,8 +157,8 @@ bool tagWebp(QByteArray &file, const QByteArray &block)
         tagged.append("VP8X");
         append32(tagged, 10);
         append32(tagged, flags);
-        append24(tagged, canvas->widthMinusOne);
-        append24(tagged, canvas->heightMinusOne);
+        append24(tagged, quint32(canvas->width() - 1));
+        append24(tagged, quint32(canvas->height() - 1));
     }
     for (const WebpChunk &chunk : *chunks) {
         if (chunk.tag == "EXIF")
