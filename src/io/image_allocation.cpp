@@ -10,7 +10,10 @@ void raiseImageAllocationLimit()
 {
     constexpr qint64 bytesOfDeepPixel = 2 * kBytesPerPixel;
     constexpr qint64 bytesPerMebibyte = 1024 * 1024;
-    QImageReader::setAllocationLimit(int(kMaximumRasterPixels * bytesOfDeepPixel / bytesPerMebibyte) + 1);
+    constexpr int needed = int(kMaximumRasterPixels * bytesOfDeepPixel / bytesPerMebibyte) + 1;
+    const int present = QImageReader::allocationLimit();
+    if (present != 0 && present < needed) // 0 is no limit
+        QImageReader::setAllocationLimit(needed);
 }
 
 } // namespace zm
