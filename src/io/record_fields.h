@@ -47,6 +47,16 @@ inline QPointF pointAt(QByteArrayView record, qsizetype offset)
     return {f64At(record, offset), f64At(record, offset + 8)};
 }
 
+/// An enumerator that is stored as its value plus the first code. Nothing for a code beyond first and last.
+template<typename Enum>
+std::optional<Enum> enumAt(QByteArrayView record, qsizetype offset, quint32 first, quint32 last)
+{
+    const quint32 code = u32At(record, offset);
+    if (code < first || code > last)
+        return std::nullopt;
+    return Enum(code - first);
+}
+
 /// Fails for a component that is not within 0..1.
 std::optional<QColor> colorAt(QByteArrayView record, qsizetype offset, FileError &error);
 /// Fails for a null id.
