@@ -2,6 +2,7 @@
 
 #include "document/scene_renderer.h"
 #include "io/covering_image.h"
+#include "io/save_target.h"
 #include "io/software_tag.h"
 
 #include <QBuffer>
@@ -198,9 +199,7 @@ bool writeExportedImage(const QString &path, const QByteArray &bytes, QString *e
         *error = exportText(QT_TRANSLATE_NOOP("zm::ExportController", "Could not save the image: %1")).arg(reason);
         return false;
     };
-    // A save file takes the place of its target, which must not happen to a device or a pipe.
-    const QFileInfo target(path);
-    if (target.exists() && !target.isFile() && !target.isDir())
+    if (!mayBeReplaced(path))
         return fail(exportText(QT_TRANSLATE_NOOP("zm::ExportController", "The target is not a regular file.")));
     QSaveFile file(path);
     if (file.open(QIODevice::WriteOnly) && file.write(bytes) == bytes.size() && file.commit())
