@@ -43,16 +43,16 @@ SceneObject *Document::objectAt(qsizetype index) const
 
 qsizetype Document::indexOf(const QUuid &id) const
 {
-    if (id.isNull())
+    if (!m_objectsById.contains(id))
         return -1;
     const auto found = std::find_if(m_objects.cbegin(), m_objects.cend(),
                                     [&id](const std::unique_ptr<SceneObject> &object) { return object->id() == id; });
-    return found == m_objects.cend() ? -1 : found - m_objects.cbegin();
+    return found - m_objects.cbegin();
 }
 
 SceneObject *Document::object(const QUuid &id) const
 {
-    return objectAt(indexOf(id));
+    return m_objectsById.value(id);
 }
 
 Layer *Document::layer(const QUuid &id) const
@@ -77,7 +77,7 @@ TextLayer *Document::textLayer(const QUuid &id) const
 
 SceneObject *Document::insertObject(std::unique_ptr<SceneObject> object, qsizetype index)
 {
-    if (!object || indexOf(object->id()) >= 0)
+    if (!object || m_objectsById.contains(object->id()))
         return nullptr;
     const qsizetype position = index == -1 ? objectCount() : index;
     if (position < 0 || position > objectCount())
@@ -86,6 +86,7 @@ SceneObject *Document::insertObject(std::unique_ptr<SceneObject> object, qsizety
     const QUuid id = inserted->id();
     emit objectAboutToBeInserted(position, id);
     m_objects.insert(m_objects.begin() + position, std::move(object));
+    m_objectsById.insert(id, inserted);
     emit objectInserted(position, id);
     return inserted;
 }
@@ -102,6 +103,7 @@ std::unique_ptr<SceneObject> Document::takeObject(const QUuid &id, qsizetype *in
         setSelectedObjectId({});
     std::unique_ptr<SceneObject> taken = std::move(m_objects[size_t(position)]);
     m_objects.erase(m_objects.begin() + position);
+    m_objectsById.remove(takenId);
     if (index)
         *index = position;
     emit objectRemoved(position, takenId);

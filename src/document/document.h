@@ -5,6 +5,7 @@
 #include "document/text_layer.h"
 
 #include <QColor>
+#include <QHash>
 #include <QObject>
 #include <QRectF>
 
@@ -107,6 +108,7 @@ private:
     void setSelectedObjectId(const QUuid &id);
 
     std::vector<std::unique_ptr<SceneObject>> m_objects;
+    QHash<QUuid, SceneObject *> m_objectsById;
     QUuid m_selectedObjectId;
     QSizeF m_size{800.0, 600.0};
     QColor m_backgroundColor = Qt::white;
