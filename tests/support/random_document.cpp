@@ -27,9 +27,12 @@ public:
     double number(double lowest, double highest)
     {
         switch (below(12)) {
-        case 0: return lowest;
-        case 1: return highest;
-        default: return lowest + (highest - lowest) * m_random.generateDouble();
+        case 0:
+            return lowest;
+        case 1:
+            return highest;
+        default:
+            return lowest + (highest - lowest) * m_random.generateDouble();
         }
     }
     QPointF point(double lowest, double highest)
@@ -43,7 +46,7 @@ public:
         m_random.fillRange(words);
         return QUuid::fromRfc4122(QByteArrayView(reinterpret_cast<const char *>(words), 16));
     }
-    QColor color() { return QColor::fromRgba64(m_random.generate64()); }
+    QColor color() { return QColor::fromRgba64(QRgba64::fromRgba64(m_random.generate64())); }
     QString text(int longest)
     {
         static const QStringList pieces{u"a"_s, u"Zoë "_s, u"漢字"_s, u"\U0001F600"_s, u"שלום"_s, u"&<\"%1"_s, u" "_s};
@@ -66,21 +69,32 @@ private:
 ParameterValue parameterValue(Dice &dice)
 {
     switch (dice.below(12)) {
-    case 0: return dice.coin();
-    case 1: return qint64(dice.number(-1e15, 1e15));
-    case 2: return dice.number(-1e300, 1e300);
-    case 3: return dice.color();
-    case 4: return dice.text(9);
-    case 5: return AssetName{u"leaf.png"_s};
-    case 6: return EnabledColor{dice.coin(), dice.color()};
-    case 7: return Stroke{dice.color(), dice.number(0.0, 50.0)};
+    case 0:
+        return dice.coin();
+    case 1:
+        return qint64(dice.number(-1e15, 1e15));
+    case 2:
+        return dice.number(-1e300, 1e300);
+    case 3:
+        return dice.color();
+    case 4:
+        return dice.text(9);
+    case 5:
+        return AssetName{u"leaf.png"_s};
+    case 6:
+        return EnabledColor{dice.coin(), dice.color()};
+    case 7:
+        return Stroke{dice.color(), dice.number(0.0, 50.0)};
     case 8:
         return GradientPosition{dice.number(-1, 2), dice.number(-1, 2), dice.number(-1, 2), dice.number(-1, 2)};
     case 9:
-        return MaskTransform{dice.number(-1, 2),    dice.number(-1, 2), dice.number(-3, 3), dice.number(-3, 3),
-                             dice.number(-360, 360), dice.number(0, 1), dice.number(0, 1),
-                             dice.oneOf({MaskTransform::Mode::Free, MaskTransform::Mode::Uniform})};
-    case 10: return ShapeMask{u"star5"_s};
+        return MaskTransform{
+            dice.number(-1, 2),     dice.number(-1, 2),
+            dice.number(-3, 3),     dice.number(-3, 3),
+            dice.number(-360, 360), dice.number(0, 1),
+            dice.number(0, 1),      dice.oneOf({MaskTransform::Mode::Free, MaskTransform::Mode::Uniform})};
+    case 10:
+        return ShapeMask{u"star5"_s};
     default: {
         LightSources lights;
         for (int i = dice.below(3); i > 0; --i) {
@@ -133,10 +147,11 @@ EditablePath path(Dice &dice, double side)
 Fill fill(Dice &dice)
 {
     switch (dice.below(3)) {
-    case 0: return dice.color();
+    case 0:
+        return dice.color();
     case 1: {
-        GradientFill gradient{dice.oneOf({GradientType::Linear, GradientType::Radial}), dice.point(-1, 2),
-                              dice.point(-1, 2), {}};
+        GradientFill gradient{
+            dice.oneOf({GradientType::Linear, GradientType::Radial}), dice.point(-1, 2), dice.point(-1, 2), {}};
         for (int i = 2 + dice.below(4); i > 0; --i)
             gradient.stops.append({dice.number(0.0, 1.0), dice.color()});
         return gradient;
@@ -247,8 +262,12 @@ std::unique_ptr<Layer> randomLayer(QRandomGenerator &random)
     std::unique_ptr<Layer> layer;
     const QString name = dice.text(5);
     switch (dice.below(3)) {
-    case 0: layer = imageLayer(dice, name); break;
-    case 1: layer = shapeLayer(dice, name); break;
+    case 0:
+        layer = imageLayer(dice, name);
+        break;
+    case 1:
+        layer = shapeLayer(dice, name);
+        break;
     default: {
         const TextLayerState state = text(dice);
         layer = std::make_unique<TextLayer>(state.blocks, state.textWidth, name, dice.id());
@@ -327,8 +346,8 @@ QString difference(const Document &a, const Document &b)
     if (!fields.difference().isEmpty())
         return fields.difference();
     for (qsizetype i = 0; i < a.objectCount(); ++i) {
-        const QString found = difference(static_cast<const Layer &>(*a.objectAt(i)),
-                                         static_cast<const Layer &>(*b.objectAt(i)));
+        const QString found =
+            difference(static_cast<const Layer &>(*a.objectAt(i)), static_cast<const Layer &>(*b.objectAt(i)));
         if (!found.isEmpty())
             return u"layer %1: %2"_s.arg(i).arg(found);
     }
