@@ -24,6 +24,13 @@ if(CMAKE_CXX_COMPILER_ID STREQUAL "GNU")
     # ccache needs the directives of a precompiled header in the preprocessed text.
     target_compile_options(zelmora_settings INTERFACE -fpch-preprocess)
 endif()
+option(ZELMORA_FUZZ "Build the fuzz targets; needs clang with libFuzzer" OFF)
+if(ZELMORA_FUZZ)
+    target_compile_options(zelmora_settings INTERFACE
+        -fsanitize=fuzzer-no-link,address,undefined -fno-sanitize-recover=all -fno-omit-frame-pointer)
+    target_compile_definitions(zelmora_settings INTERFACE QT_FORCE_ASSERTS)
+    target_link_options(zelmora_settings INTERFACE -fsanitize=address,undefined)
+endif()
 if(ZELMORA_SANITIZE)
     target_compile_options(zelmora_settings INTERFACE -fsanitize=address,undefined -fno-omit-frame-pointer)
     target_link_options(zelmora_settings INTERFACE -fsanitize=address,undefined)
