@@ -97,6 +97,26 @@ private:
     bool m_noHevcCodec;
 };
 
+/// The way of every picture file as far as both kinds share it: what is then wanted of an SVG or of a raster that
+/// passed its checks is the caller's.
+template<typename TakeSvg, typename TakeRaster>
+ImageImportError readPictureFile(const QString &path, bool noHevcCodec, TakeSvg takeSvg, TakeRaster takeRaster)
+{
+    const QFileInfo info(path);
+    if (!info.isFile())
+        return ImageImportError::NotAFile;
+    if (hasSvgSuffix(info)) {
+        SvgImageSource svg;
+        const ImageImportError error = readSvg(info, &svg);
+        if (error == ImageImportError::None)
+            takeSvg(std::move(svg));
+        return error;
+    }
+    RasterFile file(info, noHevcCodec);
+    const ImageImportError error = file.check();
+    return error == ImageImportError::None ? takeRaster(file) : error;
+}
+
 } // namespace
 
 QString importErrorText(ImageImportError error)
@@ -129,18 +149,10 @@ QString importErrorText(ImageImportError error)
 
 DecodedPicture decodePicture(const QString &path, bool noHevcCodec)
 {
-    const QFileInfo info(path);
-    if (!info.isFile())
-        return {{}, ImageImportError::NotAFile};
     DecodedPicture picture;
-    if (hasSvgSuffix(info)) {
-        picture.error = readSvg(info, &picture.source.emplace<SvgImageSource>());
-    } else {
-        RasterFile file(info, noHevcCodec);
-        picture.error = file.check();
-        if (picture.error == ImageImportError::None)
-            picture.error = file.decode(&picture.source.emplace<RasterImageSource>().image);
-    }
+    picture.error = readPictureFile(
+        path, noHevcCodec, [&picture](SvgImageSource svg) { picture.source = std::move(svg); },
+        [&picture](RasterFile &file) { return file.decode(&picture.source.emplace<RasterImageSource>().image); });
     if (picture.error == ImageImportError::None && logicalSize(picture.source).isEmpty())
         picture.error = ImageImportError::EmptySize;
     return picture;
@@ -166,25 +178,19 @@ ImageImportResult importImageLayer(const QString &path, bool noHevcCodec)
 
 std::optional<ImageFileHeader> readImageFileHeader(const QString &path, ImageImportError *error)
 {
-    const QFileInfo info(path);
-    *error = ImageImportError::NotAFile;
-    if (!info.isFile())
-        return std::nullopt;
-    ImageFileHeader header{imageLayerName(path), hasSvgSuffix(info), {}};
-    if (header.svg) {
-        SvgImageSource svg;
-        *error = readSvg(info, &svg);
+    ImageFileHeader header{imageLayerName(path), false, {}};
+    const auto takeSvg = [&header](const SvgImageSource &svg) {
+        header.svg = true;
         header.size = svg.size;
-    } else {
-        RasterFile file(info, false);
-        *error = file.check();
-        header.size = file.orientedSize();
-        if (*error == ImageImportError::None && !header.size.isValid()) {
-            QImage image;
-            *error = file.decode(&image);
-            header.size = image.size();
-        }
-    }
+    };
+    const auto takeRaster = [&header](RasterFile &file) {
+        QImage image;
+        const QSize size = file.orientedSize();
+        const ImageImportError failure = size.isValid() ? ImageImportError::None : file.decode(&image);
+        header.size = size.isValid() ? size : image.size();
+        return failure;
+    };
+    *error = readPictureFile(path, false, takeSvg, takeRaster);
     if (*error != ImageImportError::None)
         return std::nullopt;
     return header;
@@ -199,7 +205,9 @@ ImageImportError replaceWithImage(Document &document, std::unique_ptr<ImageLayer
     const QUuid id = layer->id();
     std::vector<std::unique_ptr<SceneObject>> objects;
     objects.push_back(std::move(layer));
-    if (!document.replaceContents(size, Qt::white, std::move(objects)))
+    // An SVG without a width and a height may be of a fractional size, which a document's file cannot hold: the
+    // document is rounded up to whole units, and the layer keeps its size in the middle of it.
+    if (!document.replaceContents(coveringPixels(size), Qt::white, std::move(objects)))
         return ImageImportError::DocumentRefused;
     document.selectObject(id);
     return ImageImportError::None;

@@ -64,8 +64,8 @@ ImageImportResult importImageLayer(const QString &path, bool noHevcCodec = false
 /// tell its size is decoded.
 std::optional<ImageFileHeader> readImageFileHeader(const QString &path, ImageImportError *error);
 
-/// Makes the layer the only content of the document, on white, framed exactly, and selects it. On a failure the
-/// document is untouched.
+/// Makes the layer the only content of the document, on white, framed exactly, and selects it; the document's sides are
+/// whole units. On a failure the document is untouched.
 ImageImportError replaceWithImage(Document &document, std::unique_ptr<ImageLayer> layer);
 
 /// The placement that puts the middle of a layer's mapped rectangle on the document's centre.

@@ -85,6 +85,10 @@ private slots:
             {u"16 bits a channel.png"_s, deep, u"16 bits a channel"_s, size},
             {u"palette.png"_s, palette, u"palette"_s, size},
             {u"x.SvG"_s, kSvg, u"x"_s, {40, 30}},
+            {u"fraction.svg"_s,
+             R"(<svg xmlns="http://www.w3.org/2000/svg" viewBox="0 0 20.5 9.25"/>)",
+             u"fraction"_s,
+             {20.5, 9.25}},
             {u"quarter turn.jpg"_s, orientedJpeg(picture, 6), u"quarter turn"_s, {20, 31}},
             {u"data behind the end.jpg"_s, jpeg + QByteArray(99, 'x'), u"data behind the end"_s, size},
         };
@@ -106,10 +110,11 @@ private slots:
 
             Document document;
             QCOMPARE(replaceWithImage(document, std::move(result.layer)), ImageImportError::None);
-            QCOMPARE(document.size(), layerSize);
+            QCOMPARE(document.size(), QSizeF(std::ceil(layerSize.width()), std::ceil(layerSize.height())));
             const QRectF local(QPointF(), layerSize);
             const SceneObject *layer = document.selectedObject();
-            QVERIFY(layer && layer->transform().matrix(local).mapRect(local) == document.documentRect());
+            const QRectF framed = QRectF(QPointF(), layerSize).translated(-local.center());
+            QVERIFY(layer && layer->transform().matrix(local).mapRect(local) == framed);
         }
         // 6: the first row of the file is the right side of the picture, so what is left goes to the top.
         const auto turned = importImageLayer(write(u"x.jpg"_s, orientedJpeg(picture, 6)));
