@@ -8,6 +8,7 @@
 #include <QBuffer>
 #include <QCoreApplication>
 #include <QFileInfo>
+#include <QImageReader>
 #include <QImageWriter>
 #include <QSaveFile>
 
@@ -55,10 +56,42 @@ QImage renderFlattened(const SceneSnapshot &snapshot, const ExportSettings &sett
                                    : renderSceneRegion(snapshot, rectangle, scale);
 }
 
-ExportResult encode(const QImage &image, const ExportFormat &format, int quality)
+/// Memory that takes no more bytes once the export is cancelled, which ends the writer in the middle of a picture.
+class EncodingBuffer : public QBuffer
+{
+public:
+    EncodingBuffer(QByteArray *bytes, const std::atomic_bool *cancelled)
+        : QBuffer(bytes)
+        , m_cancelled(cancelled)
+    {
+    }
+
+protected:
+    qint64 writeData(const char *data, qint64 size) override
+    {
+        return m_cancelled && m_cancelled->load() ? -1 : QBuffer::writeData(data, size);
+    }
+
+private:
+    const std::atomic_bool *m_cancelled;
+};
+
+/// For whom a picture is made, which tells in the words of a failure.
+enum class Purpose { Save, Preview };
+
+QString encodingFailure(Purpose purpose, const QString &reason)
+{
+    const char *pattern = purpose == Purpose::Preview
+        ? QT_TRANSLATE_NOOP("zm::ExportController", "Could not encode the preview: %1")
+        : QT_TRANSLATE_NOOP("zm::ExportController", "Could not encode the saved image: %1");
+    return exportText(pattern).arg(reason);
+}
+
+ExportResult encode(const QImage &image, const ExportFormat &format, int quality, Purpose purpose,
+                    const std::atomic_bool *cancelled)
 {
     ExportResult result;
-    QBuffer buffer(&result.bytes);
+    EncodingBuffer buffer(&result.bytes, cancelled);
     if (!buffer.open(QIODevice::WriteOnly))
         return {{},
                 exportText(QT_TRANSLATE_NOOP("zm::ExportController", "Could not create the in-memory image buffer."))};
@@ -67,13 +100,57 @@ ExportResult encode(const QImage &image, const ExportFormat &format, int quality
         writer.setCompression(100);
     else
         writer.setQuality(std::clamp(quality, 0, 100));
-    if (!writer.write(image)) {
-        return {{},
-                exportText(QT_TRANSLATE_NOOP("zm::ExportController", "Could not encode the saved image: %1"))
-                    .arg(writer.errorString())};
-    }
+    const bool written = writer.write(image);
+    if (cancelled && cancelled->load())
+        return {{}, {}, true};
+    if (!written)
+        return {{}, encodingFailure(purpose, writer.errorString())};
     embedSoftwareTag(result.bytes, format.writerFormat, u"Zelmora Atelier"_s);
     return result;
+}
+
+ExportResult renderAndEncode(const SceneSnapshot &snapshot, const ExportSettings &settings, Purpose purpose,
+                             const std::atomic_bool *cancelled)
+{
+    const auto isCancelled = [cancelled] { return cancelled && cancelled->load(); };
+    const ExportResult stopped{{}, {}, true};
+    const ExportFormat format = exportFormat(settings.formatKey);
+
+    if (isCancelled())
+        return stopped;
+    SceneSnapshot scene = snapshot;
+    if (format.transparent)
+        scene.backgroundColor.setAlpha(0);
+    QImage image = renderFlattened(scene, settings, exportRectangle(scene, settings.clipToDocument));
+    if (image.isNull())
+        return {{}, exportText(QT_TRANSLATE_NOOP("zm::ExportController", "Could not render the image."))};
+    if (isCancelled())
+        return stopped;
+    if (image.size() != settings.size)
+        image = image.scaled(settings.size, Qt::IgnoreAspectRatio, Qt::SmoothTransformation);
+    if (isCancelled())
+        return stopped;
+    // Alpha is dropped, and its colour kept, where the format does not ask for it.
+    if (!format.transparent)
+        image = pixelsReadAs(image, QImage::Format_RGBX8888);
+    return encode(image, format, settings.quality, purpose, cancelled);
+}
+
+QImage decodeAgain(QByteArray &bytes, const QByteArray &format, QString *error)
+{
+    QBuffer buffer(&bytes);
+    if (!buffer.open(QIODevice::ReadOnly)) {
+        *error = exportText(QT_TRANSLATE_NOOP("zm::ExportController", "Could not reopen the in-memory image buffer."));
+        return {};
+    }
+    QImageReader reader(&buffer, format);
+    reader.setAutoTransform(false);
+    const QImage image = reader.read();
+    if (image.isNull()) {
+        *error = exportText(QT_TRANSLATE_NOOP("zm::ExportController", "Could not decode the encoded preview: %1"))
+                     .arg(reader.errorString());
+    }
+    return image;
 }
 
 } // namespace
@@ -157,29 +234,20 @@ QSize exportSizeForHeight(const QRectF &rectangle, int height, int maximumSide)
 ExportResult exportImage(const SceneSnapshot &snapshot, const ExportSettings &settings,
                          const std::atomic_bool *cancelled)
 {
-    const auto isCancelled = [cancelled] { return cancelled && cancelled->load(); };
-    const ExportResult stopped{{}, {}, true};
-    const ExportFormat format = exportFormat(settings.formatKey);
+    return renderAndEncode(snapshot, settings, Purpose::Save, cancelled);
+}
 
-    if (isCancelled())
-        return stopped;
-    SceneSnapshot scene = snapshot;
-    if (format.transparent)
-        scene.backgroundColor.setAlpha(0);
-    QImage image = renderFlattened(scene, settings, exportRectangle(scene, settings.clipToDocument));
-    if (image.isNull())
-        return {{}, exportText(QT_TRANSLATE_NOOP("zm::ExportController", "Could not render the image."))};
-    if (isCancelled())
-        return stopped;
-    if (image.size() != settings.size)
-        image = image.scaled(settings.size, Qt::IgnoreAspectRatio, Qt::SmoothTransformation);
-    if (isCancelled())
-        return stopped;
-    // Alpha is dropped, and its colour kept, where the format does not ask for it.
-    if (!format.transparent)
-        image = pixelsReadAs(image, QImage::Format_RGBX8888);
-    ExportResult result = encode(image, format, settings.quality);
-    return isCancelled() ? stopped : result;
+PreviewResult exportPreview(const SceneSnapshot &snapshot, const ExportSettings &settings,
+                            const std::atomic_bool *cancelled)
+{
+    PreviewResult result;
+    static_cast<ExportResult &>(result) = renderAndEncode(snapshot, settings, Purpose::Preview, cancelled);
+    if (result.bytes.isEmpty())
+        return result;
+    result.image = decodeAgain(result.bytes, exportFormat(settings.formatKey).writerFormat, &result.error);
+    if (result.image.isNull())
+        result.bytes.clear();
+    return result;
 }
 
 bool isExportedAsDecoded(const QImage &picture, const ExportSettings &settings)
@@ -190,23 +258,31 @@ bool isExportedAsDecoded(const QImage &picture, const ExportSettings &settings)
 
 ExportResult exportAsDecoded(const QImage &picture, const ExportSettings &settings)
 {
-    return encode(pixelsReadAs(picture, picture.format()), exportFormat(settings.formatKey), settings.quality);
+    return encode(pixelsReadAs(picture, picture.format()), exportFormat(settings.formatKey), settings.quality,
+                  Purpose::Save, nullptr);
+}
+
+bool writeWholeFile(const QString &path, const QByteArray &bytes, QString *reason)
+{
+    if (!mayBeReplaced(path)) {
+        *reason = exportText(QT_TRANSLATE_NOOP("zm::ExportController", "The target is not a regular file."));
+        return false;
+    }
+    QSaveFile file(path);
+    if (file.open(QIODevice::WriteOnly) && file.write(bytes) == bytes.size() && file.commit())
+        return true;
+    *reason = file.errorString();
+    file.cancelWriting();
+    return false;
 }
 
 bool writeExportedImage(const QString &path, const QByteArray &bytes, QString *error)
 {
-    const auto fail = [error](const QString &reason) {
-        *error = exportText(QT_TRANSLATE_NOOP("zm::ExportController", "Could not save the image: %1")).arg(reason);
-        return false;
-    };
-    if (!mayBeReplaced(path))
-        return fail(exportText(QT_TRANSLATE_NOOP("zm::ExportController", "The target is not a regular file.")));
-    QSaveFile file(path);
-    if (file.open(QIODevice::WriteOnly) && file.write(bytes) == bytes.size() && file.commit())
+    QString reason;
+    if (writeWholeFile(path, bytes, &reason))
         return true;
-    const QString reason = file.errorString();
-    file.cancelWriting();
-    return fail(reason);
+    *error = exportText(QT_TRANSLATE_NOOP("zm::ExportController", "Could not save the image: %1")).arg(reason);
+    return false;
 }
 
 } // namespace zm

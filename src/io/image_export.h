@@ -3,6 +3,7 @@
 #include "document/scene_snapshot.h"
 
 #include <QByteArray>
+#include <QImage>
 #include <QList>
 #include <QSize>
 #include <QString>
@@ -70,13 +71,28 @@ struct ExportResult
 ExportResult exportImage(const SceneSnapshot &snapshot, const ExportSettings &settings,
                          const std::atomic_bool *cancelled = nullptr);
 
+/// What a preview shows: the bytes as exportImage() gives them, and the picture that they decode to, with the losses of
+/// its format.
+struct PreviewResult : ExportResult
+{
+    QImage image;
+    /// Tells the asker which of its requests this answers.
+    quint64 sequence = 0;
+};
+
+/// The same, decoded again. The bytes are those of the finished file.
+PreviewResult exportPreview(const SceneSnapshot &snapshot, const ExportSettings &settings,
+                            const std::atomic_bool *cancelled = nullptr);
+
 /// A document that is nothing but this decoded picture would export pixel for pixel as the picture: it is opaque, keeps
 /// its size, and no transparency is asked for.
 bool isExportedAsDecoded(const QImage &picture, const ExportSettings &settings);
 /// Exports such a picture without the way through a document's pixel format and back to the encoder's.
 ExportResult exportAsDecoded(const QImage &picture, const ExportSettings &settings);
 
-/// Puts the bytes into the file, all or nothing: a failure leaves what was there, and a sentence in error.
+/// Puts the bytes into the file, all or nothing: a failure leaves what was there, and its reason.
+bool writeWholeFile(const QString &path, const QByteArray &bytes, QString *reason);
+/// The same, with a sentence in error.
 bool writeExportedImage(const QString &path, const QByteArray &bytes, QString *error);
 
 } // namespace zm

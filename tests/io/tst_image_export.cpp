@@ -1,6 +1,7 @@
 #include "document/document.h"
 #include "document/scene_renderer.h"
 #include "io/covering_image.h"
+#include "io/file_names.h"
 #include "io/image_export.h"
 #include "io/image_import.h"
 #include "io/software_tag.h"
@@ -94,6 +95,31 @@ private slots:
         QVERIFY(!isShared([](SceneSnapshot &s) { s.items[0].transform.setScale({-1.0, 1.0}); }));
         QVERIFY(!isShared([](SceneSnapshot &s) { s.items[0].imageSize = {10.0, 5.0}; }));
         QVERIFY(!isShared([](SceneSnapshot &s) { s.items[0].image = QImage(); }));
+    }
+
+    void fileNamesFromOtherNames()
+    {
+        const std::pair<QString, QString> names[] = {
+            {u"  a: b\\c|d\t.  . "_s, u"a_ b_c_d_"_s},
+            {u"..."_s, u"zelmora"_s},
+            {u""_s, u"zelmora"_s},
+            {u".hidden"_s, u".hidden"_s},
+            {u"<>\"/?*"_s, u"______"_s},
+            {u"ä 🐟"_s, u"ä 🐟"_s},
+            {QString(119, u'x') + u"🐟"_s, QString(119, u'x')},
+            {QString(200, u'y'), QString(120, u'y')},
+        };
+        for (const auto &[name, clean] : names)
+            QCOMPARE(cleanFileName(name), clean);
+        const std::pair<QString, QString> pictures[] = {
+            {u"/a.b/c.d.jpg"_s, u"/a.b/c.d.zelmora"_s},
+            {u"/a/b"_s, u"/a/b.zelmora"_s},
+            {u"/a/.jpg"_s, {}},
+            {u"/a/"_s, {}},
+            {u"c.jpg"_s, QDir::current().filePath(u"c.zelmora"_s)},
+        };
+        for (const auto &[picture, document] : pictures)
+            QCOMPARE(sidecarPath(picture), document);
     }
 
     void exportAsDecodedWritesTheSameFile()
