@@ -3,6 +3,8 @@
 #include "application/runtime_flags.h"
 #include "commands/command_history.h"
 #include "document/document.h"
+#include "io/document_opening.h"
+#include "io/file_names.h"
 #include "io/image_import.h"
 
 #include <QDir>
@@ -22,6 +24,17 @@ bool isValidSide(double side)
     return side >= DocumentFileController::kMinimumDocumentSide && side <= DocumentFileController::kMaximumDocumentSide;
 }
 
+/// Empty for a URL that is not a local file.
+QString localPath(const QUrl &url)
+{
+    return url.isLocalFile() ? url.toLocalFile() : QString();
+}
+
+QUrl absoluteUrl(const QString &path)
+{
+    return QUrl::fromLocalFile(QFileInfo(path).absoluteFilePath());
+}
+
 } // namespace
 
 DocumentFileController::DocumentFileController(Document *document, CommandHistory *commandHistory, QObject *parent)
@@ -33,7 +46,10 @@ DocumentFileController::DocumentFileController(Document *document, CommandHistor
 
 QString DocumentFileController::displayName() const
 {
-    return m_pairedImageUrl.isEmpty() ? tr("Untitled") : displayFileName(m_pairedImageUrl);
+    if (m_documentUrl.isEmpty())
+        return m_pairedImageUrl.isEmpty() ? tr("Untitled") : displayFileName(m_pairedImageUrl);
+    const QString fileName = displayFileName(m_documentUrl);
+    return m_pairedImageUrl.isEmpty() ? fileName : tr("%1 (%2)").arg(fileName, displayPath(m_pairedImageUrl));
 }
 
 QString DocumentFileController::supportedImageFilePatterns() const
@@ -48,16 +64,62 @@ bool DocumentFileController::resetDocument(double width, double height, const QC
     const QColor color = backgroundColor.isValid() ? backgroundColor : QColor(Qt::white);
     if (!m_document->replaceContents(QSizeF(std::round(width), std::round(height)), color, {}))
         return fail(tr("Could not create a new document."));
-    finishReplacement({});
+    finishReplacement({}, {});
     return true;
 }
 
 bool DocumentFileController::load(const QUrl &url)
 {
-    const QString path = url.isLocalFile() ? url.toLocalFile() : QString();
+    const QString path = localPath(url);
     if (path.isEmpty())
         return fail(tr("Only local files are supported."));
-    return importImage(path);
+    if (hasDocumentSuffix(path))
+        return loadDocument(path, {});
+    const QString sidecar = QFileInfo(path).isFile() ? sidecarPath(path) : QString();
+    return QFileInfo(sidecar).isFile() ? loadDocument(sidecar, absoluteUrl(path)) : importImage(path);
+}
+
+bool DocumentFileController::loadDocument(const QString &path, const QUrl &pairedImageUrl)
+{
+    QString error;
+    std::optional<LoadedDocument> loaded = ZelmoraDocumentIO::readDocumentFile(path, &error);
+    if (!loaded)
+        return fail(error);
+    if (!replaceWithLoaded(*m_document, *std::move(loaded)))
+        return fail(tr("Could not replace the current document."));
+    finishReplacement(absoluteUrl(path), pairedImageUrl);
+    emit documentLoaded(m_documentUrl);
+    return true;
+}
+
+bool DocumentFileController::save()
+{
+    if (m_documentUrl.isEmpty())
+        return fail(tr("Choose a file name before saving the document."));
+    return saveAs(m_documentUrl);
+}
+
+bool DocumentFileController::saveAs(const QUrl &url)
+{
+    return saveTo(url, false);
+}
+
+bool DocumentFileController::saveTo(const QUrl &url, bool compressImages)
+{
+    QString path = localPath(url);
+    if (path.isEmpty())
+        return fail(tr("Only local files are supported."));
+    if (QFileInfo(path).suffix().isEmpty())
+        path += u'.' + kDocumentSuffix;
+    QString error;
+    if (!ZelmoraDocumentIO::writeDocumentFile(*m_document, path, compressImages, &error))
+        return fail(error);
+    m_commandHistory->setClean();
+    const QUrl savedUrl = absoluteUrl(path);
+    setUrls(savedUrl, savedUrl == m_documentUrl ? m_pairedImageUrl : QUrl());
+    setError({}, false);
+    emit documentSaved(savedUrl);
+    return true;
 }
 
 bool DocumentFileController::importImage(const QString &path)
@@ -70,27 +132,41 @@ bool DocumentFileController::importImage(const QString &path)
         error = replaceWithImage(*m_document, std::move(result.layer));
     if (error != ImageImportError::None)
         return fail(importErrorText(error), error == ImageImportError::HeifCodecMissing);
-    const QUrl pairedImageUrl =
-        isRaster && wasPristine ? QUrl::fromLocalFile(QFileInfo(path).absoluteFilePath()) : QUrl();
-    finishReplacement(pairedImageUrl);
+    finishReplacement({}, isRaster && wasPristine ? absoluteUrl(path) : QUrl());
     return true;
 }
 
 bool DocumentFileController::isPristine() const
 {
-    return m_pairedImageUrl.isEmpty() && m_document->objectCount() == 0 && m_commandHistory->isClean();
+    return m_documentUrl.isEmpty() && m_pairedImageUrl.isEmpty() && m_document->objectCount() == 0
+        && m_commandHistory->isClean();
 }
 
-void DocumentFileController::finishReplacement(const QUrl &pairedImageUrl)
+void DocumentFileController::finishReplacement(const QUrl &documentUrl, const QUrl &pairedImageUrl)
 {
     m_commandHistory->clear();
-    if (m_pairedImageUrl != pairedImageUrl) {
-        m_pairedImageUrl = pairedImageUrl;
-        emit pairedImageUrlChanged();
-        emit displayNameChanged();
-    }
+    setUrls(documentUrl, pairedImageUrl);
     setError({}, false);
     emit documentReplaced();
+}
+
+void DocumentFileController::setPairedImageUrl(const QUrl &url)
+{
+    setUrls(m_documentUrl, url);
+}
+
+void DocumentFileController::setUrls(const QUrl &documentUrl, const QUrl &pairedImageUrl)
+{
+    const bool movesDocument = m_documentUrl != documentUrl;
+    const bool movesImage = m_pairedImageUrl != pairedImageUrl;
+    m_documentUrl = documentUrl;
+    m_pairedImageUrl = pairedImageUrl;
+    if (movesDocument)
+        emit documentUrlChanged();
+    if (movesImage)
+        emit pairedImageUrlChanged();
+    if (movesDocument || movesImage)
+        emit displayNameChanged();
 }
 
 bool DocumentFileController::fail(const QString &message, bool offersHeifInstallHelp)

@@ -5,6 +5,7 @@
 #include "editor/document_file_controller.h"
 #include "support/pictures.h"
 
+#include <QDir>
 #include <QSignalSpy>
 #include <QTemporaryDir>
 #include <QTest>
@@ -24,11 +25,24 @@ struct Fixture
     QSignalSpy replaced{&controller, &DocumentFileController::documentReplaced};
     QSignalSpy named{&controller, &DocumentFileController::displayNameChanged};
     QSignalSpy errors{&controller, &DocumentFileController::lastErrorChanged};
+    QStringList files; // what was told of files, in order
 
     Fixture()
     {
         flags.setNoHevcCodec(true); // must leave every other format alone
         controller.setRuntimeFlags(&flags);
+        const auto note = [this](const QString &what) {
+            return [this, what](const QUrl &url) { files.append(what + u' ' + url.fileName()); };
+        };
+        QObject::connect(&controller, &DocumentFileController::documentLoaded, note(u"loaded"_s));
+        QObject::connect(&controller, &DocumentFileController::documentSaved, note(u"saved"_s));
+        QObject::connect(&controller, &DocumentFileController::documentReplaced,
+                         [this] { files.append(u"replaced"_s); });
+    }
+
+    void rename(const QString &name)
+    {
+        history.push(std::make_unique<RenameSceneObjectCommand>(&document, document.objectAt(0)->id(), name));
     }
 };
 
@@ -65,8 +79,8 @@ private slots:
 
         Fixture edited;
         auto added = std::make_unique<ImageLayer>(test::gradientPicture(4, 4), u"a"_s);
-        const auto *layer = edited.document.insertObject(std::move(added));
-        edited.history.push(std::make_unique<RenameSceneObjectCommand>(&edited.document, layer->id(), u"b"_s));
+        edited.document.insertObject(std::move(added));
+        edited.rename(u"b"_s);
         QVERIFY(edited.controller.load(url(u"photo.png"_s)));
         QVERIFY(edited.controller.pairedImageUrl().isEmpty());
         QVERIFY(edited.history.isClean() && !edited.history.canUndo());
@@ -75,6 +89,66 @@ private slots:
         QVERIFY(vector.controller.load(url(u"drawing.svg"_s)));
         QCOMPARE(vector.document.size(), QSizeF(40, 30));
         QVERIFY(vector.controller.pairedImageUrl().isEmpty());
+    }
+
+    void savingNamesTheDocumentAndKeepsItsPair()
+    {
+        Fixture fixture;
+        DocumentFileController &controller = fixture.controller;
+        QVERIFY(controller.load(url(u"photo.png"_s)));
+        fixture.rename(u"b"_s);
+        QVERIFY(!controller.save());
+        QCOMPARE(controller.lastError(), u"Choose a file name before saving the document."_s);
+        QVERIFY(controller.saveAs(url(u"a.b/../doc"_s)));
+        QCOMPARE(controller.documentUrl(), url(u"doc.zelmora"_s));
+        QVERIFY(controller.pairedImageUrl().isEmpty() && fixture.history.isClean());
+        QCOMPARE(controller.displayName(), u"doc.zelmora"_s);
+        controller.setPairedImageUrl(url(u"photo.png"_s));
+        QCOMPARE(controller.displayName(), u"doc.zelmora (%1)"_s.arg(m_folder.filePath(u"photo.png"_s)));
+        fixture.rename(u"c"_s);
+        QVERIFY(controller.save());
+        QCOMPARE(controller.pairedImageUrl(), url(u"photo.png"_s));
+
+        fixture.rename(u"d"_s);
+        QVERIFY(QDir(m_folder.path()).mkpath(u"taken.zelmora"_s));
+        for (const QUrl &target : {url(u"taken.zelmora"_s), QUrl(u"https://example.org/a.zelmora"_s)}) {
+            QVERIFY(!controller.saveAs(target));
+            QVERIFY(!controller.lastError().isEmpty() && !fixture.history.isClean());
+            QCOMPARE(controller.documentUrl(), url(u"doc.zelmora"_s));
+        }
+        QVERIFY(controller.resetDocument(10, 10, Qt::white));
+        QVERIFY(!controller.hasDocumentUrl() && controller.pairedImageUrl().isEmpty());
+        QVERIFY(controller.load(url(u"doc.zelmora"_s)));
+        QCOMPARE(fixture.document.objectAt(0)->name(), u"c"_s);
+        QVERIFY(controller.load(url(u"other.png"_s)));
+        QVERIFY2(controller.pairedImageUrl().isEmpty(), "a document that has a file is not pristine");
+        QCOMPARE(fixture.files,
+                 QStringList({u"replaced"_s, u"saved doc.zelmora"_s, u"saved doc.zelmora"_s, u"replaced"_s,
+                              u"replaced"_s, u"loaded doc.zelmora"_s, u"replaced"_s}));
+    }
+
+    void pictureOpensTheDocumentBesideIt()
+    {
+        Fixture fixture;
+        DocumentFileController &controller = fixture.controller;
+        QVERIFY(controller.load(url(u"photo.png"_s)));
+        fixture.rename(u"edited"_s);
+        for (const QString &name : {u"IMG.1.zelmora"_s, u"A.ZELMORA"_s})
+            QVERIFY(controller.saveAs(url(name)));
+        QVERIFY(QFile::copy(m_folder.filePath(u"other.png"_s), m_folder.filePath(u"IMG.1.PNG"_s)));
+        QVERIFY(controller.load(url(u"IMG.1.PNG"_s)));
+        QCOMPARE(fixture.document.objectAt(0)->name(), u"edited"_s);
+        QCOMPARE(controller.documentUrl(), url(u"IMG.1.zelmora"_s));
+        QCOMPARE(controller.pairedImageUrl(), url(u"IMG.1.PNG"_s));
+        QVERIFY(fixture.history.isClean() && !fixture.history.canUndo());
+        QVERIFY(controller.load(url(u"A.ZELMORA"_s)));
+        QCOMPARE(controller.displayName(), u"A.ZELMORA"_s);
+
+        write(u"IMG.1.zelmora"_s, "damaged");
+        QVERIFY2(!controller.load(url(u"IMG.1.PNG"_s)), "the picture must not take the place of the work on it");
+        QVERIFY(!controller.lastError().isEmpty());
+        QCOMPARE(controller.documentUrl(), url(u"A.ZELMORA"_s));
+        QCOMPARE(fixture.document.objectAt(0)->name(), u"edited"_s);
     }
 
     void failureKeepsTheDocument()
