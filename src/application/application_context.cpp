@@ -2,8 +2,10 @@
 
 #include "application/application.h"
 #include "application/user_notification_center.h"
+#include "editor/export_preview_image_provider.h"
 
 #include <QQmlContext>
+#include <QQmlEngine>
 
 using namespace Qt::StringLiterals;
 
@@ -23,6 +25,16 @@ ApplicationContext::ApplicationContext()
 {
     documentFileController.setRuntimeFlags(&runtimeFlags);
     scenePresentationModel.setRenderServices(&renderServices);
+    exportController.setRenderServices(&renderServices);
+    QObject::connect(&documentFileController, &DocumentFileController::documentLoaded, &applicationSettings,
+                     &ApplicationSettings::addRecentFile);
+    QObject::connect(&documentFileController, &DocumentFileController::documentSaved, &applicationSettings,
+                     &ApplicationSettings::addRecentFile);
+}
+
+void addImageProviders(QQmlEngine &engine, const ApplicationContext &context)
+{
+    engine.addImageProvider(u"export-preview"_s, new ExportPreviewImageProvider(context.exportPreviewStore));
 }
 
 void setContextProperties(QQmlContext &qmlContext, Application &application, ApplicationContext &context)
@@ -36,6 +48,7 @@ void setContextProperties(QQmlContext &qmlContext, Application &application, App
     qmlContext.setContextProperty(u"commandHistory"_s, &context.commandHistory);
     qmlContext.setContextProperty(u"scenePresentationModel"_s, &context.scenePresentationModel);
     qmlContext.setContextProperty(u"documentFileController"_s, &context.documentFileController);
+    qmlContext.setContextProperty(u"exportController"_s, &context.exportController);
     qmlContext.setContextProperty(u"userNotifications"_s, &UserNotificationCenter::instance());
 }
 

@@ -8,12 +8,15 @@
 #include "document/document.h"
 #include "document/scene_presentation_model.h"
 #include "editor/document_file_controller.h"
+#include "editor/export_controller.h"
+#include "editor/export_preview_image_store.h"
 #include "filters/filter_result_cache.h"
 #include "generators/bundled_texture_loader.h"
 #include "rendering/opengl_texture_renderer.h"
 #include "rendering/render_services.h"
 
 class QQmlContext;
+class QQmlEngine;
 
 namespace zm {
 
@@ -39,7 +42,13 @@ struct ApplicationContext
     ScenePresentationModel scenePresentationModel{&document};
     RuntimeFlags runtimeFlags;
     DocumentFileController documentFileController{&document, &commandHistory};
+    /// Shared with the engine's image provider.
+    std::shared_ptr<ExportPreviewImageStore> exportPreviewStore = std::make_shared<ExportPreviewImageStore>();
+    ExportController exportController{&document, &documentFileController, exportPreviewStore};
 };
+
+/// Gives the engine, which owns them, the providers of pictures that are made at run time.
+void addImageProviders(QQmlEngine &engine, const ApplicationContext &context);
 
 /// Makes the objects known to the interface by their names.
 void setContextProperties(QQmlContext &qmlContext, Application &application, ApplicationContext &context);

@@ -43,8 +43,10 @@ private slots:
         m_context->applicationSettings.setCanvasClipMode(false);
         m_context->applicationSettings.setDocumentBoundsVisible(false);
         m_opened.clear();
-        connect(&m_context->documentFileController, &DocumentFileController::documentReplaced, this,
-                [this] { m_opened.append(m_context->document.objectAt(0)->name()); });
+        connect(&m_context->documentFileController, &DocumentFileController::documentReplaced, this, [this] {
+            if (const SceneObject *layer = m_context->document.objectAt(0))
+                m_opened.append(layer->name());
+        });
         m_warnings.clear();
     }
 
@@ -95,15 +97,27 @@ private slots:
     void droppedFileIsOpenedAndNamedAsItIs()
     {
         QVERIFY(openWindow());
-        QMimeData data;
-        data.setUrls({file(u"50%2.png"_s)});
-        const QPoint point = canvas()->mapToScene({50, 50}).toPoint();
-        QDragEnterEvent enter(point, Qt::CopyAction, &data, Qt::LeftButton, Qt::NoModifier);
-        QCoreApplication::sendEvent(m_window, &enter);
-        QDropEvent drop(point, Qt::CopyAction, &data, Qt::LeftButton, Qt::NoModifier);
-        QCoreApplication::sendEvent(m_window, &drop);
+        drop({file(u"50%2.png"_s)});
         QTRY_COMPARE(m_opened, QStringList(u"50%2"_s));
         QCOMPARE(m_window->title(), u"50%2.png - Zelmora Atelier"_s);
+    }
+
+    void documentIsOpenedFirstRememberedAndNotOpenedAgain()
+    {
+        DocumentFileController &files = m_context->documentFileController;
+        QVERIFY(files.load(file(u"a.png"_s)) && files.saveAs(file(u"work.Zelmora"_s)));
+        QVERIFY(files.resetDocument(100, 100, Qt::white));
+        for (const QString &path : m_context->applicationSettings.recentFilePaths())
+            m_context->applicationSettings.removeRecentFile(path);
+        m_opened.clear();
+        QVERIFY(openWindow());
+        drop({file(u"b.png"_s), file(u"work.Zelmora"_s)});
+        QTRY_COMPARE(m_opened, QStringList(u"a"_s));
+        QCOMPARE(m_window->title(), u"work.Zelmora - Zelmora Atelier"_s);
+        QCOMPARE(m_context->applicationSettings.recentFilePaths(), QStringList(m_folder.filePath(u"work.Zelmora"_s)));
+        m_application.addFileOpenRequest(file(u"work.Zelmora"_s));
+        m_application.addFileOpenRequest(file(u"b.png"_s));
+        QTRY_COMPARE(m_opened, QStringList({u"a"_s, u"b"_s}));
     }
 
     void keysAndStatusBarZoom()
@@ -154,6 +168,7 @@ private:
         m_engine = std::make_unique<QQmlApplicationEngine>();
         connect(m_engine.get(), &QQmlEngine::warnings, this,
                 [this](const QList<QQmlError> &warnings) { m_warnings += warnings; });
+        addImageProviders(*m_engine, *m_context);
         setContextProperties(*m_engine->rootContext(), m_application, *m_context);
         m_engine->loadFromModule("ZelmoraAtelier"_L1, "Main"_L1);
         m_window = qobject_cast<QQuickWindow *>(m_engine->rootObjects().value(0));
@@ -161,6 +176,17 @@ private:
             return false;
         m_window->requestActivate(); // as the program does once there is something to see
         return QTest::qWaitForWindowActive(m_window);
+    }
+
+    void drop(const QList<QUrl> &urls)
+    {
+        QMimeData data;
+        data.setUrls(urls);
+        const QPoint point = canvas()->mapToScene({50, 50}).toPoint();
+        QDragEnterEvent enter(point, Qt::CopyAction, &data, Qt::LeftButton, Qt::NoModifier);
+        QCoreApplication::sendEvent(m_window, &enter);
+        QDropEvent drop(point, Qt::CopyAction, &data, Qt::LeftButton, Qt::NoModifier);
+        QCoreApplication::sendEvent(m_window, &drop);
     }
 
     /// The control or label that says a text, or the one of a QML type.

@@ -38,7 +38,7 @@ ApplicationWindow {
 
     // For the next file dialog, which begins where the last picture was found.
     function loadChosenFile(url) {
-        if (loadDocumentFile(url))
+        if (loadDocumentFile(url) && !documentFileController.hasDocumentUrl)
             applicationSettings.rememberImageImportFolder(url)
     }
 
@@ -86,6 +86,10 @@ ApplicationWindow {
             showMaximized()     // show() would take the maximised state away
         window.raise()
         window.requestActivate()
+        if (commandHistory.clean && url.toString() === documentFileController.documentUrl.toString()) {
+            Qt.callLater(processPendingApplicationFileOpenRequest)     // it is open as it is
+            return
+        }
         applicationFileOpenActive = true
         activeApplicationFileOpenUrl = url
         requestOpenFile(url, true)
@@ -99,8 +103,10 @@ ApplicationWindow {
     }
 
     function handleDroppedFiles(urls) {
-        if (!applicationFileOpenActive && !applicationFileOpenUiBlocked && urls.length > 0)
-            requestOpenFile(urls[0], false)
+        if (applicationFileOpenActive || applicationFileOpenUiBlocked || urls.length === 0)
+            return
+        const document = urls.find(url => url.toString().toLowerCase().endsWith(".zelmora"))
+        requestOpenFile(document ?? urls[0], false)
     }
 
     function toggleFullScreen() {
@@ -223,9 +229,11 @@ ApplicationWindow {
     FileDialog {
         id: documentOpenDialog
 
-        title: qsTr("Open Image")
+        title: qsTr("Open Document or Image")
         nameFilters: [
+            qsTr("All supported files (%1 *.zelmora)").arg(documentFileController.supportedImageFilePatterns),
             qsTr("All image files (%1)").arg(documentFileController.supportedImageFilePatterns),
+            qsTr("Zelmora documents (*.zelmora)"),
             qsTr("All files (*)")
         ]
         currentFolder: applicationSettings.imageImportFolderUrl
