@@ -1,9 +1,14 @@
 // The parts of the export benchmark that need a process of their own, because a process's peak memory never falls:
 //   export_child make FILE              writes a photograph-like JPEG of 24 megapixels
+//   export_child webp INPUT OUTPUT      the same picture as a lossless WebP file
+//   export_child document INPUT OUTPUT  the same picture as a document
 //   export_child recode INPUT OUTPUT    the floor: Qt's reader and writer, nothing between them
 //   export_child measure PROGRAM ...    runs the program, prints its milliseconds and its peak memory in KiB
 
+#include "document/document.h"
 #include "io/image_allocation.h"
+#include "io/image_import.h"
+#include "io/zelmora_document_io.h"
 
 #include <QCoreApplication>
 #include <QElapsedTimer>
@@ -42,6 +47,21 @@ int makePhoto(const QString &path)
     return photo.save(path, "jpeg", kQuality) ? 0 : 1;
 }
 
+int writeLosslessWebp(const QString &input, const QString &output)
+{
+    return QImage(input).save(output, "webp", 100) ? 0 : 1;
+}
+
+int writeDocument(const QString &input, const QString &output)
+{
+    zm::Document document;
+    zm::ImageImportResult imported = zm::importImageLayer(input);
+    return imported.layer && zm::replaceWithImage(document, std::move(imported.layer)) == zm::ImageImportError::None
+            && zm::ZelmoraDocumentIO::writeDocumentFile(document, output, false)
+        ? 0
+        : 1;
+}
+
 int recode(const QString &input, const QString &output)
 {
     const QImage image = QImageReader(input).read();
@@ -78,6 +98,10 @@ int main(int argc, char **argv)
     const QStringList words = application.arguments();
     if (words.size() == 3 && words[1] == "make"_L1)
         return makePhoto(words[2]);
+    if (words.size() == 4 && words[1] == "webp"_L1)
+        return writeLosslessWebp(words[2], words[3]);
+    if (words.size() == 4 && words[1] == "document"_L1)
+        return writeDocument(words[2], words[3]);
     if (words.size() == 4 && words[1] == "recode"_L1)
         return recode(words[2], words[3]);
     return 2;
