@@ -91,12 +91,15 @@ ExportResult encode(const QImage &image, const ExportFormat &format, int quality
                     const std::atomic_bool *cancelled)
 {
     ExportResult result;
-    EncodingBuffer buffer(&result.bytes, cancelled);
+    // PNG, packed as tightly as it goes, takes many seconds. The other writers are quick, and would warn of a full
+    // disk.
+    const bool isPng = format.writerFormat == "png";
+    EncodingBuffer buffer(&result.bytes, isPng ? cancelled : nullptr);
     if (!buffer.open(QIODevice::WriteOnly))
         return {{},
                 exportText(QT_TRANSLATE_NOOP("zm::ExportController", "Could not create the in-memory image buffer."))};
     QImageWriter writer(&buffer, format.writerFormat);
-    if (format.writerFormat == "png")
+    if (isPng)
         writer.setCompression(100);
     else
         writer.setQuality(std::clamp(quality, 0, 100));

@@ -205,8 +205,8 @@ ImageImportError replaceWithImage(Document &document, std::unique_ptr<ImageLayer
     const QUuid id = layer->id();
     std::vector<std::unique_ptr<SceneObject>> objects;
     objects.push_back(std::move(layer));
-    // An SVG without a width and a height may be of a fractional size, which a document's file cannot hold: the
-    // document is rounded up to whole units, and the layer keeps its size in the middle of it.
+    // A flat SVG is of the fractional size of its view box, which a document's file cannot hold: the document is
+    // rounded up to whole units, and the layer keeps its size in the middle of it.
     if (!document.replaceContents(coveringPixels(size), Qt::white, std::move(objects)))
         return ImageImportError::DocumentRefused;
     document.selectObject(id);

@@ -86,9 +86,9 @@ private slots:
             {u"palette.png"_s, palette, u"palette"_s, size},
             {u"x.SvG"_s, kSvg, u"x"_s, {40, 30}},
             {u"fraction.svg"_s,
-             R"(<svg xmlns="http://www.w3.org/2000/svg" viewBox="0 0 20.5 9.25"/>)",
+             R"(<svg xmlns="http://www.w3.org/2000/svg" viewBox="0 0 20.5 0.25"/>)",
              u"fraction"_s,
-             {20.5, 9.25}},
+             {20.5, 1}},
             {u"quarter turn.jpg"_s, orientedJpeg(picture, 6), u"quarter turn"_s, {20, 31}},
             {u"data behind the end.jpg"_s, jpeg + QByteArray(99, 'x'), u"data behind the end"_s, size},
         };
