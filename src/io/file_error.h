@@ -3,22 +3,29 @@
 #include <QCoreApplication>
 #include <QString>
 
+#include <concepts>
 #include <memory>
 #include <optional>
 
 namespace zm {
 
-/// What a step that failed returns, whatever it would have returned: false, nothing, or a null pointer.
+/// What a step that failed returns, whatever it would have returned: false, nothing, or a null pointer. It is no
+/// number, and where an optional could also hold it as a value, such as a variant with a bool, it does not compile
+/// instead of becoming one: return std::nullopt there.
 struct Failure
 {
-    operator bool() const { return false; }
+    template<std::same_as<bool> Result>
+    operator Result() &&
+    {
+        return false;
+    }
     template<typename Value>
-    operator std::optional<Value>() const
+    operator std::optional<Value>() &&
     {
         return std::nullopt;
     }
     template<typename Value>
-    operator std::unique_ptr<Value>() const
+    operator std::unique_ptr<Value>() &&
     {
         return nullptr;
     }

@@ -128,8 +128,10 @@ DecodedValue decodeString(QByteArrayView bytes, FileError &)
 
 DecodedValue decodeAsset(QByteArrayView bytes, FileError &error)
 {
-    if (bytes.size() != kKeyFieldSize)
-        return error.fail(FileError::tr("An asset parameter has an invalid byte length."));
+    if (bytes.size() != kKeyFieldSize) {
+        error.fail(FileError::tr("An asset parameter has an invalid byte length."));
+        return std::nullopt;
+    }
     const std::optional<QString> fileName = keyAt(bytes, 0, error);
     return fileName ? DecodedValue(AssetName{*fileName}) : std::nullopt;
 }
@@ -236,7 +238,7 @@ std::optional<QByteArray> encodeValue(const ParameterValue &value, FileError &er
     return error.isSet() ? std::nullopt : std::optional(bytes);
 }
 
-DecodedValue decodeValue(quint32 type, QByteArrayView bytes, FileError &error)
+bool addDecodedValue(ParameterValues &values, const QString &key, quint32 type, QByteArrayView bytes, FileError &error)
 {
     if (type < 1 || type > kValueKinds.size())
         return error.fail(FileError::tr("The .zelmora file uses an unknown parameter type."));
@@ -246,7 +248,9 @@ DecodedValue decodeValue(quint32 type, QByteArrayView bytes, FileError &error)
     const DecodedValue value = kind.decode(bytes, error);
     if (!value || !isStorable(*value))
         return error.fail(FileError::tr(kind.unreadable));
-    return value;
+    if (values.contains(key))
+        return error.fail(FileError::tr("A parameter key is duplicated."));
+    return values.set(key, *value);
 }
 
 } // namespace
@@ -286,12 +290,8 @@ std::optional<ParameterValues> decodeParameters(ByteReader &reader, quint32 coun
         const std::optional<QByteArrayView> bytes = reader.take(u32At(*header, 36));
         if (!key || !bytes)
             return error.fail(FileError::tr("A parameter value is truncated."));
-        const DecodedValue value = decodeValue(u32At(*header, 0), *bytes, error);
-        if (!value)
+        if (!addDecodedValue(values, *key, u32At(*header, 0), *bytes, error))
             return std::nullopt;
-        if (values.contains(*key))
-            return error.fail(FileError::tr("A parameter key is duplicated."));
-        values.set(*key, *value);
     }
     return values;
 }

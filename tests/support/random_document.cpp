@@ -125,7 +125,12 @@ FilterInstance filter(Dice &dice)
     const auto &filters = FilterRegistry::instance().filters();
     const Filter &known = *filters[size_t(dice.below(int(filters.size())))];
     instance.filterId = known.id();
-    instance.parameters = completeParameters(known.controls(), {});
+    const QList<ParameterDefinition> controls = known.controls();
+    instance.parameters = completeParameters(controls, {});
+    for (const ParameterDefinition &control : controls) {
+        if (parameterHead(control).flags.testFlag(ParameterFlag::NotStored))
+            instance.parameters.remove(parameterHead(control).id);
+    }
     return instance;
 }
 
@@ -182,7 +187,8 @@ QFont font(Dice &dice)
     font.setHintingPreference(QFont::HintingPreference(dice.below(4)));
     font.setStyleStrategy(dice.oneOf({QFont::PreferDefault, QFont::PreferAntialias, QFont::NoSubpixelAntialias}));
     font.setKerning(dice.coin());
-    font.setFixedPitch(dice.coin());
+    if (dice.coin()) // told "false", a font is not what it was when nothing was told
+        font.setFixedPitch(true);
     return font;
 }
 
