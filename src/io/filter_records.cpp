@@ -3,6 +3,9 @@
 #include "filters/filter_registry.h"
 #include "io/parameter_records.h"
 
+#include <QHash>
+#include <QSet>
+
 using namespace Qt::StringLiterals;
 
 namespace zm {
@@ -14,26 +17,42 @@ constexpr quint32 kRecordVersion = 1;
 constexpr quint32 kEnabledFlag = 1;
 constexpr quint32 kSelectionFlag = 2;
 
-/// Empty for a filter that this program does not know.
-QList<ParameterDefinition> definitionsOf(const QString &filterId)
-{
-    const Filter *filter = FilterRegistry::instance().find(filterId);
-    return filter ? filter->controls() : QList<ParameterDefinition>();
-}
-
-bool isStored(const ParameterDefinition &definition)
-{
-    return !parameterHead(definition).flags.testFlag(ParameterFlag::NotStored);
-}
-
-QSet<QString> keysNotStored(const QString &filterId)
+/// What documents keep of a filter's controls.
+struct StoredControls
 {
     QSet<QString> keys;
-    for (const ParameterDefinition &definition : definitionsOf(filterId)) {
-        if (!isStored(definition))
-            keys.insert(parameterHead(definition).id);
+    QSet<QString> keysLeftOut;
+    ParameterValues defaults;
+};
+
+QHash<QString, StoredControls> controlsOfAllFilters()
+{
+    QHash<QString, StoredControls> all;
+    for (const std::unique_ptr<Filter> &filter : FilterRegistry::instance().filters()) {
+        const QList<ParameterDefinition> definitions = filter->controls();
+        if (definitions.isEmpty())
+            continue;
+        StoredControls &controls = all[filter->id()];
+        for (const ParameterDefinition &definition : definitions) {
+            const ParameterHead &head = parameterHead(definition);
+            if (head.flags.testFlag(ParameterFlag::NotStored)) {
+                controls.keysLeftOut.insert(head.id);
+                continue;
+            }
+            controls.keys.insert(head.id);
+            if (const std::optional<ParameterValue> value = defaultValue(definition))
+                controls.defaults.set(head.id, *value);
+        }
     }
-    return keys;
+    return all;
+}
+
+/// Null for a filter that this program does not know, or that has no controls: it keeps all of its values.
+const StoredControls *storedControls(const QString &filterId)
+{
+    static const QHash<QString, StoredControls> all = controlsOfAllFilters();
+    const auto found = all.constFind(filterId);
+    return found == all.cend() ? nullptr : &*found;
 }
 
 /// The colour to fade to tells by its alpha what older files told by a target of its own.
@@ -53,22 +72,17 @@ void migrateFadeTarget(ParameterValues &values)
     values.set(colorKey, color);
 }
 
-/// What the filter defines, with its defaults where the file has no value.
+/// What the filter defines, with its defaults where the file has no value. Filters without values share one map:
+/// a short record must not take a long list's memory.
 ParameterValues definedValues(const QString &filterId, const ParameterValues &stored)
 {
-    const QList<ParameterDefinition> definitions = definitionsOf(filterId);
-    if (definitions.isEmpty())
+    const StoredControls *controls = storedControls(filterId);
+    if (!controls)
         return stored;
-    ParameterValues values;
-    for (const ParameterDefinition &definition : definitions) {
-        if (!isStored(definition))
-            continue;
-        const QString &key = parameterHead(definition).id;
-        const auto found = stored.entries().constFind(key);
-        if (found != stored.entries().cend())
-            values.set(key, *found);
-        else if (const std::optional<ParameterValue> value = defaultValue(definition))
-            values.set(key, *value);
+    ParameterValues values = controls->defaults;
+    for (const auto &[key, value] : stored.entries().asKeyValueRange()) {
+        if (controls->keys.contains(key))
+            values.set(key, value);
     }
     return values;
 }
@@ -86,8 +100,9 @@ std::optional<QByteArray> encodeFilter(const FilterInstance &instance, FileError
     if (!setKey(record, 24, instance.filterId, error))
         return std::nullopt;
     quint32 count = 0;
+    const StoredControls *controls = storedControls(instance.filterId);
     const std::optional<QByteArray> parameters =
-        encodeParameters(instance.parameters, keysNotStored(instance.filterId), &count, error);
+        encodeParameters(instance.parameters, controls ? controls->keysLeftOut : QSet<QString>(), &count, error);
     if (!parameters || !setSize(record, 60, parameters->size(), error))
         return std::nullopt;
     setU32(record, 56, count);
