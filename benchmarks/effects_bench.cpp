@@ -4,6 +4,7 @@
 #include "filters/filter_result_cache.h"
 #include "filters/filter_stack.h"
 #include "generators/bundled_texture_loader.h"
+#include "pictures.h"
 #include "rendering/opengl_texture_renderer.h"
 
 #include <QFile>
@@ -17,24 +18,6 @@ namespace zm::bench {
 namespace {
 
 constexpr double kBytesPerKilobyte = 1024.0;
-
-/// Smooth shapes with a little noise, as photographs have.
-QImage photograph(const QSize &size)
-{
-    QImage picture(size, QImage::Format_RGBA8888);
-    quint32 state = 1;
-    for (int y = 0; y < size.height(); ++y) {
-        uchar *pixel = picture.scanLine(y);
-        for (int x = 0; x < size.width(); ++x, pixel += 4) {
-            state = state * 1664525U + 1013904223U; // the generator of Numerical Recipes
-            const double wave = std::sin(x * 9.0 / size.width()) * std::cos(y * 7.0 / size.height());
-            for (int channel = 0; channel < 3; ++channel)
-                pixel[channel] = uchar(120.0 + 100.0 * wave * (1.0 - 0.3 * channel) + double(state >> 28));
-            pixel[3] = 255;
-        }
-    }
-    return picture;
-}
 
 /// The most memory that the process has had since the mark was set, in kilobytes.
 class PeakMemory

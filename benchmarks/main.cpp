@@ -1,6 +1,7 @@
 #include "base/memory_tuning.h"
 #include "bench.h"
 #include "blur_bench.h"
+#include "documents_bench.h"
 #include "effects_bench.h"
 #include "export_bench.h"
 #include "io/image_allocation.h"
@@ -26,10 +27,11 @@ struct BenchGroup
 };
 
 constexpr BenchGroup kGroups[] = {
-    {"scene"_L1, zm::bench::benchScene},   {"vectors"_L1, zm::bench::benchVectors},
-    {"blur"_L1, zm::bench::benchBlur},     {"effects"_L1, zm::bench::benchEffects},
-    {"text"_L1, zm::bench::benchText},     {"export"_L1, zm::bench::benchExport},
-    {"shapes"_L1, zm::bench::benchShapes}, {"start"_L1, zm::bench::benchStartup},
+    {"scene"_L1, zm::bench::benchScene},         {"vectors"_L1, zm::bench::benchVectors},
+    {"blur"_L1, zm::bench::benchBlur},           {"effects"_L1, zm::bench::benchEffects},
+    {"text"_L1, zm::bench::benchText},           {"export"_L1, zm::bench::benchExport},
+    {"documents"_L1, zm::bench::benchDocuments}, {"shapes"_L1, zm::bench::benchShapes},
+    {"start"_L1, zm::bench::benchStartup},
 };
 
 void print(const QList<zm::bench::BenchRow> &rows)

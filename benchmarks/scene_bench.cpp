@@ -3,6 +3,7 @@
 #include "document/blend_modes.h"
 #include "document/document.h"
 #include "document/scene_presentation_model.h"
+#include "pictures.h"
 
 #include <QPainter>
 
@@ -14,24 +15,6 @@ namespace {
 
 constexpr QSize kView(1600, 1000);
 constexpr int kRuns = 15;
-
-/// Detail in every pixel, opaque as a photograph is.
-QImage photograph(int width, int height, quint32 seed)
-{
-    QImage image(width, height, QImage::Format_RGBA8888);
-    quint32 noise = seed;
-    for (int y = 0; y < height; ++y) {
-        uchar *pixel = image.scanLine(y);
-        for (int x = 0; x < width; ++x, pixel += 4) {
-            noise = noise * 1664525u + 1013904223u; // Numerical Recipes' generator
-            pixel[0] = uchar(x * 255 / width);
-            pixel[1] = uchar((y * 191 / height) + (noise >> 26));
-            pixel[2] = uchar(noise >> 24);
-            pixel[3] = 255;
-        }
-    }
-    return image;
-}
 
 /// An image layer that counts how often its content is drawn.
 class CountedLayer : public ImageLayer
@@ -53,7 +36,7 @@ SceneSnapshot stack(const QSize &size, int count)
     ObjectTransform centred;
     centred.setPosition({-size.width() / 2.0, -size.height() / 2.0});
     for (int i = 0; i < count; ++i) {
-        const QImage image = photograph(size.width(), size.height(), quint32(i));
+        const QImage image = photograph(size, quint32(i));
         scene.items.append({QUuid::createUuid(), centred, 1.0, QString(blendModes()[i].key), image, QSizeF(size),
                             QPointF(), QSizeF(size)});
     }
@@ -101,7 +84,7 @@ void viewRows(QList<BenchRow> &rows)
 {
     Document document;
     document.setSize({6000.0, 4000.0});
-    auto owned = std::make_unique<CountedLayer>(photograph(6000, 4000, 1), u"photograph"_s);
+    auto owned = std::make_unique<CountedLayer>(photograph({6000, 4000}), u"photograph"_s);
     const CountedLayer *layer = owned.get();
     ObjectTransform centred;
     centred.setPosition({-3000.0, -2000.0});
