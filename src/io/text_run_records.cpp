@@ -38,11 +38,13 @@ quint32 flagsOf(const TextRun &run)
     return flags;
 }
 
-QByteArray familyBlock(const QStringList &families)
+std::optional<QByteArray> familyBlock(const QStringList &families, FileError &error)
 {
     QByteArray block;
     for (const QString &family : families) {
         const QByteArray name = family.toUtf8();
+        if (name.size() > kMaximumFileTextSize)
+            return error.fail(FileError::tr("A text run is too large."));
         QByteArray length(kLengthSize, '\0');
         setU32(length, 0, quint32(name.size()));
         block.append(length).append(name);
@@ -128,7 +130,9 @@ std::optional<QByteArray> encodeTextRun(const TextRun &run, FileError &error)
     const QByteArray styleName = font.styleName().toUtf8();
     if (text.size() > kMaximumFileTextSize || styleName.size() > kMaximumFileTextSize)
         return error.fail(FileError::tr("A text run is too large."));
-    const QByteArray familyRecords = familyBlock(families);
+    const std::optional<QByteArray> familyRecords = familyBlock(families, error);
+    if (!familyRecords)
+        return Failure();
     const std::optional<QByteArray> fill = encodeFill(run.fill, error);
     if (!fill)
         return Failure();
@@ -137,7 +141,7 @@ std::optional<QByteArray> encodeTextRun(const TextRun &run, FileError &error)
     setU32(record, 0, flagsOf(run));
     setU32(record, 4, quint32(text.size()));
     setU32(record, 12, quint32(styleName.size()));
-    if (!setSize(record, 8, familyRecords.size(), error) || !setSize(record, 16, fill->size(), error))
+    if (!setSize(record, 8, familyRecords->size(), error) || !setSize(record, 16, fill->size(), error))
         return Failure();
     setU32(record, 20, quint32(families.size()));
     setNumber(record, 24, qint32(font.pixelSize()));
@@ -155,7 +159,7 @@ std::optional<QByteArray> encodeTextRun(const TextRun &run, FileError &error)
     }
     setColor(record, 96, run.outlineColor);
     setColor(record, 112, run.underlineColor);
-    return record + text + familyRecords + styleName + *fill;
+    return record + text + *familyRecords + styleName + *fill;
 }
 
 std::optional<TextRun> decodeTextRun(ByteReader &reader, FileError &error)
