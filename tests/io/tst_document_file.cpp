@@ -262,13 +262,15 @@ private slots:
         const QString rawLength = u"A raw RGBA image has an invalid byte length."_s;
         row("magic", FileBytes(empty).patch(0, "ZMDX"), u"This is not a .zelmora document."_s);
         for (const quint32 version : {0U, 6U, 0xFFFFFFFFU})
-            row("version", fileHeader(1, version), u"This .zelmora format version is not supported."_s);
+            row(qPrintable(u"version %1"_s.arg(version)), fileHeader(1, version),
+                u"This .zelmora format version is not supported."_s);
         row("width 0", fileHeader(1, 5, 0, 5), dimensions);
         row("width above the limit", fileHeader(1, 5, 1'000'001, 5), dimensions);
         row("height 0", fileHeader(1, 5, 5, 0), dimensions);
         row("height above the limit", fileHeader(1, 5, 5, 1'000'001), dimensions);
         for (const quint32 count : {0, 100'001})
-            row("section count", fileHeader(count), u"The .zelmora section count is invalid."_s);
+            row(qPrintable(u"%1 sections"_s.arg(count)), fileHeader(count),
+                u"The .zelmora section count is invalid."_s);
         row("section magic", FileBytes(empty).patch(128, "ZMSX"), sectionHeader);
         row("section above 1 GiB", FileBytes(empty).patch(136, FileBytes().u32(0x40000001)), sectionHeader);
         row("section of 1 GiB that is not there", FileBytes(empty).patch(136, FileBytes().u32(0x40000000)),
@@ -432,6 +434,12 @@ private slots:
         const std::unique_ptr<Document> last = documentOf(read(file));
         QCOMPARE(last->layer(testId(1))->name(), u"9"_s);
         QCOMPARE(last->imageLayer(testId(1))->rasterImage(), once);
+
+        // Saved without loss, it is encoded anew, and what was read stays as it was.
+        const QByteArray lossless = written(*last, false);
+        QVERIFY(lossless.contains("VP8L") && file.contains("VP8 "));
+        QCOMPARE(documentOf(read(lossless))->imageLayer(testId(1))->rasterImage(), once);
+        QCOMPARE(written(*last, true), file);
     }
 
     void recordsDoNotNeedPixels()

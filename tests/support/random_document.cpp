@@ -260,6 +260,23 @@ private:
     QString m_difference;
 };
 
+void compareTexts(Comparison &fields, const TextLayerState &a, const TextLayerState &b)
+{
+    fields.compare("text width", a.textWidth, b.textWidth);
+    for (qsizetype i = 0; i < std::min(a.blocks.size(), b.blocks.size()); ++i) {
+        const TextParagraph &first = a.blocks[i];
+        const TextParagraph &second = b.blocks[i];
+        for (qsizetype n = 0; n < std::min(first.runs.size(), second.runs.size()); ++n) {
+            fields.compare("run's text", first.runs[n].text, second.runs[n].text);
+            fields.compare("run's font", first.runs[n].font, second.runs[n].font);
+            fields.compare("run's fill", first.runs[n].fill, second.runs[n].fill);
+            fields.compare("run", first.runs[n], second.runs[n]);
+        }
+        fields.compare("paragraph", first, second);
+    }
+    fields.compare("text", a, b);
+}
+
 } // namespace
 
 std::unique_ptr<Layer> randomLayer(QRandomGenerator &random)
@@ -338,7 +355,7 @@ QString difference(const Layer &a, const Layer &b)
         fields.compare("stroke", shape->stroke(), other.stroke());
         fields.compare("fill", shape->fill(), other.fill());
     } else {
-        fields.compare("text", static_cast<const TextLayer &>(a).state(), static_cast<const TextLayer &>(b).state());
+        compareTexts(fields, static_cast<const TextLayer &>(a).state(), static_cast<const TextLayer &>(b).state());
     }
     return fields.difference();
 }
