@@ -1,11 +1,12 @@
 #include "cli/document_info.h"
 
+#include "base/pixel_limits.h"
+#include "cli/content_info.h"
+#include "cli/info_values.h"
 #include "cli/quiet_libraries.h"
+#include "cli/text_info.h"
+#include "io/document_opening.h"
 #include "io/image_import.h"
-
-#include <QCryptographicHash>
-
-#include <cmath>
 
 using namespace Qt::StringLiterals;
 
@@ -13,89 +14,117 @@ namespace zm::cli {
 
 namespace {
 
-QJsonArray pair(double x, double y)
+/// The layer that a picture is imported as.
+LayerRecord importedLayer(const QString &name, const ImageLayerSource &source, const QSizeF &size)
 {
-    return {x, y};
+    LayerRecord layer;
+    layer.id = QUuid::createUuid();
+    layer.name = name;
+    layer.blendMode = defaultBlendMode();
+    layer.transform = framedTransform({}, size);
+    layer.content = ImageContent{source, size.toSize(), size, RasterSurfacePolicy::Fixed, std::nullopt};
+    return layer;
 }
 
-QJsonArray pair(const QPointF &point)
+std::optional<LayerRecord> readPicture(const QString &path, PixelReading pixels, ImageImportError *error)
 {
-    return pair(point.x(), point.y());
-}
-
-QJsonArray pair(const QSizeF &size)
-{
-    return pair(size.width(), size.height());
+    if (pixels == PixelReading::Decode) {
+        const ImageImportResult imported = importImageLayer(path);
+        *error = imported.error;
+        return imported.layer ? std::optional(importedLayer(imported.layer->name(), imported.layer->source(),
+                                                            imported.layer->layerSize()))
+                              : std::nullopt;
+    }
+    const std::optional<ImageFileHeader> header = readImageFileHeader(path, error);
+    if (!header)
+        return std::nullopt;
+    const ImageLayerSource source =
+        header->svg ? ImageLayerSource(SvgImageSource{{}, header->size}) : RasterImageSource{};
+    return importedLayer(header->name, source, header->size);
 }
 
 QJsonObject transformInfo(const ObjectTransform &transform)
 {
-    return {{u"position"_s, pair(transform.position())},
-            {u"scale"_s, pair(transform.scale())},
-            {u"shear"_s, pair(transform.shear())},
-            {u"anchor"_s, pair(transform.anchor())},
+    return {{u"position"_s, pointInfo(transform.position())},
+            {u"scale"_s, pointInfo(transform.scale())},
+            {u"shear"_s, pointInfo(transform.shear())},
+            {u"anchor"_s, pointInfo(transform.anchor())},
             {u"rotation"_s, transform.rotation()}};
 }
 
-/// Of the RGBA8888 rows without padding, or of the SVG text.
-QString contentDigest(const ImageLayer &layer)
+QJsonArray filtersInfo(const QList<FilterInstance> &filters)
 {
-    QCryptographicHash hash(QCryptographicHash::Sha256);
-    if (const SvgImageSource *svg = layer.svgSource()) {
-        hash.addData(svg->data);
-    } else {
-        const QImage image = layer.rasterImage();
-        for (int y = 0; y < image.height(); ++y)
-            hash.addData(QByteArrayView(image.constScanLine(y), qsizetype(image.width()) * 4));
+    QJsonArray info;
+    for (const FilterInstance &filter : filters) {
+        info.append(QJsonObject{{u"instance"_s, idText(filter.instanceId)},
+                                {u"filter"_s, filter.filterId},
+                                {u"enabled"_s, filter.enabled},
+                                {u"selectionScoped"_s, filter.rasterSelectionScoped},
+                                {u"parameters"_s, parametersInfo(filter.parameters)}});
     }
-    return QString::fromLatin1(hash.result().toHex());
+    return info;
+}
+
+/// The layer's type, under which its content stands.
+struct ContentWriter
+{
+    QJsonObject &layer;
+    bool withDigest;
+
+    void operator()(const ImageContent &image) const { write(u"image"_s, imageInfo(image, withDigest)); }
+    void operator()(const ShapeContent &shape) const { write(u"shape"_s, shapeInfo(shape)); }
+    void operator()(const TextLayerState &text) const { write(u"text"_s, textInfo(text)); }
+
+private:
+    void write(const QString &type, const QJsonObject &content) const
+    {
+        layer.insert(u"type"_s, type);
+        layer.insert(type, content);
+    }
+};
+
+QJsonObject layerInfo(const LayerRecord &layer, bool withDigest)
+{
+    QJsonObject info{{u"id"_s, idText(layer.id)},
+                     {u"name"_s, layer.name},
+                     {u"visible"_s, layer.visible},
+                     {u"opacity"_s, layer.opacity},
+                     {u"blendMode"_s, layer.blendMode},
+                     {u"transform"_s, transformInfo(layer.transform)},
+                     {u"filters"_s, filtersInfo(layer.filters)}};
+    std::visit(ContentWriter{info, withDigest}, layer.content);
+    return info;
 }
 
 } // namespace
 
-std::optional<QJsonObject> documentInfo(const QString &path, bool withDigest, QString *error)
+std::optional<DocumentRecords> readFileRecords(const QString &path, PixelReading pixels, QString *error)
 {
     const QuietLibraries quiet;
+    if (hasDocumentSuffix(path))
+        return ZelmoraDocumentIO::readRecordsFile(path, pixels, error);
     ImageImportError failure = ImageImportError::None;
-    std::optional<ImageFileHeader> header;
-    QString digest;
-    if (withDigest) {
-        const ImageImportResult imported = importImageLayer(path);
-        failure = imported.error;
-        if (imported.layer) {
-            header = {imported.layer->name(), !imported.layer->isRaster(), imported.layer->layerSize()};
-            digest = contentDigest(*imported.layer);
-        }
-    } else {
-        header = readImageFileHeader(path, &failure);
-    }
-    if (!header) {
+    std::optional<LayerRecord> layer = readPicture(path, pixels, &failure);
+    if (!layer) {
         *error = importErrorText(failure);
         return std::nullopt;
     }
+    // A document has whole units.
+    DocumentRecords records{0, coveringPixels(std::get<ImageContent>(layer->content).size), Qt::white, {}};
+    records.layers.push_back(*std::move(layer));
+    return records;
+}
 
-    const QSizeF size = header->size;
-    QJsonObject image{{u"encoding"_s, header->svg ? u"svg"_s : u"raster"_s},
-                      {u"pixelSize"_s, pair(std::ceil(size.width()), std::ceil(size.height()))},
-                      {u"size"_s, pair(size)},
-                      {u"policy"_s, u"fixed"_s},
-                      {u"selection"_s, QJsonValue::Null}};
-    if (!digest.isEmpty())
-        image.insert(u"sha256"_s, digest);
-    const QJsonObject layer{{u"id"_s, QUuid::createUuid().toString(QUuid::WithoutBraces)},
-                            {u"type"_s, u"image"_s},
-                            {u"name"_s, header->name},
-                            {u"visible"_s, true},
-                            {u"opacity"_s, 1.0},
-                            {u"blendMode"_s, defaultBlendMode()},
-                            {u"transform"_s, transformInfo(framedTransform({}, size))},
-                            {u"filters"_s, QJsonArray()},
-                            {u"image"_s, image}};
-    return QJsonObject{{u"file"_s, path},
-                       {u"formatVersion"_s, 0},
-                       {u"size"_s, pair(size)},
-                       {u"background"_s, QJsonArray{1.0, 1.0, 1.0, 1.0}},
-                       {u"layers"_s, QJsonArray{layer}}};
+QJsonObject documentInfo(const QString &path, const DocumentRecords &records, bool withDigest)
+{
+    QJsonArray layers;
+    for (const LayerRecord &layer : records.layers)
+        layers.append(layerInfo(layer, withDigest));
+    return {{u"file"_s, path},
+            {u"formatVersion"_s, qint64(records.formatVersion)},
+            {u"size"_s, sizeInfo(records.documentSize)},
+            {u"background"_s, colorInfo(records.backgroundColor)},
+            {u"layers"_s, layers}};
 }
 
 } // namespace zm::cli

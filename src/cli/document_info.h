@@ -1,16 +1,17 @@
 #pragma once
 
-#include <QJsonArray>
-#include <QJsonObject>
-#include <QString>
+#include "io/zelmora_document_io.h"
 
-#include <optional>
+#include <QJsonObject>
 
 namespace zm::cli {
 
-/// What a file holds, as "zelmora info --json" tells it. A picture file is a document of one layer, with format version
-/// 0 because it is no document file. Without withDigest no pixels are decoded. Nothing on a failure, with a sentence in
-/// error.
-std::optional<QJsonObject> documentInfo(const QString &path, bool withDigest, QString *error);
+/// What a file holds: a document's records, or a picture as a document of one layer by the rules of its import, with
+/// format version 0 because it is no document file. When pixels are skipped nothing is decoded. Nothing on a failure,
+/// with a sentence in error.
+std::optional<DocumentRecords> readFileRecords(const QString &path, PixelReading pixels, QString *error);
+
+/// The records as "zelmora info --json" tells them. The digests need the pixels.
+QJsonObject documentInfo(const QString &path, const DocumentRecords &records, bool withDigest);
 
 } // namespace zm::cli

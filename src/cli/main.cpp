@@ -22,7 +22,10 @@ using namespace zm::cli;
 QList<Command> commands()
 {
     return {
-        {u"info"_s, u"zelmora info [--json] [--no-digest] FILE..."_s, u"Tells what files hold."_s, runInfo},
+        {u"info"_s, u"zelmora info [--json] [--no-digest] FILE..."_s,
+         u"Tells what files hold; --json tells all of it, for programs. --no-digest leaves out the digests of pixels, "
+         "which are then not decoded."_s,
+         runInfo},
         {u"export"_s,
          u"zelmora export [--quality N] [--width N] [--height N] [--max-side N] [--transparent] [--unclipped] "
          "INPUT OUTPUT\n"
