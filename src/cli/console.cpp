@@ -46,7 +46,8 @@ void Console::progress(const QString &text)
     if (!m_showsProgress)
         return;
     clearProgress();
-    write(stderr, text);
+    // Autowrap (DECAWM) is off meanwhile: a line that went on below could not be cleared.
+    write(stderr, u"\x1b[?7l%1\x1b[?7h"_s.arg(text));
     m_progressShown = true;
 }
 

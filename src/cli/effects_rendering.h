@@ -1,5 +1,6 @@
 #pragma once
 
+#include "document/scene_snapshot.h"
 #include "filters/filter_instance.h"
 #include "filters/filter_result_cache.h"
 #include "generators/bundled_texture_loader.h"
@@ -13,6 +14,10 @@ class EffectsRendering
 {
 public:
     const RenderServices *services() const { return &m_services; }
+
+    /// The document with its effects. Nothing, with a sentence for people in problem, when it has effects that cannot
+    /// be rendered here, or that cannot be exported at all.
+    std::optional<SceneSnapshot> snapshot(const Document &document, QString *problem);
 
     /// Empty when effects can be rendered on this machine, and all have been so far; else a sentence for people.
     QString problem();

@@ -1,13 +1,11 @@
 #include "cli/arguments.h"
 #include "cli/commands.h"
+#include "cli/effects_rendering.h"
+#include "cli/jobs.h"
 #include "cli/quiet_libraries.h"
-#include "document/document.h"
+#include "io/document_opening.h"
 #include "io/image_export.h"
 #include "io/image_import.h"
-
-#include <QDir>
-#include <QFileInfo>
-#include <QSet>
 
 using namespace Qt::StringLiterals;
 
@@ -31,12 +29,6 @@ struct ExportWish
     bool clipToDocument = true;
 };
 
-struct Job
-{
-    QString input;
-    QString output;
-};
-
 /// One given side keeps the proportions, two stretch, and a longest side only ever reduces.
 QSize wishedSize(const QRectF &rectangle, const SizeWish &wish)
 {
@@ -50,16 +42,26 @@ QSize wishedSize(const QRectF &rectangle, const SizeWish &wish)
     return defaultExportSize(rectangle, limit);
 }
 
-ExportResult exportDocument(const Document &document, const ExportWish &wish)
+ExportResult exportScene(const SceneSnapshot &snapshot, const ExportWish &wish)
 {
-    const SceneSnapshot snapshot = buildSceneSnapshot(document, {}, nullptr);
     const QSize size = wishedSize(exportRectangle(snapshot, wish.clipToDocument), wish.size);
     return exportImage(snapshot, {wish.formatKey, wish.quality, size, wish.clipToDocument});
 }
 
-/// A picture is a document of one layer, but need not become one when that changes nothing.
-ExportResult exportPicture(DecodedPicture picture, const QString &name, const ExportWish &wish)
+ExportResult exportDocument(const QString &path, const ExportWish &wish, EffectsRendering &rendering)
 {
+    Document document;
+    QString error = openDocument(document, path);
+    if (!error.isEmpty())
+        return {{}, error};
+    const std::optional<SceneSnapshot> snapshot = rendering.snapshot(document, &error);
+    return snapshot ? exportScene(*snapshot, wish) : ExportResult{{}, error};
+}
+
+/// A picture is a document of one layer, but need not become one when that changes nothing.
+ExportResult exportPicture(const QString &path, const ExportWish &wish)
+{
+    DecodedPicture picture = decodePicture(path);
     if (const auto *raster = std::get_if<RasterImageSource>(&picture.source)) {
         const QSize size = wishedSize(QRectF(QPointF(), raster->image.size()), wish.size);
         const ExportSettings settings{wish.formatKey, wish.quality, size, wish.clipToDocument};
@@ -67,48 +69,24 @@ ExportResult exportPicture(DecodedPicture picture, const QString &name, const Ex
             return exportAsDecoded(raster->image, settings);
     }
     Document document;
-    ImageImportResult imported = imageLayerFrom(std::move(picture), name);
+    ImageImportResult imported = imageLayerFrom(std::move(picture), imageLayerName(path));
     if (imported.layer)
         imported.error = replaceWithImage(document, std::move(imported.layer));
     if (imported.error != ImageImportError::None)
         return {{}, importErrorText(imported.error)};
-    return exportDocument(document, wish);
+    return exportScene(buildSceneSnapshot(document, {}, nullptr), wish);
 }
 
-Outcome exportFile(const Job &job, const ExportWish &wish)
+Outcome exportFile(const Job &job, const ExportWish &wish, EffectsRendering &rendering)
 {
     const QuietLibraries quiet;
-    DecodedPicture picture = decodePicture(job.input);
-    if (picture.error != ImageImportError::None)
-        return {job.input, importErrorText(picture.error)};
-    const ExportResult result = exportPicture(std::move(picture), imageLayerName(job.input), wish);
+    const ExportResult result =
+        hasDocumentSuffix(job.input) ? exportDocument(job.input, wish, rendering) : exportPicture(job.input, wish);
     if (!result.error.isEmpty())
         return {job.input, result.error};
     QString error;
     writeExportedImage(job.output, result.bytes, &error);
     return {job.output, error};
-}
-
-/// One output in the folder for each input. An output that is an input, or that an earlier input has taken, is a
-/// failure of that input: a batch must not lose a picture.
-QList<Job> jobsInto(const QString &folder, const QString &suffix, const QStringList &inputs, Console &console)
-{
-    QList<Job> jobs;
-    QSet<QString> taken;
-    for (const QString &input : inputs)
-        taken.insert(QFileInfo(input).canonicalFilePath());
-    for (const QString &input : inputs) {
-        const QString name = QFileInfo(input).completeBaseName() + u'.' + suffix;
-        const QString output = QDir(folder).filePath(name);
-        const QFileInfo target(output);
-        const QString identity = QDir(QFileInfo(folder).canonicalFilePath()).filePath(name);
-        if (taken.contains(identity) || (target.exists() && taken.contains(target.canonicalFilePath())))
-            console.fail(input, u"The output %1 would replace another file of this call."_s.arg(output));
-        else
-            jobs.append({input, output});
-        taken.insert(identity);
-    }
-    return jobs;
 }
 
 } // namespace
@@ -148,7 +126,8 @@ ExitStatus runExport(const QStringList &words, const QString &usage)
             return wrongUsage(u"a JPEG picture cannot be transparent"_s, usage);
         if (files.isEmpty())
             return wrongUsage(u"no input is named"_s, usage);
-        jobs = jobsInto(arguments.value(u"--into"_s), exportFormat(wish.formatKey).suffix, files, console);
+        jobs = jobsInto(arguments.value(u"--into"_s), exportFormat(wish.formatKey).suffix, files, OwnInput::Protected,
+                        console);
     } else {
         if (files.size() != 2)
             return wrongUsage(u"one input and one output are needed"_s, usage);
@@ -156,18 +135,15 @@ ExitStatus runExport(const QStringList &words, const QString &usage)
             return wrongUsage(u"--format goes with --into; an output's suffix gives its format"_s, usage);
         wish.formatKey = exportFormatKeyForFile(files[1], transparent);
         if (wish.formatKey.isEmpty()) {
-            return wrongUsage(transparent ? u"a transparent output's suffix is webp or png"_s
-                                          : u"the output's suffix is jpg, jpeg, webp or png"_s,
+            return wrongUsage(transparent ? u"a transparent output's name must end in .webp or .png"_s
+                                          : u"the output's name must end in .jpg, .jpeg, .webp or .png"_s,
                               usage);
         }
         jobs = {{files[0], files[1]}};
     }
 
-    for (qsizetype i = 0; i < jobs.size(); ++i) {
-        console.progress(u"%1 of %2: %3"_s.arg(i + 1).arg(jobs.size()).arg(jobs[i].input));
-        const Outcome outcome = exportFile(jobs[i], wish);
-        console.report(outcome);
-    }
+    EffectsRendering rendering;
+    runJobs(jobs, console, [&](const Job &job) { return exportFile(job, wish, rendering); });
     return console.finish();
 }
 

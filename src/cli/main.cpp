@@ -31,7 +31,9 @@ QList<Command> commands()
          "INPUT OUTPUT\n"
          "       zelmora export [options] --into DIR [--format jpeg|webp|webpTransparent|png|pngTransparent] "
          "INPUT..."_s,
-         u"Writes flattened pictures; an output's suffix (jpg, webp, png) gives its format."_s, runExport},
+         u"Writes flattened pictures of documents and pictures; an output's suffix (jpg, webp, png) gives its "
+         "format."_s,
+         runExport},
         {u"apply"_s, u"zelmora apply --effect ID [--set KEY=VALUE]... [--effect ID ...] INPUT OUTPUT"_s,
          u"Puts effects on a picture, the first one first. PNG and WebP outputs keep transparency."_s, runApply},
         {u"effects"_s,
@@ -64,15 +66,15 @@ void keepFatalMessagesOnly(QtMsgType type, const QMessageLogContext &, const QSt
         dprintf(QuietLibraries::standardError(), "zelmora: %s\n", qPrintable(message));
 }
 
-/// Pictures are composed on the processor; effects, also those of a document, need OpenGL.
+/// Pictures are composed on the processor; effects, also those of a document that is exported, need OpenGL.
 bool mayUseOpenGL(int argc, char **argv)
 {
     if (argc < 2)
         return false;
     const QByteArray command(argv[1]);
-    return command == "apply" || command == "effects" || std::any_of(argv + 2, argv + argc, [](const char *word) {
-               return QByteArray(word).toLower().endsWith(".zelmora");
-           });
+    const auto isDocument = [](const char *word) { return QByteArray(word).toLower().endsWith(".zelmora"); };
+    return command == "apply" || command == "effects"
+        || (command == "export" && std::any_of(argv + 2, argv + argc, isDocument));
 }
 
 ExitStatus run(const QStringList &words)

@@ -1,0 +1,49 @@
+#include "cli/jobs.h"
+
+#include <QDir>
+#include <QFileInfo>
+#include <QSet>
+
+using namespace Qt::StringLiterals;
+
+namespace zm::cli {
+
+QList<Job> jobsInto(const QString &folder, const QString &suffix, const QStringList &inputs, OwnInput ownInput,
+                    Console &console)
+{
+    if (!QFileInfo(folder).isDir()) {
+        console.fail(folder, u"Choose an existing folder."_s);
+        return {};
+    }
+    QSet<QString> inputFiles;
+    for (const QString &input : inputs)
+        inputFiles.insert(QFileInfo(input).canonicalFilePath());
+    QSet<QString> taken;
+    QList<Job> jobs;
+    for (const QString &input : inputs) {
+        const QFileInfo source(input);
+        const QString name = source.completeBaseName() + u'.' + suffix;
+        const QString output = QDir(folder).filePath(name);
+        // A target that exists may be a link, and one that does not is told by its folder.
+        const QFileInfo target(output);
+        const QString identity =
+            target.exists() ? target.canonicalFilePath() : QDir(QFileInfo(folder).canonicalFilePath()).filePath(name);
+        const bool isOwnInput = ownInput == OwnInput::Replaceable && identity == source.canonicalFilePath();
+        if (taken.contains(identity) || (inputFiles.contains(identity) && !isOwnInput))
+            console.fail(input, u"The output %1 would replace another file of this call."_s.arg(output));
+        else
+            jobs.append({input, output});
+        taken.insert(identity);
+    }
+    return jobs;
+}
+
+void runJobs(const QList<Job> &jobs, Console &console, const std::function<Outcome(const Job &)> &run)
+{
+    for (qsizetype i = 0; i < jobs.size(); ++i) {
+        console.progress(u"%1 of %2: %3"_s.arg(i + 1).arg(jobs.size()).arg(jobs[i].input));
+        console.report(run(jobs[i]));
+    }
+}
+
+} // namespace zm::cli

@@ -1,0 +1,30 @@
+#pragma once
+
+#include "cli/console.h"
+
+#include <QList>
+#include <QStringList>
+
+#include <functional>
+
+namespace zm::cli {
+
+/// One input of a batch and where its result goes.
+struct Job
+{
+    QString input;
+    QString output;
+};
+
+/// Whether a result may take the place of the very input that it was made from.
+enum class OwnInput { Protected, Replaceable };
+
+/// One output in the folder for each input, under the input's base name. An output that is an input, or that an earlier
+/// input has taken, is a failure of that input: a batch must not lose a picture. Without the folder there are no jobs.
+QList<Job> jobsInto(const QString &folder, const QString &suffix, const QStringList &inputs, OwnInput ownInput,
+                    Console &console);
+
+/// Does one job after the other, showing which, and reports what fails.
+void runJobs(const QList<Job> &jobs, Console &console, const std::function<Outcome(const Job &)> &run);
+
+} // namespace zm::cli
