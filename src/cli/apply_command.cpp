@@ -1,10 +1,10 @@
 #include "cli/arguments.h"
 #include "cli/commands.h"
 #include "cli/effects_rendering.h"
+#include "cli/jobs.h"
 #include "cli/quiet_libraries.h"
-#include "document/document.h"
+#include "io/document_opening.h"
 #include "io/image_export.h"
-#include "io/image_import.h"
 
 using namespace Qt::StringLiterals;
 
@@ -36,31 +36,50 @@ QList<FilterInstance> effectsFrom(const Arguments &arguments, QString *problem)
     return effects;
 }
 
-Outcome apply(const QList<FilterInstance> &effects, const QString &input, const QString &output,
-              const QString &formatKey)
+/// Null when every layer is hidden.
+const Layer *topVisibleLayer(const Document &document)
+{
+    for (qsizetype i = document.objectCount() - 1; i >= 0; --i) {
+        const auto *layer = dynamic_cast<const Layer *>(document.objectAt(i));
+        if (layer && layer->isVisible())
+            return layer;
+    }
+    return nullptr;
+}
+
+Outcome writePicture(const Document &document, const Job &job, const QString &formatKey)
+{
+    EffectsRendering rendering;
+    QString error;
+    const std::optional<SceneSnapshot> snapshot = rendering.snapshot(document, &error);
+    if (!snapshot)
+        return {job.input, error};
+    // An effect may have grown a lone picture beyond its frame; what a document leaves outside was placed there.
+    const bool clip = hasDocumentSuffix(job.input);
+    const QSize size = defaultExportSize(exportRectangle(*snapshot, clip));
+    const ExportResult result = exportImage(*snapshot, {formatKey, kDefaultExportQuality, size, clip});
+    if (!result.error.isEmpty())
+        return {job.input, result.error};
+    writeExportedImage(job.output, result.bytes, &error);
+    return {job.output, error};
+}
+
+/// The format key is empty for an output that is a document.
+Outcome applyEffects(const Job &job, const QList<FilterInstance> &effects, const QString &formatKey)
 {
     const QuietLibraries quiet;
     Document document;
-    ImageImportResult imported = importImageLayer(input);
-    const QUuid layerId = imported.layer ? imported.layer->id() : QUuid();
-    if (imported.layer)
-        imported.error = replaceWithImage(document, std::move(imported.layer));
-    if (imported.error != ImageImportError::None)
-        return {input, importErrorText(imported.error)};
-
-    document.setLayerFilters(layerId, effects);
-    EffectsRendering rendering;
-    const SceneSnapshot snapshot = buildSceneSnapshot(document, {}, rendering.services());
-    if (const QString problem = rendering.problem(); !problem.isEmpty())
-        return {input, problem};
-    constexpr bool clip = false; // an effect may have grown the picture beyond the document
-    const QSize size = defaultExportSize(exportRectangle(snapshot, clip));
-    const ExportResult result = exportImage(snapshot, {formatKey, kDefaultExportQuality, size, clip});
-    if (!result.error.isEmpty())
-        return {input, result.error};
-    QString error;
-    writeExportedImage(output, result.bytes, &error);
-    return {output, error};
+    QString error = openDocument(document, job.input);
+    if (!error.isEmpty())
+        return {job.input, error};
+    const Layer *layer = topVisibleLayer(document);
+    if (!layer)
+        return {job.input, u"The document has no visible layer to put an effect on."_s};
+    document.setLayerFilters(layer->id(), layer->filters() + effects);
+    if (!formatKey.isEmpty())
+        return writePicture(document, job, formatKey);
+    ZelmoraDocumentIO::writeDocumentFile(document, job.output, false, &error);
+    return {job.output, error};
 }
 
 } // namespace
@@ -75,18 +94,18 @@ ExitStatus runApply(const QStringList &words, const QString &usage)
     if (problem.isEmpty() && files.size() != 2)
         problem = u"one input and one output are needed"_s;
     QString formatKey;
-    if (problem.isEmpty()) {
+    if (problem.isEmpty() && !hasDocumentSuffix(files[1])) {
         formatKey = exportFormatKeyForFile(files[1], true);
         if (formatKey.isEmpty())
             formatKey = exportFormatKeyForFile(files[1], false);
         if (formatKey.isEmpty())
-            problem = u"the output's suffix is jpg, jpeg, webp or png"_s;
+            problem = u"the output's name must end in .zelmora, .jpg, .jpeg, .webp or .png"_s;
     }
     if (!problem.isEmpty())
         return wrongUsage(problem, usage);
 
     Console console;
-    console.report(apply(effects, files[0], files[1], formatKey));
+    runJobs({{files[0], files[1]}}, console, [&](const Job &job) { return applyEffects(job, effects, formatKey); });
     return console.finish();
 }
 

@@ -17,6 +17,7 @@ struct Command
 
 ExitStatus runInfo(const QStringList &words, const QString &usage);
 ExitStatus runExport(const QStringList &words, const QString &usage);
+ExitStatus runConvert(const QStringList &words, const QString &usage);
 ExitStatus runApply(const QStringList &words, const QString &usage);
 ExitStatus runEffects(const QStringList &words, const QString &usage);
 ExitStatus runShapes(const QStringList &words, const QString &usage);

@@ -34,8 +34,16 @@ QList<Command> commands()
          u"Writes flattened pictures of documents and pictures; an output's suffix (jpg, webp, png) gives its "
          "format."_s,
          runExport},
+        {u"convert"_s,
+         u"zelmora convert [--lossy] INPUT OUTPUT.zelmora\n"
+         "       zelmora convert [--lossy] --into DIR INPUT..."_s,
+         u"Makes editable documents of pictures, SVG files and documents. Pixels are kept exactly, or with --lossy "
+         "in less room."_s,
+         runConvert},
         {u"apply"_s, u"zelmora apply --effect ID [--set KEY=VALUE]... [--effect ID ...] INPUT OUTPUT"_s,
-         u"Puts effects on a picture, the first one first. PNG and WebP outputs keep transparency."_s, runApply},
+         u"Puts effects, the first one first, on a picture or on the top visible layer of a document. An output that "
+         "ends in .zelmora keeps them editable; PNG and WebP outputs keep transparency."_s,
+         runApply},
         {u"effects"_s,
          u"zelmora effects [--json]\n"
          "       zelmora effects --sheet DIR INPUT"_s,
@@ -79,7 +87,7 @@ bool mayUseOpenGL(int argc, char **argv)
 
 ExitStatus run(const QStringList &words)
 {
-    const QString shortUsage = u"zelmora info|export|apply|effects|shapes ... (zelmora --help tells more)"_s;
+    const QString shortUsage = u"zelmora info|export|convert|apply|effects|shapes ... (zelmora --help tells more)"_s;
     if (words.isEmpty())
         return wrongUsage(u"no command is given"_s, shortUsage);
     Console console;
