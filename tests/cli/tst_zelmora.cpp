@@ -1,38 +1,17 @@
+#include "program_driver.h"
 #include "support/pictures.h"
 
 #include <QCryptographicHash>
-#include <QDir>
-#include <QFile>
 #include <QImage>
 #include <QJsonArray>
-#include <QJsonDocument>
-#include <QJsonObject>
-#include <QProcess>
-#include <QTemporaryDir>
-#include <QTest>
+#include <QUuid>
 
 #include <csignal>
 #include <sys/resource.h>
 
 using namespace zm;
+using test::Run;
 using namespace Qt::StringLiterals;
-
-namespace {
-
-struct Run
-{
-    int status = -1;
-    QString output = {};
-    QString errors = {};
-
-    friend bool operator==(const Run &a, const Run &b) = default;
-    friend char *toString(const Run &run)
-    {
-        return qstrdup(qPrintable(u"status %1, '%2', '%3'"_s.arg(run.status).arg(run.output, run.errors)));
-    }
-};
-
-} // namespace
 
 /// Drives the real program in a folder of its own, whose files are photo.jpg, drawing.svg and some broken ones.
 class TestZelmora : public QObject
@@ -42,7 +21,7 @@ class TestZelmora : public QObject
 private slots:
     void init()
     {
-        m_folder = std::make_unique<QTemporaryDir>();
+        m_program = std::make_unique<test::ProgramDriver>();
         QVERIFY(test::gradientPicture(300, 201).save(path("photo.jpg"), "jpeg", 95));
         QVERIFY(test::plainPicture(40, 40, QColor(0, 0, 255, 128)).save(path("glass.png")));
         QVERIFY(test::plainPicture(4, 4, Qt::green).save(path("tiny.png")));
@@ -54,9 +33,8 @@ private slots:
         const QByteArray photo = read("photo.jpg");
         write("cut.jpg", photo.first(photo.size() / 2));
         write("cut.png", read("glass.png").chopped(20));
-        QVERIFY(QDir(m_folder->path()).mkdir(u"folder.png"_s));
+        QVERIFY(m_program->makeFolder("folder.png"));
         m_before = listing();
-        m_process = std::make_unique<QProcess>();
     }
 
     void failuresAreOneLineAndLeaveNothing()
@@ -71,7 +49,12 @@ private slots:
             {"info --json cut.png", "cut.png: Could not load the selected image file."},
             {"export photo.jpg folder.png", "folder.png: Could not save the image: Filename refers to a directory"},
             {"export photo.jpg none/out.png", "none/out.png: Could not save the image: No such file or directory"},
-            {"export --into none photo.jpg", "none/photo.jpg: Could not save the image: No such file or directory"},
+            {"export --into none photo.jpg tiny.png", "none: Choose an existing folder."},
+            {"convert photo.jpg none/out.zelmora",
+             "none/out.zelmora: Could not open none/out.zelmora for writing: No such file or directory"},
+            {"convert empty.png out.zelmora", "empty.png: Could not load the selected image file."},
+            {"export none.ZELMORA out.jpg",
+             "none.ZELMORA: Could not open none.ZELMORA for reading: No such file or directory"},
             {"shapes none/sheet.png", "none/sheet.png: Could not save the image: No such file or directory"},
             {"apply --effect bevel cut.jpg out.jpg", "cut.jpg: Could not load the selected image file."},
             {"apply --effect bevel photo.jpg none/out.png",
@@ -96,6 +79,8 @@ private slots:
               "--quality photo.jpg", "--width 15 photo.jpg o.jpg", "--height 8193 photo.jpg o.jpg",
               "--max-side big photo.jpg o.jpg", "--transparent photo.jpg o.jpg", "--format png photo.jpg o.png"}},
             {"export --into ", {"", "folder.png", ". --format gif photo.jpg", ". --transparent photo.jpg"}},
+            {"convert ",
+             {"photo.jpg", "photo.jpg out.png", "--into .", "--into", "--quality 90 photo.jpg out.zelmora"}},
             {"apply ",
              {"photo.jpg out.png", "--effect bevel photo.jpg", "--effect bevel photo.jpg out.gif",
               "--set size=2 --effect bevel photo.jpg out.png", "--effect bevil photo.jpg out.png",
@@ -174,7 +159,7 @@ private slots:
 
     void oneBadInputDoesNotStopTheOthers()
     {
-        QVERIFY(QDir(m_folder->path()).mkdir(u"out"_s));
+        QVERIFY(m_program->makeFolder("out"));
         QCOMPARE(zelmora("export --into out --format webp photo.jpg empty.png tiny.png ./tiny.png"),
                  Run(1, {},
                      u"zelmora: ./tiny.png: The output out/tiny.webp would replace another file of this call.\n"
@@ -186,7 +171,7 @@ private slots:
     {
         write("out.png", "old");
         // Stands for a full disk: no file may grow beyond 1000 bytes.
-        m_process->setChildProcessModifier([] {
+        m_program->process().setChildProcessModifier([] {
             const rlimit limit{1000, 1000};
             setrlimit(RLIMIT_FSIZE, &limit);
             std::signal(SIGXFSZ, SIG_IGN);
@@ -200,7 +185,7 @@ private slots:
 
     void anOutputThatCannotTakeResultsIsAFailure()
     {
-        m_process->setStandardOutputFile(u"/dev/full"_s);
+        m_program->process().setStandardOutputFile(u"/dev/full"_s);
         QCOMPARE(zelmora("info tiny.png"),
                  Run(1, {}, u"zelmora: standard output: The result could not be written.\n"_s));
     }
@@ -320,52 +305,26 @@ private slots:
         for (const QString &environment :
              {u""_s, u"DISPLAY=:4711"_s, u"QT_QPA_PLATFORM=minimal"_s, u"QT_QPA_PLATFORM=xcb"_s,
               u"QT_QPA_PLATFORM=bogus"_s, u"QT_QPA_PLATFORM="_s, u"LC_ALL=C HOME=/none"_s}) {
-            m_process->setEnvironment(environment.split(u' ', Qt::SkipEmptyParts));
+            m_program->process().setEnvironment(environment.split(u' ', Qt::SkipEmptyParts));
             write("out.png", {});
             const Run drawn = zelmora("export text.svg out.png");
             QVERIFY2(drawn == Run(0), qPrintable(environment + u": "_s + drawn.errors));
             const QImage picture = QImage(path("out.png")).convertToFormat(QImage::Format_Grayscale8);
             QVERIFY2(picture.size() == white.size() && picture != white, qPrintable(environment));
-            QCOMPARE(zelmora("info x.zelmora"),
-                     Run(1, {}, u"zelmora: x.zelmora: Could not load the selected image file.\n"_s));
+            QVERIFY(
+                zelmora("export x.zelmora out.png").errors.startsWith("zelmora: x.zelmora: The .zelmora file is "_L1));
         }
     }
 
 private:
-    QString path(const char *name) const { return m_folder->filePath(QString::fromUtf8(name)); }
+    QString path(const char *name) const { return m_program->path(name); }
+    void write(const QByteArray &name, const QByteArray &bytes) const { m_program->write(name, bytes); }
+    QByteArray read(const char *name) const { return m_program->read(name); }
+    QStringList listing() const { return m_program->listing(); }
+    Run zelmora(const QByteArray &arguments) const { return m_program->run(arguments); }
 
-    void write(const QByteArray &name, const QByteArray &bytes) const
-    {
-        QFile file(path(name.constData()));
-        QVERIFY(file.open(QIODevice::WriteOnly));
-        QCOMPARE(file.write(bytes), bytes.size());
-    }
-
-    QByteArray read(const char *name) const
-    {
-        QFile file(path(name));
-        return file.open(QIODevice::ReadOnly) ? file.readAll() : QByteArray();
-    }
-
-    QStringList listing() const
-    {
-        return QDir(m_folder->path()).entryList(QDir::AllEntries | QDir::Hidden | QDir::NoDotAndDotDot);
-    }
-
-    /// The arguments are separated by spaces.
-    Run zelmora(const QByteArray &arguments) const
-    {
-        m_process->setWorkingDirectory(m_folder->path());
-        m_process->start(QStringLiteral(ZELMORA_PROGRAM), QString::fromUtf8(arguments).split(u' ', Qt::SkipEmptyParts));
-        if (!m_process->waitForFinished() || m_process->exitStatus() != QProcess::NormalExit)
-            return {};
-        return {m_process->exitCode(), QString::fromUtf8(m_process->readAllStandardOutput()),
-                QString::fromUtf8(m_process->readAllStandardError())};
-    }
-
-    std::unique_ptr<QTemporaryDir> m_folder;
+    std::unique_ptr<test::ProgramDriver> m_program;
     QStringList m_before;
-    std::unique_ptr<QProcess> m_process;
 };
 
 QTEST_GUILESS_MAIN(TestZelmora)
