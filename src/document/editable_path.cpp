@@ -1,6 +1,9 @@
 #include "document/editable_path.h"
 
+#include "base/sanitize.h"
+
 #include <QRandomGenerator>
+#include <QSet>
 
 #include <algorithm>
 #include <array>
@@ -11,6 +14,10 @@ namespace zm {
 
 namespace {
 
+// What the document file takes.
+constexpr qsizetype kMaximumContours = 1'000'000;
+constexpr qsizetype kMaximumNodes = 1'000'000;
+
 void addSegment(QPainterPath &outline, const EditablePathNode &from, const EditablePathNode &to)
 {
     if (!from.hasOutControl && !to.hasInControl)
@@ -18,6 +25,34 @@ void addSegment(QPainterPath &outline, const EditablePathNode &from, const Edita
     else
         outline.cubicTo(from.hasOutControl ? from.outControl : from.anchor, to.hasInControl ? to.inControl : to.anchor,
                         to.anchor);
+}
+
+bool hasFinitePoints(const EditablePathNode &node)
+{
+    return isFinite(node.anchor) && isFinite(node.inControl) && isFinite(node.outControl);
+}
+
+bool isKnownType(EditablePathNode::Type type)
+{
+    using enum EditablePathNode::Type;
+    return type == Corner || type == Smooth || type == Symmetric;
+}
+
+bool isClean(const EditablePath &path)
+{
+    if (path.contours.size() > kMaximumContours)
+        return false;
+    QSet<QUuid> ids;
+    for (const EditablePathContour &contour : path.contours) {
+        if (contour.nodes.size() > kMaximumNodes)
+            return false;
+        for (const EditablePathNode &node : contour.nodes) {
+            if (!hasFinitePoints(node) || !isKnownType(node.type) || node.id.isNull() || ids.contains(node.id))
+                return false;
+            ids.insert(node.id);
+        }
+    }
+    return true;
 }
 
 } // namespace
@@ -131,6 +166,28 @@ EditablePath withoutEmptyContours(const EditablePath &path)
     EditablePath result = path;
     result.contours.removeIf([](const EditablePathContour &contour) { return contour.nodes.isEmpty(); });
     return result;
+}
+
+EditablePath cleanedPath(EditablePath path)
+{
+    if (isClean(path))
+        return path; // and goes on sharing its nodes
+    if (path.contours.size() > kMaximumContours)
+        path.contours.resize(kMaximumContours);
+    QSet<QUuid> ids;
+    for (EditablePathContour &contour : path.contours) {
+        contour.nodes.removeIf([](const EditablePathNode &node) { return !hasFinitePoints(node); });
+        if (contour.nodes.size() > kMaximumNodes)
+            contour.nodes.resize(kMaximumNodes);
+        for (EditablePathNode &node : contour.nodes) {
+            if (!isKnownType(node.type))
+                node.type = EditablePathNode::Type::Corner;
+            if (node.id.isNull() || ids.contains(node.id))
+                node.id = newNodeId();
+            ids.insert(node.id);
+        }
+    }
+    return path;
 }
 
 qint64 memoryBytes(const EditablePath &path)

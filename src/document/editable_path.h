@@ -83,6 +83,10 @@ QString svgPathText(const QPainterPath &outline);
 /// The path without contours that have no node.
 EditablePath withoutEmptyContours(const EditablePath &path);
 
+/// The path as a document can hold it: nodes with finite coordinates and known types, ids present and unique, and no
+/// more contours and nodes than a file takes.
+EditablePath cleanedPath(EditablePath path);
+
 /// The bytes that an undo step holding the path answers for: capacities, not sizes, since those are what is allocated.
 qint64 memoryBytes(const EditablePath &path);
 

@@ -37,7 +37,7 @@ std::optional<EditablePath> normalizedRasterSelection(const std::optional<Editab
                 node.outControl = clampedInto(layerSize, node.outControl);
         }
     }
-    return path;
+    return cleanedPath(std::move(path));
 }
 
 ImageLayer::ImageLayer(const QImage &image, const QString &name, const QUuid &id)

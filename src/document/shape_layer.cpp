@@ -8,7 +8,6 @@
 #include "generators/shape_generator_registry.h"
 
 #include <QPainter>
-#include <QSet>
 
 #include <algorithm>
 #include <cmath>
@@ -17,10 +16,8 @@ namespace zm {
 
 namespace {
 
-// What the document file takes.
+/// What the document file takes.
 constexpr double kMaximumSide = 1'000'000.0;
-constexpr qsizetype kMaximumContours = 1'000'000;
-constexpr qsizetype kMaximumNodes = 1'000'000;
 
 /// A box of more pixels than a raster may have could be neither drawn nor saved: it is reduced in proportion.
 QSizeF cleanBox(const QSizeF &size)
@@ -30,56 +27,6 @@ QSizeF cleanBox(const QSizeF &size)
         return box;
     const double factor = std::sqrt(double(kMaximumRasterPixels) / (box.width() * box.height()));
     return {std::floor(box.width() * factor), std::floor(box.height() * factor)};
-}
-
-bool hasFinitePoints(const EditablePathNode &node)
-{
-    return isFinite(node.anchor) && isFinite(node.inControl) && isFinite(node.outControl);
-}
-
-bool isKnownType(EditablePathNode::Type type)
-{
-    using enum EditablePathNode::Type;
-    return type == Corner || type == Smooth || type == Symmetric;
-}
-
-bool isClean(const EditablePath &path)
-{
-    if (path.contours.size() > kMaximumContours)
-        return false;
-    QSet<QUuid> ids;
-    for (const EditablePathContour &contour : path.contours) {
-        if (contour.nodes.size() > kMaximumNodes)
-            return false;
-        for (const EditablePathNode &node : contour.nodes) {
-            if (!hasFinitePoints(node) || !isKnownType(node.type) || node.id.isNull() || ids.contains(node.id))
-                return false;
-            ids.insert(node.id);
-        }
-    }
-    return true;
-}
-
-EditablePath cleanPath(EditablePath path)
-{
-    if (isClean(path))
-        return path; // and goes on sharing its nodes
-    if (path.contours.size() > kMaximumContours)
-        path.contours.resize(kMaximumContours);
-    QSet<QUuid> ids;
-    for (EditablePathContour &contour : path.contours) {
-        contour.nodes.removeIf([](const EditablePathNode &node) { return !hasFinitePoints(node); });
-        if (contour.nodes.size() > kMaximumNodes)
-            contour.nodes.resize(kMaximumNodes);
-        for (EditablePathNode &node : contour.nodes) {
-            if (!isKnownType(node.type))
-                node.type = EditablePathNode::Type::Corner;
-            if (node.id.isNull() || ids.contains(node.id))
-                node.id = newNodeId();
-            ids.insert(node.id);
-        }
-    }
-    return path;
 }
 
 /// Qt's smooth rasteriser keeps a list of edges for each row of pixels and walks it for each edge, so its time grows
@@ -112,7 +59,7 @@ bool operator==(const SizedShapeGeometry &a, const SizedShapeGeometry &b)
 ShapeGeometry cleanGeometry(const ShapeGeometry &geometry)
 {
     const EditablePath *path = std::get_if<EditablePath>(&geometry);
-    return path ? ShapeGeometry(cleanPath(*path)) : geometry;
+    return path ? ShapeGeometry(cleanedPath(*path)) : geometry;
 }
 
 SizedShapeGeometry cleanGeometry(const SizedShapeGeometry &geometry)

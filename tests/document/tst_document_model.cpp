@@ -345,6 +345,11 @@ private slots:
         QCOMPARE(nodes[2].outControl, QPointF(99, 4));
 
         QVERIFY(!layer.setRasterSelection(outside));
+        // No file takes a node twice.
+        const EditablePathContour twice{{given[0], given[0]}, true};
+        QVERIFY(layer.setRasterSelection(EditablePath{{twice}}));
+        const QList<EditablePathNode> &parted = layer.rasterSelection()->contours[0].nodes;
+        QVERIFY(parted.size() == 2 && parted[0].id == given[0].id && parted[1].id != parted[0].id);
         QVERIFY(layer.setRasterSelection(EditablePath{{EditablePathContour()}, Qt::OddEvenFill}));
         QVERIFY(!layer.setRasterSelection(std::nullopt));
         QVERIFY(!ImageLayer(QImage(), u"b"_s).setRasterSelection(outside));
