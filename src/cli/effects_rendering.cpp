@@ -3,30 +3,13 @@
 #include "cli/parameter_text.h"
 #include "document/document.h"
 #include "filters/filter_registry.h"
-
-#include <QCoreApplication>
+#include "io/exported_effects.h"
 
 using namespace Qt::StringLiterals;
 
 namespace zm::cli {
 
 namespace {
-
-/// The ids of the enabled effects on visible layers: what is hidden is not exported.
-QStringList enabledEffects(const Document &document)
-{
-    QStringList ids;
-    for (qsizetype i = 0; i < document.objectCount(); ++i) {
-        const auto *layer = dynamic_cast<const Layer *>(document.objectAt(i));
-        if (!layer || !layer->isVisible())
-            continue;
-        for (const FilterInstance &filter : layer->filters()) {
-            if (filter.enabled)
-                ids.append(filter.filterId);
-        }
-    }
-    return ids;
-}
 
 bool isKnown(const QString &effectId)
 {
@@ -37,13 +20,10 @@ bool isKnown(const QString &effectId)
 
 std::optional<SceneSnapshot> EffectsRendering::snapshot(const Document &document, QString *problem)
 {
-    const QStringList effects = enabledEffects(document);
-    if (effects.contains("renaissance"_L1)) {
-        *problem = QCoreApplication::translate("zm::ExportController",
-                                               "An enabled style transfer filter cannot be exported yet. Disable or "
-                                               "remove the filter before exporting.");
+    const QStringList effects = exportedEffects(document);
+    *problem = exportRefusal(effects);
+    if (!problem->isEmpty())
         return std::nullopt;
-    }
     if (std::ranges::any_of(effects, isKnown) && m_renderer.maximumTextureSize() == 0) {
         *problem = this->problem();
         return std::nullopt;

@@ -4,7 +4,7 @@
 #include "document/scene_renderer.h"
 #include "editor/document_file_controller.h"
 #include "editor/export_preview_image_store.h"
-#include "filters/filter_registry.h"
+#include "io/exported_effects.h"
 #include "io/file_names.h"
 
 #include <QFileInfo>
@@ -20,30 +20,6 @@ using namespace Qt::StringLiterals;
 namespace zm {
 
 namespace {
-
-/// The one filter whose result comes later than it is asked for, and may be missing from a frozen scene.
-constexpr QLatin1StringView kStyleTransferFilterId("renaissance");
-
-template<typename Predicate>
-bool anyEnabledFilter(const Document &document, Predicate predicate)
-{
-    for (qsizetype i = 0; i < document.objectCount(); ++i) {
-        const auto *layer = dynamic_cast<const Layer *>(document.objectAt(i));
-        if (!layer || !layer->isVisible()) // what is hidden is not exported
-            continue;
-        for (const FilterInstance &instance : layer->filters()) {
-            if (instance.enabled && predicate(instance.filterId))
-                return true;
-        }
-    }
-    return false;
-}
-
-bool prefersTransparency(const QString &filterId)
-{
-    const Filter *filter = FilterRegistry::instance().find(filterId);
-    return filter && filter->flags().testFlag(FilterFlag::PrefersTransparentExport);
-}
 
 /// The name of the lowest picture, as a file name.
 QString suggestedName(const Document &document)
@@ -198,15 +174,15 @@ QUrl ExportController::suggestedFileUrl() const
 
 bool ExportController::begin(bool clipToDocument)
 {
-    if (anyEnabledFilter(*m_document, [](const QString &id) { return id == kStyleTransferFilterId; }))
-        return fail(tr("An enabled style transfer filter cannot be exported yet. Disable or remove the filter before "
-                       "exporting."));
+    const QStringList effects = exportedEffects(*m_document);
+    if (const QString refusal = exportRefusal(effects); !refusal.isEmpty())
+        return fail(refusal);
     if (m_sessionSaveBusy)
         return fail(tr("Wait for the current save to finish."));
     stopPreview();
     m_open = true;
     m_snapshot = buildSceneSnapshot(*m_document, {}, m_services);
-    m_prefersTransparentExport = anyEnabledFilter(*m_document, prefersTransparency);
+    m_prefersTransparentExport = zm::prefersTransparentExport(effects);
     m_suggestedName = suggestedName(*m_document);
     takeSettings(clipToDocument);
     setError({});
