@@ -167,11 +167,27 @@ QStringList namesOf(const ParameterDefinition &definition)
         addOptions(choice->options);
     } else if (const auto *textures = std::get_if<TexturePickerParameter>(&definition)) {
         addOptions(textures->options);
+    } else if (const auto *button = std::get_if<ColorPresetParameter>(&definition)) {
+        for (const ColorPreset &preset : button->presets)
+            names.append(preset.label);
     } else if (std::holds_alternative<ShapeParameter>(definition)) {
         for (const auto &generator : ShapeGeneratorRegistry::instance().generators())
             names.append(generator->id());
     }
     return names;
+}
+
+/// False for a control without presets and for a preset that it does not have.
+bool setPreset(ParameterValues &values, const ParameterDefinition &definition, const QString &label)
+{
+    const auto *control = std::get_if<ColorPresetParameter>(&definition);
+    if (!control)
+        return false;
+    const auto preset = std::ranges::find(control->presets, label, &ColorPreset::label);
+    if (preset == control->presets.end())
+        return false;
+    applyPreset(values, *control, *preset);
+    return true;
 }
 
 } // namespace
@@ -203,7 +219,7 @@ QString setParameterFromText(ParameterValues &values, const QList<ParameterDefin
         return u"unknown key %1; the keys are %2"_s.arg(key, keys.join(", "_L1));
     }
     const std::optional<ParameterValue> value = parameterValueFromText(*definition, text);
-    if (value && values.set(key, *value))
+    if ((value && values.set(key, *value)) || setPreset(values, *definition, text))
         return {};
     const QString problem = u"%1 cannot be \"%2\""_s.arg(key, text);
     const QStringList names = namesOf(*definition);

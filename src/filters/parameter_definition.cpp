@@ -176,6 +176,16 @@ ParameterDefinition integerParameter(const QString &id, const QString &label, qi
     return parameter;
 }
 
+void applyPreset(ParameterValues &values, const ColorPresetParameter &control, const ColorPreset &preset)
+{
+    for (const QString &key : control.resetKeys)
+        values.remove(key);
+    for (qsizetype i = 0; i < preset.colors.size(); ++i)
+        values.set(control.target + QString::number(i), preset.colors[i]);
+    for (const auto &[key, value] : preset.parameters.entries().asKeyValueRange())
+        values.set(key, value);
+}
+
 const ParameterDefinition *findParameter(const QList<ParameterDefinition> &definitions, const QString &id)
 {
     const auto found = std::ranges::find_if(

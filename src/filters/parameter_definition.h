@@ -196,6 +196,10 @@ qint64 snapped(qint64 value, qint64 minimum, qint64 maximum, qint64 step);
 /// own value. Nothing for a value of another kind, a text that is no option, too many lights, and for a button.
 std::optional<ParameterValue> acceptedValue(const ParameterDefinition &definition, const ParameterValue &value);
 
+/// Puts what a preset of the control sets into values: first the keys to reset go, then come the colours, and over them
+/// the preset's further values.
+void applyPreset(ParameterValues &values, const ColorPresetParameter &control, const ColorPreset &preset);
+
 /// An option's value as text, by which options are compared: a stored text may name an integer option and the other way
 /// round. Nothing for values that no option has.
 std::optional<QString> optionText(const ParameterValue &value);

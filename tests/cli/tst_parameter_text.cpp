@@ -81,6 +81,31 @@ private slots:
         QVERIFY(lights[0] == first);
         QVERIFY(lights[0].id != lights[1].id);
     }
+
+    void presetsSetWhatTheyHold()
+    {
+        ColorPresetParameter button;
+        button.id = u"look"_s;
+        button.target = u"tone"_s;
+        button.resetKeys = {u"old"_s};
+        ColorPreset night{u"Night"_s, {Qt::black, Qt::blue}, {}};
+        night.parameters.set(u"amount"_s, 3.0);
+        night.parameters.set(u"tone1"_s, QColor(Qt::red));
+        button.presets = {night};
+        ParameterValues values;
+        values.set(u"old"_s, 1.0);
+        values.set(u"kept"_s, 2.0);
+        QCOMPARE(cli::setParameterFromText(values, {button}, u"look=Night"_s), QString());
+        ParameterValues expected;
+        expected.set(u"kept"_s, 2.0);
+        expected.set(u"tone0"_s, QColor(Qt::black));
+        expected.set(u"tone1"_s, QColor(Qt::red));
+        expected.set(u"amount"_s, 3.0);
+        QVERIFY(values == expected);
+        QCOMPARE(cli::setParameterFromText(values, {button}, u"look=night"_s),
+                 u"look cannot be \"night\"; it takes Night"_s);
+        QVERIFY(values == expected);
+    }
 };
 
 QTEST_GUILESS_MAIN(TestParameterText)
