@@ -44,6 +44,7 @@ void print(const QList<zm::bench::BenchRow> &rows)
 } // namespace
 
 // zelmora_bench [GROUP]: prints a table of medians, each beside the floor measured in the same run.
+// zelmora_bench effects PART: of the effects whose id contains PART.
 int main(int argc, char **argv)
 {
     zm::keepFreedMemoryWarm();
