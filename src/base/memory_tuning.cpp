@@ -20,4 +20,11 @@ void keepFreedMemoryWarm()
 #endif
 }
 
+void giveFreedMemoryBack()
+{
+#if defined(__GLIBC__)
+    malloc_trim(0);
+#endif
+}
+
 } // namespace zm

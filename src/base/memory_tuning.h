@@ -7,4 +7,7 @@ namespace zm {
 /// more than the copying. Called once at the start of each program; without effect where the C library is not glibc.
 void keepFreedMemoryWarm();
 
+/// Gives all of it back to the system, for once: so that one large operation needs less at its peak.
+void giveFreedMemoryBack();
+
 } // namespace zm

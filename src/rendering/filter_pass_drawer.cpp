@@ -1,5 +1,7 @@
 #include "rendering/filter_pass_drawer.h"
 
+#include "base/memory_tuning.h"
+#include "rendering/image_transfer.h"
 #include "rendering/rendering_log.h"
 #include "rendering/shader_stage.h"
 
@@ -66,6 +68,8 @@ FilterPassDrawer::~FilterPassDrawer()
         functions()->glDeleteBuffers(std::size(buffers), buffers);
         functions()->glDeleteVertexArrays(1, &m_quadVertexArray);
     }
+    for (auto &pixel : m_pixels)
+        pixel.reset();
     m_filterPrograms.clear();
 }
 
@@ -123,7 +127,7 @@ bool FilterPassDrawer::loadEntry(const FilterShaderDescriptor &descriptor, Filte
 }
 
 bool FilterPassDrawer::drawPass(const QString &shaderId, std::span<const GLuint> textures,
-                                QOpenGLFramebufferObject *target, QByteArrayView uniformBytes)
+                                QOpenGLFramebufferObject *target, QByteArrayView uniformBytes, const QRect &area)
 {
     OpenGLProgram *program = filterProgram(shaderId);
     if (!program || !target || textures.empty() || std::ranges::find(textures, 0U) != textures.end())
@@ -133,7 +137,8 @@ bool FilterPassDrawer::drawPass(const QString &shaderId, std::span<const GLuint>
 
     QOpenGLExtraFunctions *gl = functions();
     gl->glBindFramebuffer(GL_FRAMEBUFFER, target->handle());
-    gl->glViewport(0, 0, target->width(), target->height());
+    const QRect drawn = area.isEmpty() ? QRect({}, target->size()) : area;
+    gl->glViewport(drawn.x(), drawn.y(), drawn.width(), drawn.height());
     gl->glDisable(GL_DEPTH_TEST);
     gl->glDisable(GL_BLEND);
     if (!program->bind())
@@ -164,6 +169,19 @@ bool FilterPassDrawer::drawPass(const QString &shaderId, std::span<const GLuint>
     }
     program->release();
     return true;
+}
+
+void FilterPassDrawer::giveMemoryBack()
+{
+    for (auto &pixel : m_pixels) {
+        if (!pixel)
+            pixel = createFramebuffer(functions(), {1, 1});
+    }
+    functions()->glFinish();
+    const GLuint name = m_pixels[0] ? m_pixels[0]->texture() : 0;
+    drawPass(u"textureCopy"_s, {&name, 1}, m_pixels[1].get());
+    functions()->glFinish();
+    giveFreedMemoryBack();
 }
 
 bool FilterPassDrawer::feedUniforms(const FilterProgramEntry &entry, QByteArrayView uniformBytes)

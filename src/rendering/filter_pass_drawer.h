@@ -6,6 +6,7 @@
 
 #include <QByteArrayView>
 #include <QList>
+#include <QRect>
 #include <QString>
 #include <qopengl.h>
 
@@ -34,10 +35,16 @@ public:
     /// Links the shader if it is not yet; null when it is unknown, broken, or does not declare what the catalogue says.
     OpenGLProgram *filterProgram(const QString &shaderId);
 
-    /// Draws over all of `target`, without blending. Texture i is bound to the catalogue's sampler i; `uniformBytes`
-    /// hold a vec4 for each of its uniforms. False, with nothing drawn, when anything does not fit.
+    /// Draws over all of `target`, or over `area` of it, without blending. Texture i is bound to the catalogue's
+    /// sampler i; `uniformBytes` hold a vec4 for each of its uniforms. False, with nothing drawn, when anything does
+    /// not fit.
     bool drawPass(const QString &shaderId, std::span<const GLuint> textures, QOpenGLFramebufferObject *target,
-                  QByteArrayView uniformBytes = {});
+                  QByteArrayView uniformBytes = {}, const QRect &area = {});
+
+    /// Finishes what was drawn and gives the memory of deleted textures back to the system. A software driver holds on
+    /// to what its last draw used until the next one, and the C library finds a place for a picture among freed ones
+    /// only if it is no smaller. Costs the page faults of the next pictures.
+    void giveMemoryBack();
 
 private:
     struct FilterProgramEntry
@@ -56,6 +63,7 @@ private:
     OffscreenContext &m_context;
     const FilterShaderCatalog &m_catalog;
     std::map<QString, FilterProgramEntry> m_filterPrograms;
+    std::unique_ptr<QOpenGLFramebufferObject> m_pixels[2]; ///< one pixel each
     GLuint m_quadVertexArray = 0;
     GLuint m_quadVertexBuffer = 0;
     GLuint m_filterUniformBuffer = 0;

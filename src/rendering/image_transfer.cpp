@@ -33,52 +33,39 @@ void clearErrors(QOpenGLExtraFunctions *functions)
 
 } // namespace
 
-void OwnedTexture::reset()
+bool fillFramebuffer(QOpenGLExtraFunctions *functions, const QOpenGLFramebufferObject &framebuffer, const QImage &image)
 {
-    if (m_name != 0)
-        m_functions->glDeleteTextures(1, &m_name);
-    m_name = 0;
-}
-
-OwnedTexture uploadTexture(QOpenGLExtraFunctions *functions, const QImage &image, TextureEdge edge)
-{
-    if (image.isNull())
-        return {};
-    GLint maximumSide = 0;
-    functions->glGetIntegerv(GL_MAX_TEXTURE_SIZE, &maximumSide);
-    if (std::max(image.width(), image.height()) > maximumSide) {
-        qCWarning(lcTexture) << "Picture exceeds the texture limit" << image.size() << maximumSide;
-        return {};
-    }
-
-    GLuint name = 0;
-    functions->glGenTextures(1, &name);
-    OwnedTexture texture(functions, name);
-    functions->glBindTexture(GL_TEXTURE_2D, name);
-    setSampling(functions, edge);
+    if (image.size() != framebuffer.size())
+        return false;
+    functions->glBindTexture(GL_TEXTURE_2D, framebuffer.texture());
     functions->glPixelStorei(GL_UNPACK_ALIGNMENT, 1);
     // A QImage over somebody else's memory may have longer rows than its width says.
     functions->glPixelStorei(GL_UNPACK_ROW_LENGTH, GLint(image.bytesPerLine() / kBytesPerPixel));
     clearErrors(functions);
-    functions->glTexImage2D(GL_TEXTURE_2D, 0, GL_RGBA8, image.width(), image.height(), 0, GL_RGBA, GL_UNSIGNED_BYTE,
-                            image.constBits());
+    functions->glTexSubImage2D(GL_TEXTURE_2D, 0, 0, 0, image.width(), image.height(), GL_RGBA, GL_UNSIGNED_BYTE,
+                               image.constBits());
     const GLenum error = functions->glGetError();
     functions->glPixelStorei(GL_UNPACK_ROW_LENGTH, 0);
     functions->glBindTexture(GL_TEXTURE_2D, 0);
-    if (error != GL_NO_ERROR) {
+    if (error != GL_NO_ERROR)
         qCWarning(lcTexture) << "Upload of a picture failed" << image.size() << Qt::hex << error;
-        return {};
-    }
-    return texture;
+    return error == GL_NO_ERROR;
+}
+
+void setTextureEdge(QOpenGLExtraFunctions *functions, GLuint texture, TextureEdge edge)
+{
+    functions->glBindTexture(GL_TEXTURE_2D, texture);
+    setSampling(functions, edge);
+    functions->glBindTexture(GL_TEXTURE_2D, 0);
 }
 
 std::unique_ptr<QOpenGLFramebufferObject> createFramebuffer(QOpenGLExtraFunctions *functions, const QSize &size,
-                                                            TextureEdge edge)
+                                                            TextureEdge edge, bool keepsRedOnly)
 {
     QOpenGLFramebufferObjectFormat format;
     format.setAttachment(QOpenGLFramebufferObject::NoAttachment);
     format.setTextureTarget(GL_TEXTURE_2D);
-    format.setInternalTextureFormat(GL_RGBA8);
+    format.setInternalTextureFormat(keepsRedOnly ? GL_R8 : GL_RGBA8);
     auto framebuffer = std::make_unique<QOpenGLFramebufferObject>(size, format);
     if (!framebuffer->isValid()) {
         qCWarning(lcTexture) << "Framebuffer refused" << size;
@@ -86,6 +73,11 @@ std::unique_ptr<QOpenGLFramebufferObject> createFramebuffer(QOpenGLExtraFunction
     }
     functions->glBindTexture(GL_TEXTURE_2D, framebuffer->texture());
     setSampling(functions, edge);
+    if (keepsRedOnly) {
+        functions->glTexParameteri(GL_TEXTURE_2D, GL_TEXTURE_SWIZZLE_G, GL_RED);
+        functions->glTexParameteri(GL_TEXTURE_2D, GL_TEXTURE_SWIZZLE_B, GL_RED);
+        functions->glTexParameteri(GL_TEXTURE_2D, GL_TEXTURE_SWIZZLE_A, GL_ONE);
+    }
     functions->glBindTexture(GL_TEXTURE_2D, 0);
     return framebuffer;
 }

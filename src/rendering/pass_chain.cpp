@@ -5,6 +5,7 @@
 
 #include <algorithm>
 #include <cmath>
+#include <utility>
 
 using namespace Qt::StringLiterals;
 
@@ -14,11 +15,24 @@ namespace {
 
 constexpr double kMaximumBoxRadius = 16.0;
 constexpr double kGaussianWorkingSigma = 10.0;
-constexpr double kReducedWorkingSigma = 4.0; // the sampler of a later pass enlarges, so less is enough
 
 bool isTooSmallToSee(double blur)
 {
     return !std::isfinite(blur) || blur < kSmallestBlur;
+}
+
+/// One step towards a smaller size: half of each side, rounded up.
+QSize reduced(const QSize &current, const QSize &goal)
+{
+    const auto side = [](int from, int to) { return std::max({to, (from + 1) / 2, 1}); };
+    return {side(current.width(), goal.width()), side(current.height(), goal.height())};
+}
+
+/// One step towards a larger size: each side doubled.
+QSize enlarged(const QSize &current, const QSize &goal)
+{
+    const auto side = [](int from, int to) { return std::min(std::max(from * 2, 1), to); };
+    return {side(current.width(), goal.width()), side(current.height(), goal.height())};
 }
 
 } // namespace
@@ -46,9 +60,9 @@ PassChain::Picture PassChain::gaussianBlur(Picture input, double sigma)
     return blur(input, sigma, kGaussianWorkingSigma, TextureEdge::Clamp, true);
 }
 
-PassChain::Picture PassChain::reducedBlur(Picture input, double sigma, TextureEdge edge)
+PassChain::Picture PassChain::reducedBlur(Picture input, double sigma, TextureEdge edge, double workingSigma)
 {
-    return blur(input, sigma, kReducedWorkingSigma, edge, false);
+    return blur(input, sigma, workingSigma, edge, false);
 }
 
 PassChain::Picture PassChain::boxBlur(Picture input, double radius)
@@ -71,10 +85,32 @@ QSize PassChain::size(Picture picture) const
     return m_steps[qsizetype(picture)].size;
 }
 
-PassChain::Picture PassChain::append(const QSize &size, const std::variant<Source, Pass, Blur> &work)
+PassChain::Picture PassChain::append(const QSize &size, const std::variant<Source, Pass, Stack> &work)
 {
     m_steps.append({size, work});
     return Picture(m_steps.size() - 1);
+}
+
+PassChain::Picture PassChain::keepRed(Picture picture)
+{
+    if (auto *pass = std::get_if<Pass>(&m_steps[qsizetype(picture)].work))
+        pass->keepsRedOnly = true;
+    return picture;
+}
+
+PassChain::Picture PassChain::stacked(Picture picture, Picture map, int maximumSide)
+{
+    const QSize top = size(picture);
+    const QSize bottom = size(map);
+    const bool below = top.height() + bottom.height() <= maximumSide;
+    QSize whole = below ? QSize(std::max(top.width(), bottom.width()), top.height() + bottom.height())
+                        : QSize(top.width() + bottom.width(), top.height());
+    // The reader tells the two ways by the height: beside the picture nothing may be taller.
+    const bool fits =
+        std::max(whole.width(), whole.height()) <= maximumSide && (below || bottom.height() <= top.height());
+    if (!fits || top.isEmpty() || bottom.isEmpty())
+        whole = {};
+    return append(whole, Stack{{picture, map}, below ? QPoint(0, top.height()) : QPoint(top.width(), 0)});
 }
 
 PassChain::Picture PassChain::blur(Picture input, double sigma, double maximumWorkingSigma, TextureEdge edge,
@@ -82,9 +118,25 @@ PassChain::Picture PassChain::blur(Picture input, double sigma, double maximumWo
 {
     if (isTooSmallToSee(sigma))
         return input;
-    const QSize pixels =
-        restoreSize ? size(input) : BlurPlan::make(size(input), sigma, maximumWorkingSigma).workingSize;
-    return append(pixels, Blur{input, sigma, maximumWorkingSigma, edge, restoreSize});
+    const auto *source = std::get_if<Pass>(&m_steps[qsizetype(input)].work);
+    const bool keepsRedOnly = source && source->keepsRedOnly;
+    const auto drawn = [&](const QString &shaderId, const QSize &pixels, const QByteArray &uniforms = {}) {
+        input = append(pixels, Pass{shaderId, {input}, uniforms, edge, keepsRedOnly});
+    };
+
+    const QSize original = size(input);
+    const BlurPlan plan = BlurPlan::make(original, sigma, maximumWorkingSigma);
+    const QSize &working = plan.workingSize;
+    for (QSize step = original; step != working;)
+        drawn(u"textureCopy"_s, step = reduced(step, working));
+    for (const auto &[x, y] : {std::pair(1.0F, 0.0F), std::pair(0.0F, 1.0F)}) {
+        drawn(u"gaussianBlur"_s, working,
+              uniformBytes({{x, y, 1.0F / float(working.width()), 1.0F / float(working.height())},
+                            {float(plan.workingSigma), float(plan.kernelRadius), 0.0F, 0.0F}}));
+    }
+    for (QSize step = working; restoreSize && step != original;)
+        drawn(u"textureCopy"_s, step = enlarged(step, original));
+    return input;
 }
 
 } // namespace zm

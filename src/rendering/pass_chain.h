@@ -6,6 +6,7 @@
 #include <QByteArray>
 #include <QImage>
 #include <QList>
+#include <QPoint>
 #include <QSize>
 #include <QString>
 
@@ -35,11 +36,21 @@ public:
     Picture libraryShader(const QString &shaderId, const QSize &size, const QList<Picture> &inputs,
                           const QByteArray &uniforms);
 
+    /// Keeps only the red of what a pass makes, in a quarter of the memory: later passes read it as grey with alpha 1,
+    /// and keep no more of a blur of it. Nothing is lost where a shader writes an opaque grey or its readers use only
+    /// red. Not for the result of a chain.
+    Picture keepRed(Picture picture);
+
+    /// A picture and a map, a pixel of one a pixel of the other, in one picture for shaders with a single sampler;
+    /// common/stacked.glsl reads it. The map lies below the picture, or beside it where `maximumSide` pixels, a
+    /// texture's longest side, leave no room below. Of no size, so that the chain fails, when neither way has room.
+    Picture stacked(Picture picture, Picture map, int maximumSide);
+
     /// A Gaussian blur with sigma in pixels of `input`; the input itself when sigma is under 0.5 or not finite.
     Picture gaussianBlur(Picture input, double sigma);
     /// The same without the last step: a picture of a reduced size, for a shader that reads it with linear filtering.
-    /// About a third cheaper for large sigmas.
-    Picture reducedBlur(Picture input, double sigma, TextureEdge edge = TextureEdge::Clamp);
+    /// About a third cheaper for large sigmas. In that picture sigma is at most `workingSigma` pixels.
+    Picture reducedBlur(Picture input, double sigma, TextureEdge edge = TextureEdge::Clamp, double workingSigma = 4.0);
     /// The mean over a square; the radius, in pixels, is at most 16. The input itself when it is under 0.5 or not
     /// finite.
     Picture boxBlur(Picture input, double radius);
@@ -87,26 +98,25 @@ public:
         QString shaderId;
         QList<Picture> inputs;
         QByteArray uniforms;
+        TextureEdge edge = TextureEdge::Clamp; ///< of the picture that it makes
+        bool keepsRedOnly = false;
     };
-    struct Blur
+    struct Stack
     {
-        Picture input;
-        double sigma;
-        double maximumWorkingSigma;
-        TextureEdge edge;
-        bool restoreSize;
+        QList<Picture> inputs; ///< the picture and the map
+        QPoint mapOrigin;
     };
     struct Step
     {
         QSize size; ///< of the picture that the step makes
-        std::variant<Source, Pass, Blur> work;
+        std::variant<Source, Pass, Stack> work;
     };
 
     /// In the order in which they are carried out; a step reads earlier ones only. The index is the picture.
     const QList<Step> &steps() const { return m_steps; }
 
 private:
-    Picture append(const QSize &size, const std::variant<Source, Pass, Blur> &work);
+    Picture append(const QSize &size, const std::variant<Source, Pass, Stack> &work);
     Picture blur(Picture input, double sigma, double maximumWorkingSigma, TextureEdge edge, bool restoreSize);
 
     QList<Step> m_steps;

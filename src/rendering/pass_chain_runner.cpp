@@ -1,7 +1,7 @@
 #include "rendering/pass_chain_runner.h"
 
+#include "base/pixel_limits.h"
 #include "rendering/image_transfer.h"
-#include "rendering/multi_scale_blur.h"
 #include "rendering/rendering_log.h"
 
 #include <vector>
@@ -14,23 +14,16 @@ namespace {
 
 using Picture = PassChain::Picture;
 
+constexpr qint64 kWorthGivingBack = 16 * 1024 * 1024; // bytes; less stays at hand for the next picture
+
 /// The pictures that a step reads.
 QList<Picture> inputsOf(const PassChain::Step &step)
 {
     if (const auto *pass = std::get_if<PassChain::Pass>(&step.work))
         return pass->inputs;
-    const auto *blur = std::get_if<PassChain::Blur>(&step.work);
-    return blur ? QList{blur->input} : QList<Picture>();
+    const auto *stack = std::get_if<PassChain::Stack>(&step.work);
+    return stack ? stack->inputs : QList<Picture>();
 }
-
-/// What a step has made, in one of two forms.
-struct MadePicture
-{
-    OwnedTexture texture;
-    std::unique_ptr<QOpenGLFramebufferObject> framebuffer;
-
-    GLuint name() const { return framebuffer ? framebuffer->texture() : texture.name(); }
-};
 
 /// One run of a chain. The context is current while it carries steps out.
 class PassChainRun
@@ -39,11 +32,12 @@ public:
     PassChainRun(FilterPassDrawer &passes, const PassChain &chain, Picture result)
         : m_passes(passes)
         , m_chain(chain)
+        , m_result(qsizetype(result))
         , m_lastUse(chain.steps().size(), kNever)
         , m_made(size_t(chain.steps().size()))
     {
-        m_lastUse[qsizetype(result)] = qsizetype(result);
-        for (qsizetype i = qsizetype(result); i >= 0; --i) {
+        m_lastUse[m_result] = m_result;
+        for (qsizetype i = m_result; i >= 0; --i) {
             if (m_lastUse[i] == kNever)
                 continue;
             for (const Picture input : inputsOf(chain.steps()[i]))
@@ -76,22 +70,17 @@ public:
                 continue;
             m_made[size_t(i)] = std::visit([&](const auto &work) { return make(work, m_chain.steps()[i].size); },
                                            m_chain.steps()[i].work);
-            if (m_made[size_t(i)].name() == 0)
+            if (!m_made[size_t(i)])
                 return false;
-            for (const Picture input : inputsOf(m_chain.steps()[i])) {
-                if (m_lastUse[qsizetype(input)] == i)
-                    m_made[size_t(input)] = {};
-            }
+            letGoOfInputs(i);
         }
         return true;
     }
 
-    QImage read(Picture picture) const
-    {
-        return readFramebuffer(m_passes.functions(), *m_made[size_t(picture)].framebuffer);
-    }
+    QImage read() const { return readFramebuffer(m_passes.functions(), *m_made[size_t(m_result)]); }
 
 private:
+    using Framebuffer = std::unique_ptr<QOpenGLFramebufferObject>;
     static constexpr qsizetype kNever = -1;
 
     bool fitsShader(const PassChain::Pass &pass) const
@@ -116,48 +105,99 @@ private:
     {
         if (const auto *pass = std::get_if<PassChain::Pass>(&step.work))
             return m_passes.filterProgram(pass->shaderId) != nullptr;
-        const auto *blur = std::get_if<PassChain::Blur>(&step.work);
-        if (!blur)
-            return true;
-        const QSize from = m_chain.size(blur->input);
-        const bool rescales = BlurPlan::make(from, blur->sigma, blur->maximumWorkingSigma).workingSize != from;
-        return m_passes.filterProgram(u"gaussianBlur"_s) && (!rescales || m_passes.filterProgram(u"textureCopy"_s));
+        return !std::holds_alternative<PassChain::Stack>(step.work) || m_passes.filterProgram(u"textureCopy"_s);
     }
 
-    MadePicture make(const PassChain::Source &source, const QSize &)
+    Framebuffer make(const PassChain::Source &source, const QSize &size)
     {
-        return {uploadTexture(m_passes.functions(), source.image, source.edge), nullptr};
+        Framebuffer target = takeFramebuffer(size, false, source.edge);
+        return target && fillFramebuffer(m_passes.functions(), *target, source.image) ? std::move(target) : nullptr;
     }
 
-    MadePicture make(const PassChain::Pass &pass, const QSize &size)
+    Framebuffer make(const PassChain::Pass &pass, const QSize &size)
     {
         std::vector<GLuint> names;
         for (const Picture input : pass.inputs)
-            names.push_back(m_made[size_t(input)].name());
-        OwnedTexture nothing;
+            names.push_back(m_made[size_t(input)]->texture());
+        Framebuffer nothing;
         if (names.empty()) { // a pass has at least one texture
             QImage pixel(1, 1, QImage::Format_RGBA8888);
             pixel.fill(Qt::transparent);
-            nothing = uploadTexture(m_passes.functions(), pixel, TextureEdge::Clamp);
-            names.push_back(nothing.name());
+            nothing = createFramebuffer(m_passes.functions(), pixel.size());
+            const bool filled = nothing && fillFramebuffer(m_passes.functions(), *nothing, pixel);
+            names.push_back(filled ? nothing->texture() : 0);
         }
-        auto target = createFramebuffer(m_passes.functions(), size);
-        if (!m_passes.drawPass(pass.shaderId, names, target.get(), pass.uniforms))
-            return {};
-        return {{}, std::move(target)};
+        Framebuffer target = takeFramebuffer(size, pass.keepsRedOnly, pass.edge);
+        return m_passes.drawPass(pass.shaderId, names, target.get(), pass.uniforms) ? std::move(target) : nullptr;
     }
 
-    MadePicture make(const PassChain::Blur &blur, const QSize &)
+    Framebuffer make(const PassChain::Stack &stack, const QSize &size)
     {
-        return {{},
-                blurTexture(m_passes, m_made[size_t(blur.input)].name(), m_chain.size(blur.input), blur.sigma,
-                            blur.maximumWorkingSigma, blur.edge, blur.restoreSize)};
+        Framebuffer target = takeFramebuffer(size, false, TextureEdge::Clamp);
+        const auto draw = [&](Picture picture, const QPoint &place) {
+            const GLuint name = m_made[size_t(picture)]->texture();
+            return m_passes.drawPass(u"textureCopy"_s, {&name, 1}, target.get(), {}, {place, m_chain.size(picture)});
+        };
+        const bool drawn = draw(stack.inputs[0], {}) && draw(stack.inputs[1], stack.mapOrigin);
+        return drawn ? std::move(target) : nullptr;
+    }
+
+    Framebuffer takeFramebuffer(const QSize &size, bool keepsRedOnly, TextureEdge edge)
+    {
+        if (!m_spare)
+            return createFramebuffer(m_passes.functions(), size, edge, keepsRedOnly);
+        setTextureEdge(m_passes.functions(), m_spare->texture(), edge);
+        return std::move(m_spare);
+    }
+
+    /// Of what no step after this one reads, one picture serves the next step if it is of its kind; the rest goes.
+    void letGoOfInputs(qsizetype step)
+    {
+        qint64 freed = 0;
+        for (const Picture input : inputsOf(m_chain.steps()[step])) {
+            Framebuffer &framebuffer = m_made[size_t(input)];
+            if (m_lastUse[qsizetype(input)] != step || !framebuffer)
+                continue;
+            if (!m_spare && servesStepAfter(step, *framebuffer)) {
+                m_spare = std::move(framebuffer);
+                continue;
+            }
+            freed += bytes(framebuffer->size(), keepsRedOnly(*framebuffer));
+            framebuffer.reset();
+        }
+        if (step == m_result) // as a QImage it takes the place of as much
+            freed -= bytes(m_chain.steps()[step].size, false);
+        if (freed > kWorthGivingBack)
+            m_passes.giveMemoryBack();
+    }
+
+    bool servesStepAfter(qsizetype step, const QOpenGLFramebufferObject &framebuffer) const
+    {
+        do {
+            ++step;
+        } while (step < m_chain.steps().size() && m_lastUse[step] == kNever);
+        if (step == m_chain.steps().size() || m_chain.steps()[step].size != framebuffer.size())
+            return false;
+        const auto *pass = std::get_if<PassChain::Pass>(&m_chain.steps()[step].work);
+        return keepsRedOnly(framebuffer) == (pass && pass->keepsRedOnly);
+    }
+
+    static bool keepsRedOnly(const QOpenGLFramebufferObject &framebuffer)
+    {
+        return framebuffer.format().internalTextureFormat() == GL_R8;
+    }
+
+    static qint64 bytes(const QSize &size, bool redOnly)
+    {
+        return qint64(size.width()) * size.height() * (redOnly ? 1 : kBytesPerPixel);
     }
 
     FilterPassDrawer &m_passes;
     const PassChain &m_chain;
+    qsizetype m_result;
     QList<qsizetype> m_lastUse; ///< the last step that reads each picture; kNever for one that the result needs not
-    std::vector<MadePicture> m_made;
+    std::vector<Framebuffer> m_made;
+    Framebuffer m_spare; ///< for the next step
 };
 
 } // namespace
@@ -168,13 +208,11 @@ QImage runPassChain(FilterPassDrawer &passes, OffscreenContext &context, const P
     if (const auto *source = std::get_if<PassChain::Source>(&last.work))
         return source->image;
 
+    const CurrentContext current(context); // outlives the run, whose end deletes what is left
     PassChainRun run(passes, chain, result);
-    if (!run.fitsShaders())
+    if (!run.fitsShaders() || !current || !run.carryOut())
         return {};
-    const CurrentContext current(context);
-    if (!current || !run.carryOut())
-        return {};
-    return run.read(result);
+    return run.read();
 }
 
 } // namespace zm

@@ -141,8 +141,8 @@ QImage PixelDriftRenderer::render(const QImage &image, const PixelDriftSettings 
         || !loadRankProgram())
         return {};
     QOpenGLExtraFunctions *gl = m_context.functions();
-    const OwnedTexture texture = uploadTexture(gl, source, TextureEdge::Clamp);
-    if (texture.name() == 0) {
+    const auto picture = createFramebuffer(gl, source.size());
+    if (!picture || !fillFramebuffer(gl, *picture, source)) {
         qCWarning(lcPixelDrift) << "Could not upload source texture";
         return {};
     }
@@ -175,7 +175,7 @@ QImage PixelDriftRenderer::render(const QImage &image, const PixelDriftSettings 
         if (region.isEmpty())
             continue;
         const UniformVec4 batch{float(source.width()), float(source.height()), float(first), float(count)};
-        const GLuint inputs[] = {texture.name(), sorted->texture()};
+        const GLuint inputs[] = {picture->texture(), sorted->texture()};
         done = m_passes.drawPass(u"fx/pixel-drift-prepare"_s, std::span(inputs).first<1>(), entries.get(),
                                  uniformBytes({batch, atlas, blocks, thresholds, mapping}))
             && drawRanks(entries->texture(), sorted.get(), layout.bins, count * layout.blocks * layout.bins);

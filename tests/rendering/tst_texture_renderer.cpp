@@ -1,5 +1,5 @@
 #include "application/user_notification_center.h"
-#include "rendering/multi_scale_blur.h"
+#include "rendering/blur_plan.h"
 #include "rendering/opengl_texture_renderer.h"
 #include "rendering_support.h"
 #include "support/pictures.h"

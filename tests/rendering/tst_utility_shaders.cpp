@@ -359,6 +359,37 @@ private slots:
         QCOMPARE(m_renderer.renderChain(chain, picture), m_renderer.raise(single, {}, 3.0));
     }
 
+    /// A quarter of the memory gives the same grey.
+    void redAloneIsEnoughForGrey()
+    {
+        const QImage opaque = gradientPicture(200, 90);
+        const auto softEdges = [&](bool redAlone) {
+            PassChain chain;
+            PassChain::Picture gray = chain.grayscale(chain.source(opaque), {});
+            if (redAlone)
+                gray = chain.keepRed(gray);
+            return m_renderer.renderChain(chain, chain.sobel(chain.gaussianBlur(gray, 12.0), {.strength = 4.0}));
+        };
+        QCOMPARE(softEdges(true), softEdges(false));
+    }
+
+    void stackHoldsPictureAndMap()
+    {
+        const QImage tall = noisePicture(23, 41, 5);
+        const QImage map = noisePicture(9, 30, 6);
+        const std::pair<int, QPoint> cases[] = {{71, {0, 41}}, {70, {23, 0}}, {40, {}}};
+        for (const auto &[maximumSide, mapPlace] : cases) {
+            PassChain chain;
+            const auto stack = chain.stacked(chain.source(tall), chain.source(map), maximumSide);
+            const QImage got = m_renderer.renderChain(chain, stack);
+            QCOMPARE(got.isNull(), mapPlace.isNull());
+            if (!got.isNull()) {
+                QCOMPARE(got.copy(tall.rect()), tall);
+                QCOMPARE(got.copy({mapPlace, map.size()}), map);
+            }
+        }
+    }
+
 private:
     OpenGLTextureRenderer m_renderer;
 };
