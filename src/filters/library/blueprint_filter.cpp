@@ -1,6 +1,6 @@
 #include "filters/library_filter.h"
 #include "filters/library_filters.h"
-#include "filters/stacked_picture.h"
+#include "filters/map_size.h"
 
 #include <algorithm>
 
@@ -41,16 +41,12 @@ public:
         block.setColor("u_gridColor"_L1, request.parameters.color(u"gridColor"_s, QColor(0xa9, 0xcd, 0xf7)));
 
         PassChain chain;
-        const PassChain::Picture rough =
-            chain.libraryShader(block.shaderId(), tonesSize, {chain.source(request.image)}, block.bytes());
-        const QImage tones = request.renderer->renderChain(chain, chain.gaussianBlur(rough, 0.6 * reach / reduction));
+        const PassChain::Picture input = chain.source(request.image);
+        const PassChain::Picture rough = chain.libraryShader(block.shaderId(), tonesSize, {input}, block.bytes());
+        const PassChain::Picture tones = chain.gaussianBlur(rough, 0.6 * reach / reduction);
         block.setFloat("u_edgeRadius"_L1, reach);
-
-        PassChain drawing;
-        const PassChain::Picture stack =
-            drawing.source(stackedPicture(request.image, tones, request.renderer->maximumTextureSize()));
-        return request.chained(drawing,
-                               drawing.libraryShader(block.shaderId(), request.size(), {stack}, block.bytes()));
+        const PassChain::Picture stack = chain.stacked(input, tones, request.renderer->maximumTextureSize());
+        return request.chained(chain, chain.libraryShader(block.shaderId(), request.size(), {stack}, block.bytes()));
     }
 };
 

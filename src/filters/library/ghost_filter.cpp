@@ -1,6 +1,6 @@
 #include "filters/library_filter.h"
 #include "filters/library_filters.h"
-#include "filters/stacked_picture.h"
+#include "filters/map_size.h"
 
 #include <algorithm>
 
@@ -38,15 +38,12 @@ public:
         block.setFloat("u_fade"_L1, request.percent(u"fade"_s, 50.0));
 
         PassChain chain;
-        const PassChain::Picture copy =
-            chain.libraryShader(block.shaderId(), copySize, {chain.source(request.image)}, block.bytes());
-        const QImage soft = request.renderer->renderChain(chain, chain.gaussianBlur(copy, radius / kCopyReduction));
+        const PassChain::Picture input = chain.source(request.image);
+        const PassChain::Picture copy = chain.libraryShader(block.shaderId(), copySize, {input}, block.bytes());
+        const PassChain::Picture soft = chain.gaussianBlur(copy, radius / kCopyReduction);
         block.setFloat("u_blurRadius"_L1, radius);
-
-        PassChain drawing;
-        const PassChain::Picture stack =
-            drawing.source(stackedPicture(request.image, soft, request.renderer->maximumTextureSize()));
-        return request.chained(drawing, drawing.libraryShader(block.shaderId(), size, {stack}, block.bytes()));
+        const PassChain::Picture stack = chain.stacked(input, soft, request.renderer->maximumTextureSize());
+        return request.chained(chain, chain.libraryShader(block.shaderId(), size, {stack}, block.bytes()));
     }
 };
 

@@ -1,7 +1,6 @@
 #include "filters/cell_picture.h"
 #include "filters/library_filter.h"
 #include "filters/library_filters.h"
-#include "filters/stacked_picture.h"
 
 #include <algorithm>
 #include <cmath>
@@ -200,9 +199,9 @@ public:
         block.setFloat("u_seed"_L1, seed);
 
         PassChain chain;
+        const PassChain::Picture map = chain.source(FacetMap(request.image, side, quint32(qRound(seed))).image());
         const PassChain::Picture stack =
-            chain.source(stackedPicture(request.image, FacetMap(request.image, side, quint32(qRound(seed))).image(),
-                                        request.renderer->maximumTextureSize()));
+            chain.stacked(chain.source(request.image), map, request.renderer->maximumTextureSize());
         return request.chained(chain, chain.libraryShader(block.shaderId(), size, {stack}, block.bytes()));
     }
 };

@@ -1,6 +1,6 @@
 #include "filters/library_filter.h"
 #include "filters/library_filters.h"
-#include "filters/stacked_picture.h"
+#include "filters/map_size.h"
 
 #include <algorithm>
 #include <cmath>
@@ -49,27 +49,28 @@ public:
         block.setFloat("u_lineIntensity"_L1, request.percent(u"lineIntensity"_s, 70.0));
         block.setColor("u_glowColor"_L1, request.parameters.color(u"glowColor"_s, QColor(0x22, 0xc8, 0xff)));
         block.setFloat("u_backgroundDim"_L1, request.percent(u"backgroundDim"_s, 82.0));
-        const auto pass = [&](PassChain &chain, Stage stage, const QImage &input, const QSize &passSize) {
+        const auto pass = [&](PassChain &chain, Stage stage, PassChain::Picture input, const QSize &passSize) {
             block.setVec4("u_glowRadius"_L1, radius, double(stage), reach, std::sqrt(wanted / reach));
-            return chain.libraryShader(block.shaderId(), passSize, {chain.source(input)}, block.bytes());
+            return chain.libraryShader(block.shaderId(), passSize, {input}, block.bytes());
         };
 
         FilterUtilityRenderer &renderer = *request.renderer;
         PassChain toning;
-        const PassChain::Picture rough = pass(toning, Stage::Tones, request.image, mapsSize);
+        const PassChain::Picture rough = pass(toning, Stage::Tones, toning.source(request.image), mapsSize);
         QImage maps = renderer.renderChain(toning, toning.gaussianBlur(rough, kSmoothing * reach / reduction));
         if (maps.isNull())
             return request.unchanged();
 
         PassChain glowing;
-        const PassChain::Picture lines = pass(glowing, Stage::Lines, maps, mapsSize);
+        const PassChain::Picture lines = pass(glowing, Stage::Lines, glowing.source(maps), mapsSize);
         const QImage glow = renderer.renderChain(glowing, glowing.gaussianBlur(lines, radius / reduction));
         if (glow.size() != maps.size())
             return request.unchanged();
         mergeIntoGreen(maps, glow);
 
         PassChain drawing;
-        const QImage stack = stackedPicture(request.image, maps, renderer.maximumTextureSize());
+        const PassChain::Picture stack =
+            drawing.stacked(drawing.source(request.image), drawing.source(maps), renderer.maximumTextureSize());
         return request.chained(drawing, pass(drawing, Stage::Drawing, stack, size));
     }
 
