@@ -29,7 +29,7 @@ public:
 
         PassChain chain;
         const PassChain::Picture input = chain.source(request.image);
-        const PassChain::Picture highlights = addPass(chain, energy, {input});
+        const PassChain::Picture highlights = chain.keepRed(addPass(chain, energy, {input}));
         const PassChain::Picture blurred = chain.gaussianBlur(highlights, sigma);
         return request.chained(chain, addPass(chain, halo, {input, highlights, blurred}));
     }

@@ -33,7 +33,7 @@ public:
 
         PassChain chain;
         const PassChain::Picture input = chain.source(request.image);
-        const PassChain::Picture gray = chain.grayscale(input, levels);
+        const PassChain::Picture gray = chain.keepRed(chain.grayscale(input, levels));
         return request.chained(chain, addPass(chain, block, {input, gray}));
     }
 };

@@ -25,10 +25,11 @@ public:
         PassChain chain;
         const PassChain::Picture input = chain.source(request.image);
         const PassChain::Picture smooth = chain.gaussianBlur(input, request.pixels(u"smoothing"_s, 1.5));
-        const PassChain::Picture edges = chain.sobel(smooth,
-                                                     {.strength = request.percent(u"strength"_s, 120.0),
-                                                      .radius = request.pixels(u"radius"_s, 2.0),
-                                                      .threshold = request.percent(u"threshold"_s, 4.0)});
+        const PassChain::Picture edges =
+            chain.keepRed(chain.sobel(smooth,
+                                      {.strength = request.percent(u"strength"_s, 120.0),
+                                       .radius = request.pixels(u"radius"_s, 2.0),
+                                       .threshold = request.percent(u"threshold"_s, 4.0)}));
         return request.chained(chain, addPass(chain, block, {input, edges}));
     }
 };
