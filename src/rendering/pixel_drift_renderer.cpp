@@ -20,6 +20,8 @@ Q_LOGGING_CATEGORY(lcPixelDrift, "zelmoraatelier.rendering.pixel-drift")
 
 constexpr GLuint kUniformBinding = 1;
 constexpr int kMaximumBins = 64;   // the shaders walk no further
+constexpr int kBytesPerEntry = 16;
+constexpr int kPointsAtOnce = 1 << 14;
 constexpr int kShortestSpan = 2;    // pixels
 constexpr double kGroupsASpan = 40.0; // lines that share block edges are this much narrower than a block is long
 
@@ -141,7 +143,7 @@ QImage PixelDriftRenderer::render(const QImage &image, const PixelDriftSettings 
         || !loadRankProgram())
         return {};
     QOpenGLExtraFunctions *gl = m_context.functions();
-    const auto picture = createFramebuffer(gl, source.size());
+    auto picture = createFramebuffer(gl, source.size());
     if (!picture || !fillFramebuffer(gl, *picture, source)) {
         qCWarning(lcPixelDrift) << "Could not upload source texture";
         return {};
@@ -151,9 +153,11 @@ QImage PixelDriftRenderer::render(const QImage &image, const PixelDriftSettings 
     gl->glGetIntegerv(GL_MAX_TEXTURE_SIZE, &longestSide);
     const DriftLines lines(source.size(), limited(settings.angle, 0.0, 360.0, defaults.angle));
     const double streak = limited(settings.streakLength, kShortestSpan, lines.axisSize, defaults.streakLength);
-    const AtlasLayout layout(lines, streak, {std::min(longestSide, m_limits.longestSide), m_limits.entries});
-    const auto entries = createAtlas(layout);
-    const auto sorted = createAtlas(layout);
+    // Both atlases together take no more memory than half of the picture.
+    const int room = int(std::min<qsizetype>(m_limits.entries, source.sizeInBytes() / (4 * kBytesPerEntry)));
+    const AtlasLayout layout(lines, streak, {std::min(longestSide, m_limits.longestSide), room});
+    auto entries = createAtlas(layout);
+    auto sorted = createAtlas(layout);
     const auto output = createFramebuffer(gl, source.size());
     if (!entries || !sorted || !output) {
         qCWarning(lcPixelDrift) << "Could not allocate sorting framebuffers";
@@ -186,6 +190,10 @@ QImage PixelDriftRenderer::render(const QImage &image, const PixelDriftSettings 
                                  uniformBytes({batch, atlas, blocks, {amount}, mapping}));
         gl->glDisable(GL_SCISSOR_TEST);
     }
+    picture.reset();
+    entries.reset();
+    sorted.reset();
+    m_passes.giveMemoryBack();
     const QImage result = done ? readFramebuffer(gl, *output) : QImage();
     gl->glBindFramebuffer(GL_FRAMEBUFFER, 0);
     if (result.isNull())
@@ -245,7 +253,11 @@ bool PixelDriftRenderer::drawRanks(GLuint atlas, QOpenGLFramebufferObject *targe
     gl->glBindVertexArray(noAttributes);
     gl->glActiveTexture(GL_TEXTURE0);
     gl->glBindTexture(GL_TEXTURE_2D, atlas);
-    gl->glDrawArrays(GL_POINTS, 0, entries);
+    // In parts, each finished before the next: a software driver keeps some hundred bytes for each waiting point.
+    for (int first = 0; first < entries; first += kPointsAtOnce) {
+        gl->glDrawArrays(GL_POINTS, first, std::min(entries - first, kPointsAtOnce));
+        gl->glFinish();
+    }
     gl->glBindTexture(GL_TEXTURE_2D, 0);
     gl->glBindVertexArray(0);
     gl->glDeleteVertexArrays(1, &noAttributes);
