@@ -13,6 +13,7 @@ namespace {
 
 constexpr double kTileSize = 1024.0; // of the texture, pixels
 constexpr double kLineWidth = 1.0 / 1500.0; // of the diagonal
+constexpr double kSmoothingInCopy = 0.9; // sigma before the lines are found, pixels of the reduced copy, at most
 
 // Graphite hatching and lines.
 class PencilSketchFilter final : public LibraryFilter
@@ -44,8 +45,10 @@ public:
         const PassChain::Picture input = chain.source(request.image);
         // Lines that are as wide on a small picture as on a large one, and no lines from grain.
         const double width = diagonal * kLineWidth;
+        const PassChain::Picture tones = chain.reducedBlur(input, 0.5 * width, TextureEdge::Clamp, kSmoothingInCopy);
+        const double widthInCopy = width * chain.size(tones).width() / request.image.width();
         const PassChain::Picture edges =
-            chain.sobel(chain.gaussianBlur(input, 0.5 * width), {.strength = 1.3, .radius = width, .threshold = 0.08});
+            chain.keepRed(chain.sobel(tones, {.strength = 1.3, .radius = widthInCopy, .threshold = 0.08}));
         return request.chained(chain, addPass(chain, block, {input, edges, chain.source(tile(request, tileSize))}));
     }
 
