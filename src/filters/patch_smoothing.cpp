@@ -59,7 +59,8 @@ PassChain::Picture addWorkingCopy(PassChain &chain, const FilterRenderRequest &r
 PassChain::Picture addEnlargement(PassChain &chain, PassChain::Picture input, const QSize &size)
 {
     const double radius = 1.4 * size.width() / chain.size(input).width();
-    return addSmoothing(chain, addSmoothing(chain, input, size, {1.0, 0.0}, radius, 0.0), size, {0.0, 1.0}, radius,
+    const QSize wide(size.width(), chain.size(input).height()); // one axis after the other: fewer pixels
+    return addSmoothing(chain, addSmoothing(chain, input, wide, {1.0, 0.0}, radius, 0.0), size, {0.0, 1.0}, radius,
                         0.0);
 }
 

@@ -14,8 +14,9 @@ vec2 inside(sampler2D image, vec2 uv)
     return clamp(uv, margin, 1.0 - margin);
 }
 
-// Linear, unweighted: for a place that is the middle of a texel, or a picture without transparency. One read.
-vec4 readInside(sampler2D image, vec2 uv) { return texture(image, inside(image, uv)); }
+// Linear, unweighted: for a place that is the middle of a texel, or a picture without transparency. One read. The
+// texture is one that repeats its rim, as all but masks do, so that nothing but the picture is read.
+vec4 readInside(sampler2D image, vec2 uv) { return texture(image, uv); }
 
 // Linear, weighted by alpha, premultiplied: what to sum up and divide at the end with straight(). Four reads.
 vec4 readPremultiplied(sampler2D image, vec2 uv)
@@ -109,8 +110,9 @@ vec3 contourDirection(vec3 tensor)
     float total = tensor.x + tensor.z;
     if (spread < 1e-7)
         return vec3(1.0, 0.0, 0.0);
-    float angle = 0.5 * atan(2.0 * tensor.y, tensor.x - tensor.z);
-    return vec3(-sin(angle), cos(angle), clamp(spread / max(total, 1e-7), 0.0, 1.0));
+    float doubled = (tensor.x - tensor.z) / spread; // the cosine of twice the gradient's angle
+    vec2 gradient = sqrt(max(0.5 + 0.5 * vec2(doubled, -doubled), 0.0));
+    return vec3(tensor.y < 0.0 ? gradient.y : -gradient.y, gradient.x, clamp(spread / max(total, 1e-7), 0.0, 1.0));
 }
 
 #endif
