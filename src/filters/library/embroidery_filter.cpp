@@ -10,7 +10,7 @@ namespace zm {
 
 namespace {
 
-constexpr double kStitch = 3.0; // the width of a thread in the working copy, pixels
+constexpr double kStitch = 2.3; // the width of a thread in the working copy, pixels
 
 // Threads stitched over fabric.
 class EmbroideryFilter final : public LibraryFilter
@@ -26,8 +26,6 @@ public:
         const double stitch = request.diagonalPixels(u"stitchSize"_s, 2.4);
 
         LibraryUniformBlock block(u"embroidery"_s);
-        block.setVec2("u_size"_L1, request.image.width(), request.image.height());
-        block.setFloat("u_stitchSize"_L1, stitch);
         block.setFloat("u_direction"_L1, request.number(u"direction"_s, 30.0) * std::numbers::pi / 180.0);
         block.setFloat("u_followContours"_L1, request.percent(u"followContours"_s, 80.0));
         block.setFloat("u_threadSheen"_L1, request.percent(u"threadSheen"_s, 55.0));
@@ -41,6 +39,12 @@ public:
         PassChain::Picture forms = addFlatPatches(chain, addWorkingCopy(chain, request, stitch, kStitch), kStitch, 0.5);
         for (int i = 0; i < 2; ++i)
             forms = addSmoothing(chain, forms, chain.size(forms), kAlongContours, 2.5 * kStitch, 0.4);
+        const QSize working = chain.size(forms);
+        block.setVec4("u_size"_L1, request.image.width(), request.image.height(), working.width(), working.height());
+        block.setVec2("u_stitchSize"_L1, stitch, 1.0);
+        const PassChain::Picture directions = addPass(chain, block, {forms});
+        block.setVec2("u_stitchSize"_L1, stitch, 0.0);
+        forms = chain.stacked(forms, directions, request.renderer->maximumTextureSize());
         return chainedWithAlpha(request, chain,
                                 chain.libraryShader(block.shaderId(), request.size(), {forms}, block.bytes()));
     }
