@@ -24,6 +24,18 @@ const vec3 kPaper = vec3(0.985, 0.975, 0.95);
 
 vec3 pigmented(vec3 color, float amount) { return color - (color - color * color) * (amount - 1.0); }
 
+// Two value noises for little more than one.
+vec2 valueNoises(vec2 p, uint seed)
+{
+    vec2 cell = floor(p);
+    vec2 fade = quinticFade(p - cell);
+    uvec4 bits = cornerHashes(ivec2(cell), seed);
+    vec4 high = vec4(bits >> 16u);
+    vec4 low = vec4(bits & 0xffffu);
+    vec4 left = mix(vec4(high.xz, low.xz), vec4(high.yw, low.yw), fade.x);
+    return mix(left.xz, left.yw, fade.y) / 65536.0;
+}
+
 void main()
 {
     vec2 size = max(u_param0.xy, 1.0);
@@ -40,7 +52,8 @@ void main()
         + 0.45 * gradientNoise(kOctaveStep * p / 2.1, 12u) * clamp(unit - 0.3, 0.0, 1.0);
 
     // Borders wander: widely with the water, finely with the tooth.
-    vec2 wide = 1.3 * vec2(valueFbm(p / 26.0, 2.0, 21u) - 0.5, valueFbm(p / 26.0, 2.0, 22u) - 0.5);
+    vec2 wide = 0.65 * (valueNoises(p / 26.0, 21u) - 0.5)
+        + 0.325 * (valueNoises(kOctaveStep * p / 26.0 + kOctaveShift, 22u) - 0.5);
     vec2 fine = 0.6 * vec2(gradientNoise(p / 6.0, 23u), gradientNoise(p / 6.0, 24u));
     float calm = mix(1.0, 0.3, detail);
     vec2 wander = calm * (wide * (3.0 + 13.0 * bleed) + fine * (1.2 + 5.0 * bleed) + tooth * 0.5);

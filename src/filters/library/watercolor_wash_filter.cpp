@@ -10,7 +10,7 @@ namespace zm {
 
 namespace {
 
-constexpr double kPatch = 6.0; // the width of a patch in the working copy, pixels
+constexpr double kPatch = 4.6; // the width of a patch in the working copy, pixels
 
 // Transparent washes over paper.
 class WatercolorWashFilter final : public LibraryFilter
