@@ -12,6 +12,7 @@ namespace zm {
 namespace {
 
 constexpr double kFirstBlur = 0.4; // sigma, of the reach of the smoothing
+constexpr double kFirstBlurInCopy = 2.2; // the same in pixels of the copy, at most
 constexpr double kRounding = 0.16; // sigma of the blur that rounds corners and parts the sheets, of the reach
 constexpr int kSmoothingPasses = 4; // across and down in turn
 
@@ -50,7 +51,7 @@ private:
     static PassChain::Picture softCopy(PassChain &chain, const FilterRenderRequest &request, PassChain::Picture input)
     {
         const double reach = std::max(request.diagonalPixels(u"smoothness"_s, 5.0), 0.1);
-        PassChain::Picture soft = chain.reducedBlur(input, reach * kFirstBlur);
+        PassChain::Picture soft = chain.reducedBlur(input, reach * kFirstBlur, TextureEdge::Clamp, kFirstBlurInCopy);
         const QSize size = chain.size(soft);
         LibraryUniformBlock block(u"paper-diorama-smooth"_s);
         block.setVec2("u_size"_L1, size.width(), size.height());
