@@ -13,8 +13,8 @@ vec3 valueNoise3(vec2 p, uint seed)
     uvec4 corner = cornerHashes(ivec2(cell), seed);
     vec4 weight = vec4((1.0 - fade.x) * (1.0 - fade.y), fade.x * (1.0 - fade.y), (1.0 - fade.x) * fade.y,
                        fade.x * fade.y) / 1023.0;
-    return vec3(dot(vec4(corner & 1023u), weight), dot(vec4((corner >> 10u) & 1023u), weight),
-                dot(vec4((corner >> 20u) & 1023u), weight)) - 0.5;
+    return vec3(dot(vec4(ivec4(corner & 1023u)), weight), dot(vec4(ivec4((corner >> 10u) & 1023u)), weight),
+                dot(vec4(ivec4((corner >> 20u) & 1023u)), weight)) - 0.5;
 }
 
 // Film grain: clumps of about `size` pixels, mean 0, deviation about 1. `pixel` counts pixels of the picture; `chroma`
@@ -68,10 +68,12 @@ vec3 softenedLight(vec4 soft, vec3 sharpLight)
     return mix(sharpLight, toLinearFast(soft.rgb), smoothstep(0.9, 0.999, soft.a));
 }
 
-// Moves by less than half a level of 255, so that slow gradients do not turn into steps; whole levels stay.
+// Moves by less than half a level of 255, so that slow gradients do not turn into steps; whole levels stay. Jorge
+// Jimenez, "Next Generation Post Processing in Call of Duty: Advanced Warfare", 2014: interleaved gradient noise.
 vec3 dithered(vec3 encoded, vec2 fragment)
 {
-    return encoded + (hash23(ivec2(fragment), 91u) - 0.5) * (0.998 / 255.0);
+    float noise = fract(52.9829189 * fract(dot(fragment, vec2(0.06711056, 0.00583715))));
+    return encoded + (fract(noise + vec3(0.0, 0.33, 0.67)) - 0.5) * (0.998 / 255.0);
 }
 
 // An S curve through 0, 0.5 and 1 for amounts above 0, a flatter line through 0.5 below; -1..1, 0 changes nothing.

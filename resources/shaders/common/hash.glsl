@@ -30,10 +30,11 @@ uvec3 pcg3d(uvec3 v)
     return v;
 }
 
-// The upper 24 bits as a number in 0..1, 1 excluded: what a float holds without rounding.
-float unitFloat(uint bits) { return float(bits >> 8u) * (1.0 / 16777216.0); }
-vec3 unitFloat(uvec3 bits) { return vec3(bits >> 8u) * (1.0 / 16777216.0); }
-vec4 unitFloat(uvec4 bits) { return vec4(bits >> 8u) * (1.0 / 16777216.0); }
+// The upper 24 bits as a number in 0..1, 1 excluded: what a float holds without rounding. By way of a signed integer,
+// which processors turn into a float in one step.
+float unitFloat(uint bits) { return float(int(bits >> 8u)) * (1.0 / 16777216.0); }
+vec3 unitFloat(uvec3 bits) { return vec3(ivec3(bits >> 8u)) * (1.0 / 16777216.0); }
+vec4 unitFloat(uvec4 bits) { return vec4(ivec4(bits >> 8u)) * (1.0 / 16777216.0); }
 
 // A uniform that holds a seed, whole or not, as the seed of the functions below. Layers of one effect take seed + 1u,
 // seed + 2u and so on: they have nothing in common.
