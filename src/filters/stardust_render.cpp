@@ -13,6 +13,8 @@ namespace {
 constexpr double kStarsCell = 1.6;
 constexpr double kDustCell = 3.2;
 
+constexpr int kDriftsSide = 384; ///< pixels: the drifts of dust are large
+
 } // namespace
 
 PassChain::Picture addStardust(PassChain &chain, const FilterRenderRequest &request, PassChain::Picture input,
@@ -34,10 +36,18 @@ PassChain::Picture addStardust(PassChain &chain, const FilterRenderRequest &requ
     block.setVec4("u_fineParams"_L1, kDustCell * dustSize, request.percent(u"dust"_s, 60.0), dustSize, 0.0);
     block.setVec4("u_styleParams"_L1, glow, request.percent(u"twinkle"_s, 60.0),
                   request.percent(u"colorVariation"_s, 35.0), 0.0);
-    block.setVec4("u_renderParams"_L1, request.percent(u"highlights"_s, 20.0), 0.0, 0.0, 0.0);
     block.setFloat("u_maskInverted"_L1, use.maskInverted ? 1.0 : 0.0);
     block.setFloat("u_starsOnly"_L1, use.starsOnly ? 1.0 : 0.0);
-    return addPass(chain, block, {input, mask});
+    const auto setStep = [&](double drawsDrifts) {
+        block.setVec4("u_renderParams"_L1, request.percent(u"highlights"_s, 20.0), drawsDrifts, 0.0, 0.0);
+    };
+
+    setStep(1.0);
+    const QSize drifts = size.scaled(kDriftsSide, kDriftsSide, Qt::KeepAspectRatio).boundedTo(size);
+    const PassChain::Picture maskWithDrifts =
+        chain.libraryShader(block.shaderId(), chain.size(mask).expandedTo(drifts), {mask, mask}, block.bytes());
+    setStep(0.0);
+    return addPass(chain, block, {input, maskWithDrifts});
 }
 
 } // namespace zm

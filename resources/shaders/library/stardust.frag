@@ -10,7 +10,7 @@
 layout(location = 0) in vec2 v_uv;
 layout(location = 0) out vec4 fragColor;
 layout(binding = 0) uniform sampler2D u_input;
-layout(binding = 1) uniform sampler2D u_mask;
+layout(binding = 1) uniform sampler2D u_mask; // alpha: the mask; red: the drifts of dust, drawn in a step before
 layout(std140, binding = 2) uniform LibraryUniforms {
     vec4 u_param0;  // size: width and height, pixels
     vec4 u_param1;  // sparkleColor: red, green, blue, 0..1
@@ -19,12 +19,13 @@ layout(std140, binding = 2) uniform LibraryUniforms {
     vec4 u_param4;  // sparkParams: cell of a star, pixels; density 0..1; length of a ray, pixels; rays: 0 four, 1 six, 2 mixed
     vec4 u_param5;  // fineParams: cell of a grain, pixels; density 0..1; diameter of a grain, pixels
     vec4 u_param6;  // styleParams: glow 0..1; twinkle 0..1; variation of the colour 0..1
-    vec4 u_param7;  // renderParams: how much bright places are preferred, 0..1
+    vec4 u_param7;  // renderParams: x: how much bright places are preferred, 0..1; y: 1 draws u_mask
     vec4 u_param8;  // maskInverted: 1 draws outside the mask
     vec4 u_param9;  // starsOnly: 1 leaves the picture out
 };
 
 const float kJitter = 0.6;   // of a cell: 0.3 to either side, so that 0.7 are left to reach
+const float kDustJitter = 0.44;
 const float kTurn = 6.28318531;
 
 float maskAt(vec2 uv)
@@ -85,13 +86,13 @@ vec3 stars(vec2 px, float scale, float density, uint seed)
     for (int i = 0; i < 4; ++i) {
         ivec2 cell = base + ivec2(i & 1, i >> 1);
         vec3 random = hash23(cell, seed);
-        vec3 character = hash23(cell, seed + 1u);
-        if (character.x >= density)
-            continue;
         vec2 center = vec2(cell) + 0.5 + kJitter * (random.xy - 0.5);
         float size = reach * mix(0.35, 1.0, random.z * random.z);
         vec2 p = (place - center) / size;
-        if (dot(p, p) >= 1.0)
+        if (dot(p, p) >= 1.0) // the test that spares most
+            continue;
+        vec3 character = hash23(cell, seed + 1u);
+        if (character.x >= density)
             continue;
         vec2 uv = center * cellSize / u_param0.xy;
         float visible = maskAt(uv);
@@ -109,47 +110,45 @@ vec3 stars(vec2 px, float scale, float density, uint seed)
     return sum;
 }
 
-// Linear light of the grains of one size.
+// Linear light of the grains of one size. Each lies whole within its own cell; turning them hides that.
 vec3 dust(vec2 px, float scale, float density, uint seed)
 {
     float cellSize = u_param5.x * scale;
     float radius = 0.5 * u_param5.z * scale;
     float drawn = max(radius, 0.6); // smaller than a pixel: larger and paler instead
     float pale = radius * radius / (drawn * drawn);
-    vec2 place = px / cellSize;
-    ivec2 base = ivec2(floor(place - 0.5));
-    vec3 sum = vec3(0.0);
-    for (int i = 0; i < 4; ++i) {
-        ivec2 cell = base + ivec2(i & 1, i >> 1);
-        vec3 random = hash23(cell, seed);
-        float chance = hash21(cell, seed + 1u);
-        if (chance >= density)
-            continue;
-        vec2 center = vec2(cell) + 0.5 + kJitter * (random.xy - 0.5);
-        float d = length(place - center) * cellSize / (drawn * mix(1.0, 0.6, fract(chance * 389.0)));
-        if (d >= 2.0)
-            continue;
-        float sparkle = mix(0.7, 0.06 + 3.2 * pow(random.z, 5.0), u_param6.y);
-        float light = exp2(-2.0 * d * d) * pale * sparkle;
-        sum += mix(sparkleColor(fract(chance * 977.0)), vec3(1.0), 0.35 * random.z * random.z) * light;
-    }
-    return sum;
+    vec2 place = mat2(0.8, 0.6, -0.6, 0.8) * px / cellSize;
+    ivec2 cell = ivec2(floor(place));
+    uvec3 bits = pcg3d(uvec3(cell, seed));
+    float chance = float(int(bits.x & 0xffffu)) / 65536.0; // bits that the place leaves
+    if (chance >= density)
+        return vec3(0.0);
+    vec3 random = unitFloat(bits);
+    vec2 center = vec2(cell) + 0.5 + kDustJitter * (random.xy - 0.5);
+    float d = length(place - center) * cellSize / (drawn * mix(1.0, 0.6, fract(chance * 389.0)));
+    if (d >= 2.0)
+        return vec3(0.0);
+    float sparkle = mix(0.7, 0.06 + 3.2 * pow(random.z, 5.0), u_param6.y);
+    float light = (exp2(-2.0 * d * d) - exp2(-8.0)) * pale * sparkle;
+    return mix(sparkleColor(fract(chance * 977.0)), vec3(1.0), 0.35 * random.z * random.z) * light;
 }
 
 void main()
 {
-    vec4 src = texture(u_input, v_uv);
     vec2 px = v_uv * u_param0.xy;
-    uint sparkSeed = seedBits(u_param2.x);
     uint fineSeed = seedBits(u_param3.x);
+    if (u_param7.y > 0.5) {
+        float drift = valueFbm(px / max(length(u_param0.xy), 1.0) * 9.0, 3.0, fineSeed);
+        fragColor = vec4(vec3(drift), texture(u_mask, v_uv).a);
+        return;
+    }
+    vec4 src = texture(u_input, v_uv);
+    uint sparkSeed = seedBits(u_param2.x);
 
     vec3 light = stars(px, 1.0, 0.55 * u_param4.y, sparkSeed) + stars(px, 0.42, 0.8 * u_param4.y, sparkSeed + 2u);
     float amount = maskAt(v_uv) * preference(src);
     if (u_param5.y > 0.0 && amount > 0.0) {
-        // Dust lies in drifts.
-        vec2 field = px / max(length(u_param0.xy), 1.0);
-        float drift = valueFbm(field * 9.0, 3.0, fineSeed);
-        float density = u_param5.y * (0.25 + 1.5 * smoothstep(0.35, 0.75, drift)) * amount;
+        float density = u_param5.y * (0.25 + 1.5 * smoothstep(0.35, 0.75, texture(u_mask, v_uv).r)) * amount;
         light += 1.5 * (dust(px, 1.0, 0.5 * density, fineSeed + 11u) + dust(px, 0.55, density, fineSeed + 13u));
     }
 
@@ -159,6 +158,7 @@ void main()
         fragColor = vec4(toEncoded(shown / max(alpha, 1e-4)), toEncoded(vec3(alpha)).r * src.a);
         return;
     }
-    vec3 rgb = toEncoded(blendScreen(toLinear(src.rgb), 1.0 - exp(-light)));
-    fragColor = vec4(dot(light, vec3(1.0)) > 0.0 ? rgb : src.rgb, src.a);
+    if (dot(light, vec3(1.0)) > 0.0)
+        src.rgb = toEncoded(blendScreen(toLinear(src.rgb), 1.0 - exp(-light)));
+    fragColor = src;
 }
