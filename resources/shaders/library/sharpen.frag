@@ -1,7 +1,7 @@
 #version 440
 // Sharpens by what distinguishes a pixel from its surroundings (an unsharp mask), in brightness alone. Noise is spared
 // and edges overshoot little. Two more steps prepare and finish a blur, which happens elsewhere.
-// In and out: straight alpha, (0, 0) top left; sharpening keeps alpha. Cost: 9 to 22 texture reads, by radius.
+// In and out: straight alpha, (0, 0) top left; sharpening keeps alpha. Cost: 7 to 19 texture reads, by radius.
 #extension GL_GOOGLE_include_directive : require
 #include "../common/color.glsl"
 #include "../common/sampling.glsl"
@@ -15,6 +15,8 @@ layout(std140, binding = 1) uniform LibraryUniforms {
 };
 
 const float kReachPerRadius = 2.83; // of the disc whose bell has this standard deviation
+const float kMiddleWeight = 0.6;
+const mat2 kSixthOfTurn = mat2(0.5, 0.8660254, -0.8660254, 0.5);
 const mat2 kGoldenTurn = mat2(-0.7373688, 0.6754903, -0.6754903, -0.7373688);
 
 void main()
@@ -25,27 +27,35 @@ void main()
         return;
     }
 
-    // Places on the spiral of sunflower seeds, evenly over a disc; the weight (1 - r^2)^2 makes it a bell.
-    int count = int(clamp(6.0 + 3.0 * u_param2.x, 8.0, 21.0));
-    float reach = kReachPerRadius * u_param2.x / sqrt(float(count) + 0.5);
-    vec2 texel = 1.0 / u_param0.xy;
-    vec2 direction = vec2(1.0, 0.0);
+    // Rings of six places over a disc, evenly, each turned against the one before; the weight (1 - r^2)^2 makes it a
+    // bell. Six see lines of every direction alike, where four do not.
+    int rings = int(clamp(0.5 * u_param2.x + 0.5, 1.0, 3.0));
     float tone = luminance(src.rgb);
     float low = tone;
     float high = tone;
-    float sum = tone * src.a;
-    float total = src.a;
-    for (int i = 1; i <= count; ++i) {
-        vec4 near = texture(u_input, v_uv + direction * (reach * sqrt(float(i))) * texel);
-        float nearTone = luminance(near.rgb);
-        float inner = 1.0 - float(i) / (float(count) + 1.0);
-        float weight = inner * inner * near.a;
-        sum += nearTone * weight;
-        total += weight;
-        low = near.a > 0.5 ? min(low, nearTone) : low;
-        high = near.a > 0.5 ? max(high, nearTone) : high;
+    float sum = tone * src.a * kMiddleWeight;
+    float total = src.a * kMiddleWeight;
+    vec2 texel = 1.0 / u_param0.xy;
+    vec2 direction = vec2(0.9659258, 0.2588190) * kReachPerRadius * u_param2.x;
+    int ring = 0;
+    do { // asks at its end: a software renderer would run the body once more to find out
+        float away = (float(ring) + 0.4) / float(rings); // squared
+        float weight = (1.0 - away) * (1.0 - away);
+        vec2 offset = direction * sqrt(away);
+        for (int i = 0; i < 3; ++i) {
+            vec4 one = texture(u_input, v_uv + offset * texel);
+            vec4 other = texture(u_input, v_uv - offset * texel);
+            vec2 tones = vec2(luminance(one.rgb), luminance(other.rgb));
+            vec2 covered = vec2(one.a, other.a);
+            sum += dot(tones, covered) * weight;
+            total += (one.a + other.a) * weight;
+            vec2 counted = mix(vec2(tone), tones, covered);
+            low = min(low, min(counted.x, counted.y));
+            high = max(high, max(counted.x, counted.y));
+            offset = kSixthOfTurn * offset;
+        }
         direction = kGoldenTurn * direction;
-    }
+    } while (++ring < rings);
 
     float detail = total > 0.0 ? tone - sum / total : 0.0;
     detail *= mix(0.35, 1.0, smoothstep(0.0, 0.018, abs(detail)));
