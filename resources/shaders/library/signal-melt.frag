@@ -1,7 +1,8 @@
 #version 440
 // A broken signal. Melt: columns of the picture run down in strings. Digital: blocks sit in wrong places, lose detail
 // and colours. Analog: a worn tape whose lines tear sideways, with noise and bled colour.
-// In and out: straight alpha, (0, 0) top left; alpha is kept. Cost: four texture reads, up to six noises.
+// In and out: straight alpha, (0, 0) top left; alpha is kept. Cost: four texture reads, up to six noises, nearly all
+// along a line.
 #extension GL_GOOGLE_include_directive : require
 #include "../common/color.glsl"
 #include "../common/noise.glsl"
@@ -33,12 +34,12 @@ Signal melted(vec2 px, float block, float amount, float reach, uint seed)
 {
     // Strings of different widths; each begins at its own height and gets longer on the way down.
     float x = px.x / block;
-    float wide = valueNoise(vec2(x * 0.45, 3.5), seed);
-    float thin = valueNoise(vec2(x * 2.3, 8.5), seed + 1u);
-    float fine = valueNoise(vec2(x * 9.0, 1.5), seed + 2u);
+    float wide = lineNoise(x * 0.45, seed);
+    float thin = lineNoise(x * 2.3, seed + 1u);
+    float fine = lineNoise(x * 9.0, seed + 2u);
     float string = 0.68 * wide + 0.26 * thin + 0.06 * fine;
     float start = u_param0.y * mix(1.05, -0.25, amount)
-        + 6.0 * block * (valueNoise(vec2(x * 0.2, 5.5), seed + 3u) - 0.5) + 4.0 * block * (0.5 - string);
+        + 6.0 * block * (lineNoise(x * 0.2, seed + 3u) - 0.5) + 4.0 * block * (0.5 - string);
     float below = max(px.y - start, 0.0);
     float pull = smoothstep(0.28, 0.72, string);
     float run = (1.0 - exp(-below / max(3.0 * reach * pull + block, 1.0))) * reach * 3.2 * pull;
@@ -59,7 +60,7 @@ Signal scrambled(vec2 px, float block, float amount, float reach, uint seed)
         ivec2 cell = ivec2(floor(px / cellSize));
         uint layer = seed + uint(level) * 7u;
         // Faults come in bands.
-        float band = valueNoise(vec2(0.5, (float(cell.y) + 0.5) * cellSize.y / (block * 5.0)), seed + 40u);
+        float band = lineNoise((float(cell.y) + 0.5) * cellSize.y / (block * 5.0), seed + 40u);
         float likely = amount * smoothstep(0.62 - 0.5 * amount, 0.9, band + 0.25 * amount);
         vec3 h = hash23(cell, layer);
         if (h.x < likely * (level == 0 ? 0.5 : 0.42)) {
@@ -86,10 +87,10 @@ Signal taped(vec2 px, float block, float amount, float reach, uint seed)
     float line = floor(px.y / lineHeight);
     float y = px.y / block;
     float jitter = hash11(int(line), seed) - 0.5;
-    float slow = valueNoise(vec2(0.5, y * 0.35), seed + 1u) - 0.5;
-    float worn = valueNoise(vec2(9.5, y * 0.24), seed + 2u) + 0.22 * valueNoise(vec2(5.5, y * 0.9), seed + 3u);
+    float slow = lineNoise(y * 0.35, seed + 1u) - 0.5;
+    float worn = lineNoise(y * 0.24, seed + 2u) + 0.22 * lineNoise(y * 0.9, seed + 3u);
     float band = smoothstep(1.0 - 0.72 * amount, 1.1 - 0.6 * amount, worn);
-    float skew = valueNoise(vec2(2.5, y * 0.7), seed + 4u) - 0.5;
+    float skew = lineNoise(y * 0.7, seed + 4u) - 0.5;
     float move = amount * (0.12 * reach * slow + 0.03 * reach * jitter) + band * reach * (1.7 * skew + 0.35 * jitter);
     // Dropouts: short white dashes where the band has torn.
     ivec2 dash = ivec2(floor(vec2((px.x + move) / (0.7 * block) + 13.0 * jitter, line)));
