@@ -73,10 +73,11 @@ bool hasTransparency(const QImage &image)
     Q_ASSERT(image.format() == QImage::Format_RGBA8888);
     for (int y = 0; y < image.height(); ++y) {
         const uchar *alpha = image.constScanLine(y) + 3;
-        for (int x = 0; x < image.width(); ++x, alpha += 4) {
-            if (*alpha != 255)
-                return true;
-        }
+        uchar common = 255; // of the whole row, since a loop that may end early is not vectorised
+        for (int x = 0; x < image.width(); ++x)
+            common &= alpha[4 * x];
+        if (common != 255)
+            return true;
     }
     return false;
 }

@@ -1,3 +1,4 @@
+#include "filters/coverage.h"
 #include "filters/library_filter.h"
 #include "filters/library_filters.h"
 #include "filters/shape_mask.h"
@@ -27,18 +28,6 @@ QImage weightedBlur(FilterUtilityRenderer &renderer, const QImage &image, double
     return renderer.colorAdjust(blurred.convertToFormat(QImage::Format_RGBA8888), tone);
 }
 
-bool hasTransparency(const QImage &image)
-{
-    for (int y = 0; y < image.height(); ++y) {
-        const uchar *alpha = image.constScanLine(y) + 3;
-        for (int x = 0; x < image.width(); ++x) {
-            if (alpha[4 * x] != 255)
-                return true;
-        }
-    }
-    return false;
-}
-
 /// Colours of `outside` where the mask is 0, of `image` where it is 255, or the other way round; alpha of `image`.
 void mixIn(QImage &outside, const QImage &image, const QImage &mask, bool inverted)
 {
@@ -49,6 +38,14 @@ void mixIn(QImage &outside, const QImage &image, const QImage &mask, bool invert
         const uchar *coverage = mask.constScanLine(y) + 3;
         for (int x = 0; x < image.width(); ++x, target += 4, sharp += 4, coverage += 4) {
             const int inside = *coverage ^ flip;
+            if (inside == 255) { // as most are
+                std::copy_n(sharp, 4, target);
+                continue;
+            }
+            if (inside == 0) {
+                target[3] = sharp[3];
+                continue;
+            }
             for (int c = 0; c < 3; ++c)
                 target[c] = uchar((target[c] * (255 - inside) + sharp[c] * inside + 127) / 255);
             target[3] = sharp[3];
