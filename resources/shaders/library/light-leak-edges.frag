@@ -1,15 +1,18 @@
 #version 440
 // Film that light has reached: a glow from one side, white-hot at the edge, then the inner colour, then the outer one,
-// with softer and harder tongues, streaks along its way and a haze over all.
-// In and out: straight alpha, (0, 0) top left; alpha is kept. Cost: one texture read, seven noises.
+// with softer and harder tongues, streaks along its way and a haze over all. Nothing in it is fine: in large
+// pictures it is drawn as a small map, and the picture stacked with that map (stacked.glsl) takes it from there.
+// In and out: straight alpha, (0, 0) top left; alpha is kept. Cost: two texture reads; for the map seven noises.
 #extension GL_GOOGLE_include_directive : require
-#include "../common/color.glsl"
+#include "../common/film.glsl"
 #include "../common/noise.glsl"
+#include "../common/stacked.glsl"
 layout(location = 0) in vec2 v_uv;
 layout(location = 0) out vec4 fragColor;
 layout(binding = 0) uniform sampler2D u_input;
 layout(std140, binding = 1) uniform LibraryUniforms {
-    vec4 u_param0;  // size: width and height, pixels
+    vec4 u_param0;  // size: xy width and height, pixels; zw those of a map of the light, pixels, below 0
+                    // where it is drawn, 0 where there is none
     vec4 u_param1;  // start: where the light enters, pixels
     vec4 u_param2;  // end: how far it reaches, pixels
     vec4 u_param3;  // strength: 0..1
@@ -22,9 +25,9 @@ layout(std140, binding = 1) uniform LibraryUniforms {
     vec4 u_param10; // seed: 0..999
 };
 
-void main()
+// What reaches the film, as a share of the light that there is room for.
+vec3 exposure()
 {
-    vec4 src = texture(u_input, v_uv);
     uint seed = seedBits(u_param10.x);
     float diagonal = length(u_param0.xy);
     vec2 way = u_param2.xy - u_param1.xy;
@@ -36,7 +39,7 @@ void main()
 
     // Tongues: the front of the light is nearer here and farther there.
     vec2 p = from / diagonal;
-    vec2 bend = vec2(gradientNoise(p * 1.7, seed), gradientNoise(p * 1.7, seed + 1u));
+    vec2 bend = gradientNoise2(p * 1.7, seed);
     float edge = fbm(vec2(c * 3.2, 0.25 * a) + 0.5 * bend, 3.0, seed + 2u);
     float soft = u_param5.x;
     float front = a + mix(1.0, 0.35, soft) * edge - 0.25 * bend.x;
@@ -62,10 +65,27 @@ void main()
     vec3 light = outer * glow * 0.8 + inner * (0.22 * glow * glow + 1.25 * core * core)
         + vec3(0.8, 0.72, 0.6) * pow(core, 5.0);
     vec3 haze = mix(outer, inner, 0.45) * u_param8.x * (0.08 + 0.22 * exp(-1.1 * max(a, 0.0)));
-    vec3 exposed = 1.0 - exp(-(light * 1.5 * u_param3.x + haze * 1.4)); // film saturates, it does not clip
+    return 1.0 - exp(-(light * 1.5 * u_param3.x + haze * 1.4)); // film saturates, it does not clip
+}
+
+void main()
+{
+    vec4 src;
+    vec3 exposed;
+    if (u_param0.z > 0.5) {
+        src = readStackedPicture(u_input, u_param0.xy, v_uv);
+        vec3 root = readStackedMap(u_input, u_param0.xy, u_param0.zw, v_uv).rgb;
+        exposed = root * root;
+    } else {
+        src = texture(u_input, v_uv);
+        exposed = exposure();
+        if (u_param0.z < -0.5) {
+            // The root spends the levels of a byte where the eye does.
+            fragColor = vec4(clamp(dithered(sqrt(exposed), gl_FragCoord.xy), 0.0, 1.0), 1.0);
+            return;
+        }
+    }
     vec3 base = toLinear(src.rgb);
     vec3 rgb = toEncoded(base + exposed * (1.0 - base));
-    // Less than a level of noise, against bands in the glow.
-    rgb += (hash23(ivec2(gl_FragCoord.xy), 11u) - 0.5) / 255.0;
-    fragColor = vec4(clamp(rgb, 0.0, 1.0), src.a);
+    fragColor = vec4(clamp(dithered(rgb, gl_FragCoord.xy), 0.0, 1.0), src.a);
 }

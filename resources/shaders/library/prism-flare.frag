@@ -1,17 +1,21 @@
 #version 440
 // Light that a prism has split, falling across the picture from a source. Beam: one wide rainbow. Rays: many thin ones.
 // Crystal: scattered patches, as cut glass throws them. Reflections of the lens lie on the same line.
-// In and out: straight alpha, (0, 0) top left; alpha is kept. Cost: one texture read, three noises, up to eight ghosts.
+// In large pictures the light is drawn as a smaller map, and the picture stacked with that map (stacked.glsl) takes it
+// from there.
+// In and out: straight alpha, (0, 0) top left; alpha is kept. Cost: two texture reads; for the light three noises,
+// up to eight ghosts.
 #extension GL_GOOGLE_include_directive : require
-#include "../common/color.glsl"
 #include "../common/cellular.glsl"
-#include "../common/noise.glsl"
+#include "../common/film.glsl"
 #include "../common/spectrum.glsl"
+#include "../common/stacked.glsl"
 layout(location = 0) in vec2 v_uv;
 layout(location = 0) out vec4 fragColor;
 layout(binding = 0) uniform sampler2D u_input;
 layout(std140, binding = 1) uniform LibraryUniforms {
-    vec4 u_param0;  // size: width and height, pixels
+    vec4 u_param0;  // size: xy width and height, pixels; zw those of a map of the light, pixels, below 0
+                    // where it is drawn, 0 where there is none
     vec4 u_param1;  // start: the source, pixels
     vec4 u_param2;  // end: where the light ends, pixels
     vec4 u_param3;  // style: 0 beam, 1 rays, 2 crystal
@@ -87,9 +91,9 @@ vec3 ghost(vec2 px, int index, float diagonal, uint seed)
     return (tint * body + 0.25 * fringe) * mix(0.06, 0.2, k.y);
 }
 
-void main()
+// What is added, as a share of the light that there is room for.
+vec3 exposure()
 {
-    vec4 src = texture(u_input, v_uv);
     vec2 size = u_param0.xy;
     float diagonal = length(size);
     vec2 px = v_uv * size;
@@ -127,9 +131,27 @@ void main()
         light += share * ghost(px, i, diagonal, seed + 20u);
     }
 
+    return 1.0 - exp(-1.5 * light * u_param4.x);
+}
+
+void main()
+{
+    vec4 src;
+    vec3 exposed;
+    if (u_param0.z > 0.5) {
+        src = readStackedPicture(u_input, u_param0.xy, v_uv);
+        vec3 root = readStackedMap(u_input, u_param0.xy, u_param0.zw, v_uv).rgb;
+        exposed = root * root;
+    } else {
+        src = texture(u_input, v_uv);
+        exposed = exposure();
+        if (u_param0.z < -0.5) {
+            // The root spends the levels of a byte where the eye does.
+            fragColor = vec4(clamp(dithered(sqrt(exposed), gl_FragCoord.xy), 0.0, 1.0), 1.0);
+            return;
+        }
+    }
     vec3 base = toLinear(src.rgb);
-    vec3 added = 1.0 - exp(-1.5 * light * u_param4.x);
-    vec3 rgb = toEncoded(base + added * (1.0 - base));
-    rgb += (hash23(ivec2(gl_FragCoord.xy), 13u) - 0.5) / 255.0;
-    fragColor = vec4(clamp(rgb, 0.0, 1.0), src.a);
+    vec3 rgb = toEncoded(base + exposed * (1.0 - base));
+    fragColor = vec4(clamp(dithered(rgb, gl_FragCoord.xy), 0.0, 1.0), src.a);
 }

@@ -1,6 +1,10 @@
 #include "filters/library_filter.h"
 #include "filters/library_filters.h"
+#include "filters/light_map.h"
 #include "filters/placed_line.h"
+
+#include <algorithm>
+#include <cmath>
 
 using namespace Qt::StringLiterals;
 
@@ -21,7 +25,6 @@ public:
     {
         const QLineF line = placedLine(request, u"position"_s, {1.0, 0.3, 0.7, 0.42});
         LibraryUniformBlock block(u"light-leak-edges"_s);
-        block.setVec2("u_size"_L1, request.image.width(), request.image.height());
         block.setVec2("u_start"_L1, line.x1(), line.y1());
         block.setVec2("u_end"_L1, line.x2(), line.y2());
         block.setFloat("u_strength"_L1, request.percent(u"strength"_s, 60.0));
@@ -32,7 +35,14 @@ public:
         block.setFloat("u_haze"_L1, request.percent(u"haze"_s, 15.0));
         block.setFloat("u_streaks"_L1, request.percent(u"streaks"_s, 35.0));
         block.setFloat("u_seed"_L1, request.number(u"seed"_s, 0.0));
-        return request.singlePass(block);
+        return renderWithLightMap(request, block, reduction(request.size()));
+    }
+
+private:
+    /// The finest streaks are a fiftieth of the diagonal wide, ten pixels of the map.
+    static int reduction(const QSize &size)
+    {
+        return std::max(int(std::hypot(size.width(), size.height()) / 500.0), 1);
     }
 };
 
