@@ -39,8 +39,8 @@ void main()
     uint seed = seedBits(u_param6.x);
     vec2 p = px / scale;
 
-    vec2 swell = vec2(gradientNoise(p * 0.55, seed), gradientNoise(p * 0.55 + 31.7, seed + 1u));
-    vec2 ripple = vec2(gradientNoise(p * 1.6 + swell, seed + 2u), gradientNoise(p * 1.6 + swell, seed + 3u));
+    vec2 swell = gradientNoise2(p * 0.55, seed);
+    vec2 ripple = gradientNoise2(p * 1.6 + swell, seed + 2u);
     vec2 bend = swell + 0.35 * ripple;
 
     float chroma = u_param5.x;
