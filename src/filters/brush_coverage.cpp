@@ -18,6 +18,10 @@ constexpr double kMaskDiagonal = 1700.0;
 constexpr float kBristle = 2.4f;
 constexpr float kLongStreak = 150.0f;
 constexpr float kShortStreak = 26.0f;
+/// From here on the end of a stroke takes less than a level.
+constexpr float kFarInside = 130.0f;
+
+constexpr float kBristleEdge = 0.035f; ///< half the softness of a bristle's edge, of the paint
 
 // PCG: Jarzynski and Olano, "Hash Functions for GPU Rendering", 2020.
 quint32 pcg(quint32 value)
@@ -27,10 +31,10 @@ quint32 pcg(quint32 value)
     return (word >> 22u) ^ word;
 }
 
-/// 0..1
-float randomAt(int x, int y, quint32 seed)
+/// 0..1, of a row of numbers.
+float randomAt(int x, quint32 row)
 {
-    return float(pcg(quint32(x) + pcg(quint32(y) + seed)) >> 8) / 16777216.0f;
+    return float(int(pcg(quint32(x) + row) >> 8)) * (1.0f / 16777216.0f);
 }
 
 float smoothStep(float from, float to, float value)
@@ -39,27 +43,44 @@ float smoothStep(float from, float to, float value)
     return t * t * (3.0f - 2.0f * t);
 }
 
-/// Value noise, 0..1, cells of one unit.
-float noise(float x, float y, quint32 seed)
+/// Without a call, which std::floor is on the oldest processors.
+int floored(float x)
 {
-    const float cellX = std::floor(x);
-    const float cellY = std::floor(y);
-    const int ix = int(cellX);
-    const int iy = int(cellY);
-    const float fx = smoothStep(0.0f, 1.0f, x - cellX);
-    const float fy = smoothStep(0.0f, 1.0f, y - cellY);
-    const float top = std::lerp(randomAt(ix, iy, seed), randomAt(ix + 1, iy, seed), fx);
-    const float bottom = std::lerp(randomAt(ix, iy + 1, seed), randomAt(ix + 1, iy + 1, seed), fx);
-    return std::lerp(top, bottom, fy);
+    const int cut = int(x);
+    return cut - (x < float(cut) ? 1 : 0);
 }
 
-/// Bristles one after the other: noise across a stroke that runs on for some way along it. 0..1.
-float streaks(float along, float across, quint32 seed)
+/// Value noise along a line, 0..1, cells of one unit.
+float noise(float x, quint32 row)
 {
-    const float coarse = noise(along / kLongStreak, across / (3.0f * kBristle), seed);
-    const float middle = noise(along / kLongStreak, across / kBristle, seed + 1);
-    const float fine = noise(along / kShortStreak, across / (0.7f * kBristle), seed + 2);
-    return 0.34f * coarse + 0.4f * middle + 0.26f * fine;
+    const int cell = floored(x);
+    const float first = randomAt(cell, row);
+    return first + (randomAt(cell + 1, row) - first) * smoothStep(0.0f, 1.0f, x - float(cell));
+}
+
+/// The same over the plane.
+float noise(float x, float y, quint32 seed)
+{
+    const int cell = floored(y);
+    const float top = noise(x, pcg(quint32(cell) + seed));
+    const float bottom = noise(x, pcg(quint32(cell + 1) + seed));
+    return top + (bottom - top) * smoothStep(0.0f, 1.0f, y - float(cell));
+}
+
+/// Bristles one after the other: noise across a stroke that runs on for some way along it. 0..1. Exact between `low`
+/// and `high`; beyond them it is only known to lie there, which costs less.
+float streaks(float along, float across, quint32 seed, float low = 0.0f, float high = 1.0f)
+{
+    constexpr float kMiddle = 0.4f;
+    constexpr float kFine = 0.26f;
+    const auto isDecided = [&](float streak, float rest) { return streak >= high || streak + rest <= low; };
+    float streak = 0.34f * noise(along / kLongStreak, across / (3.0f * kBristle), seed);
+    if (isDecided(streak, kMiddle + kFine))
+        return streak;
+    streak += kMiddle * noise(along / kLongStreak, across / kBristle, seed + 1);
+    if (isDecided(streak, kFine))
+        return streak;
+    return streak + kFine * noise(along / kShortStreak, across / (0.7f * kBristle), seed + 2);
 }
 
 class BrushCanvas
@@ -86,10 +107,10 @@ public:
     float coverageAt(float x, float y) const
     {
         const float along = x * m_cosine + y * m_sine;
-        const float wobble = 0.12f * m_spacing * m_roughness * 2.0f * (noise(along / 260.0f, 0.5f, m_seed + 7) - 0.5f);
+        const float wobble = 0.12f * m_spacing * m_roughness * 2.0f * (noise(along / 260.0f, m_seed + 7) - 0.5f);
         const float across = y * m_cosine - x * m_sine + wobble;
         float bare = 1.0f;
-        const int nearest = int(std::floor((across - m_top) / m_spacing));
+        const int nearest = floored((across - m_top) / m_spacing);
         for (int i = nearest - 1; i <= nearest + 1; ++i) {
             if (i >= 0 && i < int(m_strokes.size()))
                 bare *= 1.0f - strokeCoverage(m_strokes[size_t(i)], along, across);
@@ -112,7 +133,7 @@ private:
 
     Stroke strokeAt(int i) const
     {
-        const auto random = [this, i](int which) { return randomAt(i, which, m_seed + 11); };
+        const auto random = [this, i](quint32 which) { return randomAt(i, pcg(which + m_seed + 11)); };
         Stroke stroke;
         stroke.middle = m_top + (float(i) + 0.5f + 0.16f * m_roughness * (random(0) - 0.5f)) * m_spacing;
         stroke.halfWidth = 0.5f * m_spacing * (1.24f + 0.22f * m_roughness * random(1));
@@ -145,18 +166,23 @@ private:
 
     float strokeCoverage(const Stroke &stroke, float along, float across) const
     {
-        const float waist = 1.0f - 0.2f * m_roughness * noise(along / 130.0f, 0.5f, stroke.seed + 8);
-        const float side = std::abs(across - stroke.middle) / (stroke.halfWidth * waist);
+        const float away = std::abs(across - stroke.middle);
+        if (away >= stroke.halfWidth)
+            return 0.0f;
+        const float waist = 1.0f - 0.2f * m_roughness * noise(along / 130.0f, stroke.seed + 8);
+        const float side = away / (stroke.halfWidth * waist);
         if (side >= 1.0f)
             return 0.0f;
-        const float streak = streaks(along, across, stroke.seed);
-        // Each bristle touches down and lifts at a place of its own.
+        float inside = std::min(along - stroke.begin, stroke.end - along);
+        // Each bristle touches down and lifts at a place of its own, which does not matter far inside.
         const float ragged = m_roughness * (0.5f * m_spacing + 20.0f);
-        const float touch = noise(0.5f, across / kBristle, stroke.seed + 5);
-        const float group = noise(0.5f, across / (0.22f * m_spacing), stroke.seed + 6);
-        const float ownBegin = stroke.begin + ragged * (0.45f * touch * touch + 0.4f * group - 0.2f);
-        const float ownEnd = stroke.end - ragged * (0.55f * touch * touch + 0.5f * (1.0f - group) - 0.2f);
-        const float inside = std::min(along - ownBegin, ownEnd - along);
+        if (inside < ragged + kFarInside) {
+            const float touch = noise(across / kBristle, stroke.seed + 5);
+            const float group = noise(across / (0.22f * m_spacing), stroke.seed + 6);
+            const float ownBegin = stroke.begin + ragged * (0.45f * touch * touch + 0.4f * group - 0.2f);
+            const float ownEnd = stroke.end - ragged * (0.55f * touch * touch + 0.5f * (1.0f - group) - 0.2f);
+            inside = std::min(along - ownBegin, ownEnd - along);
+        }
         if (inside <= -1.0f)
             return 0.0f;
         const float length = std::max(stroke.end - stroke.begin, 1.0f);
@@ -166,7 +192,8 @@ private:
         const float sideLoss = (0.25f + 0.75f * m_roughness) * side * side * side * side;
         const float endLoss = 0.45f * m_roughness * std::exp(-std::max(inside, 0.0f) / 30.0f);
         const float paint = 1.0f - m_dryness * (0.2f + 0.46f * spent * spent) - 0.6f * sideLoss - endLoss;
-        return smoothStep(-0.035f, 0.035f, paint - streak) * smoothStep(-1.0f, 1.0f, inside);
+        const float streak = streaks(along, across, stroke.seed, paint - kBristleEdge, paint + kBristleEdge);
+        return smoothStep(-kBristleEdge, kBristleEdge, paint - streak) * smoothStep(-1.0f, 1.0f, inside);
     }
 
     /// Nothing may be cut off straight at the border of the picture: the brush keeps off it, unevenly.
@@ -212,7 +239,7 @@ QImage brushCoverage(const QSize &pictureSize, const BrushCoverageSettings &sett
         const float fromMiddle = (float(y) + 0.5f) * stepY - float(canvas.height() / 2.0);
         for (int x = 0; x < size.width(); ++x) {
             const float covered = brush.coverageAt((float(x) + 0.5f) * stepX - float(canvas.width() / 2.0), fromMiddle);
-            row[x] = uchar(std::lround(255.0f * covered));
+            row[x] = uchar(255.0f * covered + 0.5f);
         }
     }
     return mask;

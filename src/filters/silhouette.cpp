@@ -42,8 +42,12 @@ Silhouette silhouette(const QImage &picture, double sigma, const QColor &color, 
         const int end = std::min((row + 1) * reduction, picture.height());
         for (int y = row * reduction; y < end; ++y) {
             const uchar *alpha = picture.constScanLine(y) + 3;
-            for (int x = 0; x < picture.width(); ++x)
-                sums[size_t(x / reduction)] += alpha[4 * x];
+            for (int x = 0; x < picture.width(); x += reduction) {
+                const int stop = std::min(x + reduction, picture.width());
+                int &sum = sums[size_t(x / reduction)];
+                for (int i = x; i < stop; ++i)
+                    sum += alpha[4 * i];
+            }
         }
         uchar *target = result.image.scanLine(row + result.margin) + 4 * result.margin + 3;
         for (const int sum : sums) {
