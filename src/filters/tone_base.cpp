@@ -22,24 +22,31 @@ LibraryUniformBlock toneBaseBlock(const ToneBase &base, ToneBaseStage stage)
 {
     LibraryUniformBlock block(u"hdr-photo"_s);
     block.setVec2("u_texelSize"_L1, 1.0 / base.pictureSize.width(), 1.0 / base.pictureSize.height());
-    block.setVec4("u_radius"_L1, base.cell, double(stage), base.atlasSize.width(), base.atlasSize.height());
+    block.setVec4("u_radius"_L1, base.cell, double(stage), base.mapSize.width(), base.mapSize.height());
     return block;
 }
 
-ToneBase addToneBase(PassChain &chain, PassChain::Picture input, double radius)
+ToneBase toneBase(const FilterRenderRequest &request, double radius)
 {
-    const QSize size = chain.size(input);
-    ToneBase base{input, size, size, std::max(radius / kCellsPerRadius, 1.0)};
-    // The shorter side grows, so that a picture as long as a texture may be still has room.
-    if (size.width() >= size.height())
-        base.atlasSize.rheight() += cells(size.height(), base.cell);
-    else
-        base.atlasSize.rwidth() += cells(size.width(), base.cell);
+    const QSize size = request.size();
+    const double cell = std::max(radius / kCellsPerRadius, 1.0);
+    ToneBase base{
+        .pictureSize = size, .mapSize = {cells(size.width(), cell), cells(size.height(), cell)}, .cell = cell};
+    const PassChain::Picture input = base.chain.source(request.image);
+    PassChain::Picture map = input;
     for (const ToneBaseStage stage : {ToneBaseStage::Gather, ToneBaseStage::Smooth}) {
         const LibraryUniformBlock block = toneBaseBlock(base, stage);
-        base.atlas = chain.libraryShader(block.shaderId(), base.atlasSize, {base.atlas}, block.bytes());
+        map = base.chain.libraryShader(block.shaderId(), base.mapSize, {map}, block.bytes());
     }
+    base.stack = base.chain.stacked(input, map, request.renderer->maximumTextureSize());
     return base;
+}
+
+FilterRenderResult renderToneBase(const FilterRenderRequest &request, const ToneBase &base,
+                                  const LibraryUniformBlock &block)
+{
+    PassChain chain = base.chain;
+    return request.chained(chain, chain.libraryShader(block.shaderId(), base.pictureSize, {base.stack}, block.bytes()));
 }
 
 } // namespace zm

@@ -1,19 +1,20 @@
 #pragma once
 
+#include "filters/filter_render.h"
 #include "filters/library_uniform_block.h"
-#include "rendering/pass_chain.h"
 
 #include <QSize>
 
 namespace zm {
 
-/// A picture with a small map of its broad tones beside it, in one texture, for shaders that change local contrast.
-/// The map follows strong edges, so that what is done with it makes no halos. common/tone_base.glsl tells how.
+/// A picture with a small map of its broad tones, in one texture, for shaders that change local contrast. The map
+/// follows strong edges, so that what is done with it makes no halos. common/tone_base.glsl tells how.
 struct ToneBase
 {
-    PassChain::Picture atlas;
-    QSize atlasSize;
+    PassChain chain{}; ///< that makes them
+    PassChain::Picture stack{};
     QSize pictureSize;
+    QSize mapSize;
     double cell; ///< side of the square that one pixel of the map stands for, pixels of the picture, at least 1
 };
 
@@ -21,9 +22,14 @@ struct ToneBase
 enum class ToneBaseStage { Use, Gather, Smooth };
 
 /// `radius`: what is finer counts as detail, pixels.
-ToneBase addToneBase(PassChain &chain, PassChain::Picture input, double radius);
+ToneBase toneBase(const FilterRenderRequest &request, double radius);
 
 /// Uniforms of "hdr-photo" for a step; the ones of its look are still zero.
 LibraryUniformBlock toneBaseBlock(const ToneBase &base, ToneBaseStage stage);
+
+/// The picture as the block's shader makes it of the stack; unchanged where the two do not fit
+/// into a texture.
+FilterRenderResult renderToneBase(const FilterRenderRequest &request, const ToneBase &base,
+                                  const LibraryUniformBlock &block);
 
 } // namespace zm

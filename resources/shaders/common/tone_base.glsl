@@ -1,15 +1,15 @@
 #ifndef ZM_TONE_BASE_GLSL
 #define ZM_TONE_BASE_GLSL
-// A picture and a map of its broad tones in one texture. The map lies below a picture that is wider than high, else to
-// the right of it. One pixel of the map stands for a square of cell x cell pixels. A tone is the luminance of encoded
-// colour. Around its square, a pixel of the map takes broad tones to be share * tone + offset: where nothing but
-// texture is, share is near 0 and the base is their mean; at edges it is near 1 and the base follows them. Being a
-// straight line, it can turn no gradient round. He, Sun and Tang, "Guided Image Filtering", 2010.
+// A picture stacked with a map of its broad tones (stacked.glsl). One pixel of the map stands for a square of
+// cell x cell pixels. A tone is the luminance of encoded colour. Around its square, a pixel of the map takes broad tones
+// to be share * tone + offset: where nothing but texture is, share is near 0 and the base is their mean; at edges it is
+// near 1 and the base follows them. Being a straight line, it can turn no gradient round. He, Sun and Tang, "Guided
+// Image Filtering", 2010.
 // Red and green hold the offset, 0..1, as a number of 16 bits; blue holds the share.
+#include "stacked.glsl"
 
 const float kTextureVariance = 0.007; // of tones; at more, it is rather an edge than texture
 
-ivec2 toneMapOrigin(ivec2 size) { return size.x >= size.y ? ivec2(0, size.y) : ivec2(size.x, 0); }
 // The last pixel of the map, counted from its origin.
 ivec2 toneMapLast(ivec2 size, float cell)
 {
@@ -30,7 +30,7 @@ float unpacked16(vec2 texel) { return dot(floor(texel * 255.0 + 0.5), vec2(256.0
 // position: pixels of the picture. Four reads.
 vec2 toneBase(sampler2D atlas, ivec2 size, float cell, vec2 position, float tone)
 {
-    ivec2 origin = toneMapOrigin(size);
+    ivec2 origin = mapOrigin(atlas, vec2(size));
     ivec2 last = toneMapLast(size, cell);
     vec2 place = position / cell - 0.5;
     ivec2 low = clamp(ivec2(floor(place)), ivec2(0), last);

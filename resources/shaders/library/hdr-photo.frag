@@ -1,7 +1,7 @@
 #version 440
 // Opens shadows and brings back lights by compressing the broad tones, and lifts what is finer than them.
-// In three steps: the map of tones is gathered beside the picture, smoothed, and used.
-// In and out: straight alpha, (0, 0) top left; alpha is kept. Cost: five texture reads, and two copies.
+// In three steps: the map of tones is gathered from the picture, smoothed, and used, stacked with the picture.
+// In and out: straight alpha, (0, 0) top left; alpha is kept. Cost: five texture reads, and a few for the map.
 #extension GL_GOOGLE_include_directive : require
 #include "../common/color.glsl"
 #include "../common/tone_base.glsl"
@@ -13,16 +13,16 @@ layout(std140, binding = 1) uniform LibraryUniforms {
     vec4 u_param1;  // amount: compression of the broad tones, 0..1
     vec4 u_param2;  // detail: gain of what is finer, 0..1
     vec4 u_param3;  // color: 0..1
-    vec4 u_param4;  // radius: x cell of the map, pixels; y step: 0 use, 1 gather, 2 smooth; zw size of the atlas
+    vec4 u_param4;  // radius: x cell of the map, pixels; y step: 0 use, 1 gather, 2 smooth; zw size of the map
 };
 
 const int kMostTaps = 6;  // along a side of a cell
 const int kReach = 4;     // of the smoothing, cells: two standard deviations
 
 // Mean and standard deviation of the tones in a cell, of what is not transparent there, and the mean alpha.
-vec4 gathered(ivec2 size, ivec2 at, float cell, bool isWanted)
+vec4 gathered(ivec2 size, ivec2 at, float cell)
 {
-    int taps = isWanted ? clamp(int(ceil(cell * 0.5)), 1, kMostTaps) : 0;
+    int taps = clamp(int(ceil(cell * 0.5)), 1, kMostTaps);
     vec2 sum = vec2(0.0);
     float alpha = 0.0;
     for (int y = 0; y < taps; ++y)
@@ -34,20 +34,18 @@ vec4 gathered(ivec2 size, ivec2 at, float cell, bool isWanted)
             alpha += color.a;
         }
     sum /= max(alpha, 1e-5);
-    return vec4(packed16(sum.x), sqrt(max(sum.y - sum.x * sum.x, 0.0)), alpha / float(max(taps * taps, 1)));
+    return vec4(packed16(sum.x), sqrt(max(sum.y - sum.x * sum.x, 0.0)), alpha / float(taps * taps));
 }
 
 // Offset and share from the mean and the variance over the surroundings, by a bell curve.
-vec4 smoothed(ivec2 size, ivec2 at, float cell, bool isWanted)
+vec4 smoothed(ivec2 at)
 {
-    int reach = isWanted ? kReach : -1;
-    ivec2 origin = toneMapOrigin(size);
-    ivec2 last = toneMapLast(size, cell);
+    ivec2 last = textureSize(u_input, 0) - 1;
     vec2 sum = vec2(0.0);
     float total = 0.0;
-    for (int y = -reach; y <= reach; ++y)
-        for (int x = -reach; x <= reach; ++x) {
-            vec4 texel = texelFetch(u_input, origin + clamp(at + ivec2(x, y), ivec2(0), last), 0);
+    for (int y = -kReach; y <= kReach; ++y)
+        for (int x = -kReach; x <= kReach; ++x) {
+            vec4 texel = texelFetch(u_input, clamp(at + ivec2(x, y), ivec2(0), last), 0);
             float mean = unpacked16(texel.rg);
             vec2 away = vec2(float(x), float(y)) * (2.0 / float(kReach));
             float weight = texel.a * exp(-0.5 * dot(away, away));
@@ -101,9 +99,6 @@ void main()
         fragColor = toneMapped(size, v_uv * vec2(size), cell);
         return;
     }
-    ivec2 pixel = ivec2(v_uv * u_param4.zw);
-    ivec2 at = pixel - toneMapOrigin(size);
-    bool isMap = any(greaterThanEqual(pixel, size));
-    vec4 map = u_param4.y < 1.5 ? gathered(size, at, cell, isMap) : smoothed(size, at, cell, isMap);
-    fragColor = isMap ? map : texelFetch(u_input, min(pixel, size - 1), 0);
+    ivec2 at = ivec2(v_uv * u_param4.zw);
+    fragColor = u_param4.y < 1.5 ? gathered(size, at, cell) : smoothed(at);
 }

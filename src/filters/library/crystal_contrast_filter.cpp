@@ -22,10 +22,8 @@ public:
     {
         // Thousandths of the diagonal: wide enough for the relief of a face, too narrow to show as a glow.
         constexpr double radius = 6.0;
-        PassChain chain;
         const ToneBase base =
-            addToneBase(chain, chain.source(request.image),
-                        radius * std::hypot(request.size().width(), request.size().height()) / 1000.0);
+            toneBase(request, radius * std::hypot(request.size().width(), request.size().height()) / 1000.0);
 
         LibraryUniformBlock block(u"crystal-contrast"_s);
         block.setVec4("u_amount"_L1, request.percent(u"amount"_s, 60.0), base.pictureSize.width(),
@@ -33,8 +31,7 @@ public:
         block.setFloat("u_contrast"_L1, request.percent(u"contrast"_s, 35.0));
         block.setFloat("u_colorPop"_L1, request.percent(u"colorPop"_s, 35.0));
         block.setFloat("u_coolTone"_L1, request.percent(u"coolTone"_s, 30.0));
-        return request.chained(chain,
-                               chain.libraryShader(block.shaderId(), base.pictureSize, {base.atlas}, block.bytes()));
+        return renderToneBase(request, base, block);
     }
 };
 

@@ -19,16 +19,12 @@ public:
 
     FilterRenderResult render(const FilterRenderRequest &request) const override
     {
-        PassChain chain;
-        const ToneBase base =
-            addToneBase(chain, chain.source(request.image), request.diagonalPixels(u"radius"_s, 14.0));
-
+        const ToneBase base = toneBase(request, request.diagonalPixels(u"radius"_s, 14.0));
         LibraryUniformBlock block = toneBaseBlock(base, ToneBaseStage::Use);
         block.setFloat("u_amount"_L1, request.percent(u"amount"_s, 70.0));
         block.setFloat("u_detail"_L1, request.percent(u"detail"_s, 50.0));
         block.setFloat("u_color"_L1, request.percent(u"color"_s, 20.0));
-        return request.chained(chain,
-                               chain.libraryShader(block.shaderId(), base.pictureSize, {base.atlas}, block.bytes()));
+        return renderToneBase(request, base, block);
     }
 };
 
