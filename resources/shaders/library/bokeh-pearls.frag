@@ -1,7 +1,10 @@
 #version 440
 // Lights out of focus: translucent discs, hexagons or hearts in three depths, added as light to the picture. Each takes
 // its colour and strength from the picture behind it, and whether it is there at all from the mask.
-// In and out: straight alpha, (0, 0) top left; alpha is kept. Cost: one texture read, six for each light over a pixel.
+// The lights are soft: where they are large they are drawn into a smaller picture first, which then comes in the place
+// of the mask.
+// In and out: straight alpha, (0, 0) top left; alpha is kept. Cost: two texture reads; for the lights six for each of
+// them over a pixel.
 #extension GL_GOOGLE_include_directive : require
 #include "../common/color.glsl"
 #include "../common/noise.glsl"
@@ -17,7 +20,8 @@ layout(std140, binding = 2) uniform LibraryUniforms {
     vec4 u_param2;   // radius: of the largest lights, pixels
     vec4 u_param3;   // softness: of the outline, 0..1
     vec4 u_param4;   // rim: brightness of the outline over the inside, 0..1
-    vec4 u_param5;   // intensity: x 0..1; y 1 draws the lights outside the mask
+    vec4 u_param5;   // intensity: x 0..1; y 1 draws the lights outside the mask; z step: 0 all at once, 1 the lights
+                     // alone, 2 with the lights as they were drawn; w reduction: of the lights drawn alone, 0 or more
     vec4 u_param6;   // shape: 0 disc, 1 hexagon, 2 heart
     vec4 u_param7;   // colorBoost: saturation of the lights, 0..1
     vec4 u_param8;   // variation: of the sizes, 0..1
@@ -77,7 +81,7 @@ vec3 depthLight(vec2 px, float scale, float sharpness, uint seed)
     vec2 place = px / cellSize;
     ivec2 base = ivec2(floor(place - 0.5));
     float spread = 0.7 * u_param8.x;
-    float pixel = 1.0 / radius;
+    float pixel = max(u_param5.w, 1.0) / radius;
     vec3 sum = vec3(0.0);
     for (int i = 0; i < 4; ++i) {
         ivec2 cell = base + ivec2(i & 1, i >> 1);
@@ -121,10 +125,9 @@ vec3 depthLight(vec2 px, float scale, float sharpness, uint seed)
     return sum;
 }
 
-void main()
+// What the lights leave of the darkness, from 0..1, linear.
+vec3 lights(vec2 px)
 {
-    vec4 src = texture(u_input, v_uv);
-    vec2 px = v_uv * u_param0.xy;
     vec3 light = vec3(0.0);
     float scale = 1.0;
     for (int i = 0; i < kDepths; ++i) {
@@ -132,7 +135,21 @@ void main()
         light += (0.55 + 0.25 * float(i)) * depthLight(px, scale, 1.0 - 0.25 * float(i), 11u + 7u * uint(i));
         scale *= mix(0.86, 0.52, u_param8.x);
     }
-    light = 1.0 - exp(-light * u_param5.x * 1.7);
+    return 1.0 - exp(-light * u_param5.x * 1.7);
+}
+
+void main()
+{
+    vec2 px = v_uv * u_param0.xy;
+    if (u_param5.z > 0.5 && u_param5.z < 1.5) {
+        fragColor = vec4(sqrt(lights(px)), 1.0); // steps of the root are even to the eye
+        return;
+    }
+    vec4 src = texture(u_input, v_uv);
+    vec3 light = texture(u_mask, v_uv).rgb;
+    light *= light;
+    if (u_param5.z < 0.5)
+        light = lights(px);
     vec3 rgb = toEncoded(blendScreen(toLinear(src.rgb), light));
     fragColor = vec4(dot(light, vec3(1.0)) > 0.0 ? rgb : src.rgb, src.a);
 }
