@@ -3,7 +3,7 @@
 // places, splits and colours come in a map beside the picture (common/stacked.glsl): for each square, with one more
 // around the picture, the place of its point in it (b: which diagonal splits the quad to the right and below), then
 // the colours of the two triangles.
-// In and out: straight alpha, (0, 0) top left; alpha is kept. Cost: 11 texture reads, four times that at edges.
+// In and out: straight alpha, (0, 0) top left; alpha is kept. Cost: eight texture reads, four times that at edges.
 #extension GL_GOOGLE_include_directive : require
 #include "../common/color.glsl"
 #include "../common/hash.glsl"
@@ -26,7 +26,14 @@ struct Point
 {
     vec2 place; // in squares
     ivec2 square;
+    bool falling; // whether the quad to the right and below is split from the north-west to the south-east
 };
+
+Point pointOf(ivec2 square, ivec2 origin)
+{
+    vec4 entry = fetchStackedMap(u_input, origin, ivec2((square.x + 1) * 3, square.y + 1));
+    return Point(vec2(square) + entry.xy, square, entry.z > 0.5);
+}
 
 float turn(vec2 a, vec2 b) { return a.x * b.y - a.y * b.x; }
 float toLine(vec2 p, vec2 a, vec2 b) { return turn(b - a, p - a) * inversesqrt(max(dot(b - a, b - a), 1e-12)); }
@@ -47,52 +54,63 @@ float lightOn(Point a, Point b, Point c, uint seed)
 // The facet at a place in squares; w: how far its nearest edge is, squares.
 vec4 facetAt(vec2 p, ivec2 origin)
 {
+    // A place lies in one of the four quads around the point of its square: the lines from there to the points next to
+    // it tell in which.
     ivec2 home = ivec2(floor(p));
-    Point points[9];
-    float splits[9];
-    for (int i = 0; i < 9; ++i) {
-        ivec2 square = home + ivec2(i % 3, i / 3) - 1;
-        vec4 entry = fetchStackedMap(u_input, origin, ivec2((square.x + 1) * 3, square.y + 1));
-        points[i] = Point(vec2(square) + entry.xy, square);
-        splits[i] = entry.z;
+    Point middle = pointOf(home, origin);
+    Point north = pointOf(home - ivec2(0, 1), origin);
+    Point south = pointOf(home + ivec2(0, 1), origin);
+    Point west = pointOf(home - ivec2(1, 0), origin);
+    Point east = pointOf(home + ivec2(1, 0), origin);
+    vec2 away = p - middle.place;
+    bool rightOfNorth = turn(north.place - middle.place, away) >= 0.0;
+    bool rightOfSouth = turn(south.place - middle.place, away) <= 0.0;
+    bool belowEast = turn(east.place - middle.place, away) >= 0.0;
+    bool belowWest = turn(west.place - middle.place, away) <= 0.0;
+    bool inNorthEast = rightOfNorth && !belowEast;
+    bool inSouthEast = !inNorthEast && belowEast && rightOfSouth;
+    bool inSouthWest = !inNorthEast && !inSouthEast && belowWest && !rightOfSouth;
+    Point corner = pointOf(home + ivec2(inNorthEast || inSouthEast ? 1 : -1, inSouthEast || inSouthWest ? 1 : -1), origin);
+    Point nw = corner;
+    Point ne = north;
+    Point sw = west;
+    Point se = middle;
+    if (inNorthEast) {
+        nw = north;
+        ne = corner;
+        sw = middle;
+        se = east;
+    } else if (inSouthEast) {
+        nw = middle;
+        ne = east;
+        sw = south;
+        se = corner;
+    } else if (inSouthWest) {
+        nw = west;
+        ne = middle;
+        sw = corner;
+        se = south;
     }
-    // A place lies in one of the four quads around the point of its square; in each, on one side of the diagonal.
-    float best = -1e9;
-    Point a, b, c;
-    ivec2 color = ivec2(0);
-    for (int quad = 0; quad < 4; ++quad) {
-        int first = (quad >> 1) * 3 + (quad & 1);
-        Point nw = points[first];
-        Point ne = points[first + 1];
-        Point sw = points[first + 3];
-        Point se = points[first + 4];
-        bool falling = splits[first] > 0.5; // from the north-west to the south-east
-        Point from = nw;
-        if (!falling)
-            from = ne;
-        Point to = se;
-        if (!falling)
-            to = sw;
-        bool left = turn(to.place - from.place, p - from.place) < 0.0;
-        Point apex = falling ? (left ? ne : sw) : (left ? se : nw);
-        Point second = left ? apex : to;
-        Point third = left ? to : apex;
-        float distance = min(toLine(p, from.place, second.place),
-                             min(toLine(p, second.place, third.place), toLine(p, third.place, from.place)));
-        if (distance > best) {
-            best = distance;
-            a = from;
-            b = second;
-            c = third;
-            bool upper = falling ? left : !left;
-            color = ivec2((nw.square.x + 1) * 3 + (upper ? 1 : 2), nw.square.y + 1);
-        }
+
+    // And on one side of the quad's diagonal.
+    bool falling = nw.falling;
+    Point a = nw;
+    Point to = se;
+    if (!falling) {
+        a = ne;
+        to = sw;
     }
+    bool left = turn(to.place - a.place, p - a.place) < 0.0;
+    Point apex = falling ? (left ? ne : sw) : (left ? se : nw);
+    Point b = left ? apex : to;
+    Point c = left ? to : apex;
+    float distance = min(toLine(p, a.place, b.place), min(toLine(p, b.place, c.place), toLine(p, c.place, a.place)));
+    ivec2 color = ivec2((nw.square.x + 1) * 3 + (falling == left ? 1 : 2), nw.square.y + 1);
     uint seed = seedBits(u_param6.x);
     vec3 rgb = saturated(fetchStackedMap(u_input, origin, color).rgb, u_param3.x);
     float light = lightOn(a, b, c, seed + 9u) * u_param2.x;
     rgb = light > 0.0 ? mix(rgb, vec3(1.0), light * 0.3) : rgb * (1.0 + 0.45 * light);
-    return vec4(rgb, max(best, 0.0));
+    return vec4(rgb, max(distance, 0.0));
 }
 
 vec3 drawnAt(vec4 facet, float width)
