@@ -10,81 +10,44 @@ layout(location = 0) out vec4 fragColor;
 layout(binding = 0) uniform sampler2D u_input;
 layout(std140, binding = 1) uniform LibraryUniforms {
     vec4 u_param0;  // size: width and height, pixels
-    vec4 u_param1;  // style: index into kStocks
-    vec4 u_param2;  // strength: share of the graded picture, 0..1
-    vec4 u_param3;  // saturation: -1..1, 0 is the stock's own
-    vec4 u_param4;  // contrast: -1..1, 0 is the stock's own
-    vec4 u_param5;  // fade: how far black is lifted, 0..1
-    vec4 u_param6;  // x: grain, 0..1; y: size of a grain, pixels
-    vec4 u_param7;  // vignette: loss of light in the corners, 0..1
+    vec4 u_param1;  // style: x contrast; y chroma; z how far black is lifted; w exposure in stops
+    vec4 u_param2;  // strength: x share of the graded picture, 0..1; yzw what black fades to, encoded
+    vec4 u_param3;  // saturation: x -1..1, 0 is the stock's own; yz tint of shadows, Oklab a and b
+    vec4 u_param4;  // contrast: x -1..1, 0 is the stock's own; yz tint of highlights, Oklab a and b
+    vec4 u_param5;  // fade: x how far black is lifted, 0..1
+    vec4 u_param6;  // grain: x 0..1, with the stock's own; y size of a grain, pixels
+    vec4 u_param7;  // vignette: x loss of light in the corners, 0..1; yz an axis in Oklab's a and b; w how far other hues
+                    // are drawn to it
     vec4 u_param8;  // artifacts: dust and scratches, 0..1
-    vec4 u_param9;  // seed
+    vec4 u_param9;  // seed: x; y how dark strong colours get, as dyes do
 };
 
-struct Stock
+vec3 developed(vec3 linear)
 {
-    vec4 tone;       // x: contrast; y: chroma; z: how far black is lifted; w: exposure in stops
-    vec4 tint;       // xy: Oklab a and b of shadows, zw: of highlights
-    vec4 palette;    // xy: an axis in Oklab's a and b; z: how far other hues are drawn to it; w: how dark strong
-                     // colours get, as dyes do
-    vec4 fadeColor;  // rgb: what black fades to, encoded; w: how much grain
-};
-
-const Stock kStocks[9] = Stock[](
-    // Colour negative: gentle, warm highlights, a breath of green in the shadows.
-    Stock(vec4(0.20, 1.04, 0.10, 0.12), vec4(-0.012, -0.004, 0.006, 0.018), vec4(0.75, 0.66, 0.12, 0.16),
-          vec4(0.30, 0.33, 0.31, 1.0)),
-    // Slide: deep and clear, cool shadows.
-    Stock(vec4(0.52, 1.30, 0.0, -0.08), vec4(-0.004, -0.020, 0.002, 0.008), vec4(0.6, 0.8, 0.0, 0.36),
-          vec4(0.22, 0.25, 0.34, 0.5)),
-    // Teal and orange.
-    Stock(vec4(0.36, 1.12, 0.03, 0.0), vec4(-0.036, -0.030, 0.016, 0.036), vec4(0.66, 0.75, 0.55, 0.2),
-          vec4(0.20, 0.30, 0.34, 0.8)),
-    // Bleach bypass: silver left in the print.
-    Stock(vec4(0.72, 0.42, 0.0, 0.10), vec4(-0.006, -0.010, -0.004, 0.004), vec4(0.6, 0.8, 0.0, 0.1),
-          vec4(0.25, 0.26, 0.27, 1.4)),
-    // A print that faded for forty years: cyan went first.
-    Stock(vec4(-0.06, 0.80, 0.42, 0.16), vec4(0.020, 0.010, 0.006, 0.036), vec4(0.8, 0.6, 0.15, 0.0),
-          vec4(0.40, 0.29, 0.27, 1.0)),
-    // Cross-processed slide: blue shadows, yellow-green lights.
-    Stock(vec4(0.58, 1.18, 0.05, 0.10), vec4(-0.006, -0.052, -0.034, 0.062), vec4(-0.3, 0.95, 0.0, 0.2),
-          vec4(0.10, 0.20, 0.38, 0.9)),
-    // Cinema tungsten: blue dusk, lamps stay warm.
-    Stock(vec4(0.30, 1.02, 0.05, -0.05), vec4(-0.018, -0.050, 0.004, -0.004), vec4(0.60, 0.80, 0.22, 0.25),
-          vec4(0.17, 0.23, 0.33, 1.1)),
-    // Golden seventies.
-    Stock(vec4(0.10, 1.02, 0.24, 0.12), vec4(0.010, 0.006, 0.010, 0.052), vec4(0.45, 0.89, 0.28, 0.12),
-          vec4(0.38, 0.30, 0.24, 1.0)),
-    // Black and white, a little warm as paper is.
-    Stock(vec4(0.46, 0.0, 0.05, 0.06), vec4(0.001, 0.003, 0.001, 0.006), vec4(0.6, 0.8, 0.0, 0.0),
-          vec4(0.28, 0.27, 0.26, 1.3)));
-
-vec3 developed(vec3 linear, Stock stock)
-{
-    vec3 lab = linearToOklab(rolledOff(linear * exp2(stock.tone.w), 0.72));
-    float chroma = stock.tone.y * (1.0 + u_param3.x);
+    vec3 lab = linearToOklab(rolledOff(linear * exp2(u_param1.w), 0.72));
+    float chroma = u_param1.y * (1.0 + u_param3.x);
     // Black and white sees blue darker and red lighter than the eye.
-    lab.x += 0.30 * (1.0 - min(stock.tone.y * 4.0, 1.0)) * dot(lab.yz, vec2(0.35, 0.65)) * lab.x;
+    lab.x += 0.30 * (1.0 - min(u_param1.y * 4.0, 1.0)) * dot(lab.yz, vec2(0.35, 0.65)) * lab.x;
 
-    float along = dot(lab.yz, stock.palette.xy);
-    vec2 across = lab.yz - along * stock.palette.xy;
-    lab.yz = vibrantChroma(along * stock.palette.xy + across * (1.0 - stock.palette.z), chroma);
-    lab.x *= 1.0 - stock.palette.w * min(length(lab.yz), 0.4) * lab.x;
+    float along = dot(lab.yz, u_param7.yz);
+    vec2 across = lab.yz - along * u_param7.yz;
+    lab.yz = vibrantChroma(along * u_param7.yz + across * (1.0 - u_param7.w), chroma);
+    lab.x *= 1.0 - u_param9.y * min(length(lab.yz), 0.4) * lab.x;
 
-    lab.x = toneCurve(lab.x, clamp(stock.tone.x + 0.8 * u_param4.x, -1.0, 1.0));
+    lab.x = toneCurve(lab.x, clamp(u_param1.x + 0.8 * u_param4.x, -1.0, 1.0));
     // Tints come and go with the tone: none in the deepest black and in white.
     float shadows = lab.x * (1.0 - lab.x) * (1.0 - lab.x) * 6.75;
     float lights = lab.x * lab.x * (1.0 - lab.x * lab.x) * 4.0;
     float tint = min(1.0 + u_param3.x, 1.0) * (1.0 - 0.35 * skinShare(lab.yz));
-    lab.yz += tint * (stock.tint.xy * shadows + stock.tint.zw * lights);
+    lab.yz += tint * (u_param3.yz * shadows + u_param4.yz * lights);
     return oklabToEncoded(lab);
 }
 
 // Dark is lifted towards the colour that the stock fades to, white comes down a little.
-vec3 faded(vec3 color, Stock stock)
+vec3 faded(vec3 color)
 {
-    float amount = clamp(stock.tone.z + u_param5.x, 0.0, 1.2);
-    vec3 black = stock.fadeColor.rgb * 0.62 * amount;
+    float amount = clamp(u_param1.z + u_param5.x, 0.0, 1.2);
+    vec3 black = u_param2.yzw * 0.62 * amount;
     return black + color * (1.0 - black - 0.05 * amount * vec3(0.4, 0.7, 1.3));
 }
 
@@ -137,23 +100,35 @@ float wear(vec2 pixel, uint seed)
     return clamp(sum, -1.0, 1.0);
 }
 
+// The share of light that the printer leaves in the corners, around a soft ellipse.
+float printed(vec2 uv)
+{
+    vec2 halfSize = 0.5 * u_param0.xy;
+    vec2 p = (2.0 * uv - 1.0);
+    float radius = length(p);
+    float inward = (1.0 - radius) * radius / max(length(p / halfSize), 1e-6); // pixels, to the ellipse
+    float feather = 0.67 * min(halfSize.x, halfSize.y);
+    return 1.0 - 0.5 * u_param7.x * (1.0 - smoothstep(-feather, feather, inward));
+}
+
 void main()
 {
     vec4 src = texture(u_input, v_uv);
-    Stock stock = kStocks[clamp(int(u_param1.x + 0.5), 0, 8)];
     vec2 pixel = v_uv * u_param0.xy;
     uint seed = seedBits(u_param9.x);
 
     vec3 light = toLinear(src.rgb) * lensFalloff(v_uv, u_param0.xy, 0.45 * u_param7.x);
-    vec3 rgb = faded(developed(light, stock), stock);
+    vec3 rgb = faded(developed(light));
     float luma = luminance(rgb);
-    vec3 grain = filmGrain(pixel, u_param6.y, stock.tone.y > 0.0 ? 0.2 : 0.0, seed);
-    rgb = withGrain(rgb, grain * u_param6.x * 0.42 * stock.fadeColor.w * (0.45 + 0.55 * smoothstep(0.0, 0.3, luma)));
+    vec3 grain = filmGrain(pixel, u_param6.y, u_param1.y > 0.0 ? 0.2 : 0.0, seed);
+    rgb = withGrain(rgb, grain * u_param6.x * 0.42 * (0.45 + 0.55 * smoothstep(0.0, 0.3, luma)));
     if (u_param8.x > 0.0) {
         float mark = wear(pixel, seed + 20u);
         vec3 dirt = mark > 0.0 ? vec3(0.95, 0.93, 0.88) : vec3(0.06, 0.05, 0.05);
         rgb = mix(rgb, dirt, abs(mark) * (0.35 + 0.65 * u_param8.x));
     }
     rgb = mix(src.rgb, rgb, u_param2.x);
+    float lost = 1.0 - printed(v_uv);
+    rgb *= 1.0 - lost * (0.446 + 0.17 * lost); // of the encoded colour, what that is of the light
     fragColor = vec4(clamp(dithered(rgb, gl_FragCoord.xy), 0.0, 1.0), src.a);
 }

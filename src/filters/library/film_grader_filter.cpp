@@ -1,12 +1,46 @@
 #include "filters/library_filter.h"
 #include "filters/library_filters.h"
-#include "filters/shape_mask.h"
+
+#include <array>
 
 using namespace Qt::StringLiterals;
 
 namespace zm {
 
 namespace {
+
+struct Stock
+{
+    std::array<double, 4> tone; ///< contrast, chroma, how far black is lifted, exposure in stops
+    std::array<double, 2> shadows; ///< their tint, Oklab a and b
+    std::array<double, 2> lights; ///< the same of highlights
+    /// An axis in Oklab's a and b, how far other hues are drawn to it, and how dark strong colours get, as dyes do.
+    std::array<double, 4> palette;
+    std::array<double, 3> fadedBlack; ///< red, green and blue, encoded
+    double grain;
+};
+
+// As the choices of "style".
+constexpr Stock kStocks[] = {
+    // Colour negative: gentle, warm highlights, a breath of green in the shadows.
+    {{0.20, 1.04, 0.10, 0.12}, {-0.012, -0.004}, {0.006, 0.018}, {0.75, 0.66, 0.12, 0.16}, {0.30, 0.33, 0.31}, 1.0},
+    // Slide: deep and clear, cool shadows.
+    {{0.52, 1.30, 0.0, -0.08}, {-0.004, -0.020}, {0.002, 0.008}, {0.6, 0.8, 0.0, 0.36}, {0.22, 0.25, 0.34}, 0.5},
+    // Teal and orange.
+    {{0.36, 1.12, 0.03, 0.0}, {-0.036, -0.030}, {0.016, 0.036}, {0.66, 0.75, 0.55, 0.2}, {0.20, 0.30, 0.34}, 0.8},
+    // Bleach bypass: silver left in the print.
+    {{0.72, 0.42, 0.0, 0.10}, {-0.006, -0.010}, {-0.004, 0.004}, {0.6, 0.8, 0.0, 0.1}, {0.25, 0.26, 0.27}, 1.4},
+    // A print that faded for forty years: cyan went first.
+    {{-0.06, 0.80, 0.42, 0.16}, {0.020, 0.010}, {0.006, 0.036}, {0.8, 0.6, 0.15, 0.0}, {0.40, 0.29, 0.27}, 1.0},
+    // Cross-processed slide: blue shadows, yellow-green lights.
+    {{0.58, 1.18, 0.05, 0.10}, {-0.006, -0.052}, {-0.034, 0.062}, {-0.3, 0.95, 0.0, 0.2}, {0.10, 0.20, 0.38}, 0.9},
+    // Cinema tungsten: blue dusk, lamps stay warm.
+    {{0.30, 1.02, 0.05, -0.05}, {-0.018, -0.050}, {0.004, -0.004}, {0.60, 0.80, 0.22, 0.25}, {0.17, 0.23, 0.33}, 1.1},
+    // Golden seventies.
+    {{0.10, 1.02, 0.24, 0.12}, {0.010, 0.006}, {0.010, 0.052}, {0.45, 0.89, 0.28, 0.12}, {0.38, 0.30, 0.24}, 1.0},
+    // Black and white, a little warm as paper is.
+    {{0.46, 0.0, 0.05, 0.06}, {0.001, 0.003}, {0.001, 0.006}, {0.6, 0.8, 0.0, 0.0}, {0.28, 0.27, 0.26}, 1.3},
+};
 
 class FilmGraderFilter final : public LibraryFilter
 {
@@ -18,33 +52,25 @@ public:
 
     FilterRenderResult render(const FilterRenderRequest &request) const override
     {
-        const double vignette = request.percent(u"vignette"_s, 30.0);
+        const Stock &stock =
+            kStocks[request.choice(u"style"_s,
+                                   {"negative"_L1, "slide"_L1, "teal-orange"_L1, "bleach-bypass"_L1, "faded-print"_L1,
+                                    "cross-process"_L1, "tungsten"_L1, "seventies"_L1, "mono"_L1})];
 
         LibraryUniformBlock film(u"film-grader"_s);
         film.setVec2("u_size"_L1, request.image.width(), request.image.height());
-        film.setFloat("u_style"_L1,
-                      request.choice(u"style"_s,
-                                     {"negative"_L1, "slide"_L1, "teal-orange"_L1, "bleach-bypass"_L1, "faded-print"_L1,
-                                      "cross-process"_L1, "tungsten"_L1, "seventies"_L1, "mono"_L1}));
-        film.setFloat("u_strength"_L1, request.percent(u"strength"_s, 100.0));
-        film.setFloat("u_saturation"_L1, request.percent(u"saturation"_s, 0.0));
-        film.setFloat("u_contrast"_L1, request.percent(u"contrast"_s, 0.0));
+        film.setVec4("u_style"_L1, stock.tone[0], stock.tone[1], stock.tone[2], stock.tone[3]);
+        film.setVec4("u_strength"_L1, request.percent(u"strength"_s, 100.0), stock.fadedBlack[0], stock.fadedBlack[1],
+                     stock.fadedBlack[2]);
+        film.setVec4("u_saturation"_L1, request.percent(u"saturation"_s, 0.0), stock.shadows[0], stock.shadows[1], 0.0);
+        film.setVec4("u_contrast"_L1, request.percent(u"contrast"_s, 0.0), stock.lights[0], stock.lights[1], 0.0);
         film.setFloat("u_fade"_L1, request.percent(u"fade"_s, 10.0));
-        film.setVec2("u_grain"_L1, request.percent(u"grain"_s, 25.0), kGrainSize * request.renderScale());
-        film.setFloat("u_vignette"_L1, vignette);
+        film.setVec2("u_grain"_L1, request.percent(u"grain"_s, 25.0) * stock.grain, kGrainSize * request.renderScale());
+        film.setVec4("u_vignette"_L1, request.percent(u"vignette"_s, 30.0), stock.palette[0], stock.palette[1],
+                     stock.palette[2]);
         film.setFloat("u_artifacts"_L1, request.percent(u"artifacts"_s, 0.0));
-        film.setFloat("u_seed"_L1, request.number(u"seed"_s, 1.0));
-
-        // The lens's own loss of light is in the first pass, before the film's curve; this is the printer's.
-        LibraryUniformBlock corners(u"vignette"_s);
-        corners.setFloat("u_strength"_L1, 0.5 * vignette);
-        corners.setColor("u_tint"_L1, Qt::black);
-
-        PassChain chain;
-        PassChain::Picture picture = addPass(chain, film, {chain.source(request.image)});
-        if (vignette > 0.0)
-            picture = addPass(chain, corners, {picture, addCornerMask(chain, request.bounds.size())});
-        return request.chained(chain, picture);
+        film.setVec2("u_seed"_L1, request.number(u"seed"_s, 1.0), stock.palette[3]);
+        return request.singlePass(film);
     }
 
 private:
