@@ -13,6 +13,7 @@ namespace {
 
 /// The background, in thousandths of the diagonal: fine detail would stand beside itself where it is smeared.
 constexpr double kSoftening = 1.2;
+constexpr double kLeastSoftening = 2.5; ///< pixels, of a picture that can be halved
 
 // The picture stays clear in the middle and is stirred around it.
 class SwirlFrameFilter final : public LibraryFilter
@@ -36,8 +37,12 @@ public:
         settings.fadeShare = 1.0 - 0.7 * std::clamp((settings.pictureScale - 0.85) / 0.15, 0.0, 1.0);
         PassChain chain;
         const PassChain::Picture picture = chain.source(request.image);
-        const double softening = kSoftening / 1000.0 * std::hypot(request.image.width(), request.image.height());
-        const PassChain::Picture background = chain.reducedBlur(picture, softening);
+        // What is as soft as this is there in a half, too: the blur is done where it has little left to do.
+        PassChain::Picture background = picture;
+        double softening = kSoftening / 1000.0 * std::hypot(request.image.width(), request.image.height());
+        for (; softening > kLeastSoftening; softening /= 2.0)
+            background = chain.shader(u"textureCopy"_s, (chain.size(background) / 2).expandedTo({1, 1}), {background});
+        background = chain.reducedBlur(background, softening);
         return request.chained(chain, addSwirlFrame(chain, picture, background, settings));
     }
 };
