@@ -2,11 +2,10 @@
 // Triangles of one colour each. A grid of points, one somewhere in each square, is joined to quads and these are split;
 // places, splits and colours come in a map beside the picture (common/stacked.glsl): for each square, with one more
 // around the picture, the place of its point in it (b: which diagonal splits the quad to the right and below), then
-// the colours of the two triangles.
+// the colours of the two triangles (a: the light on them, 0.5 is even).
 // In and out: straight alpha, (0, 0) top left; alpha is kept. Cost: eight texture reads, four times that at edges.
 #extension GL_GOOGLE_include_directive : require
 #include "../common/color.glsl"
-#include "../common/hash.glsl"
 #include "../common/shapes.glsl"
 #include "../common/stacked.glsl"
 layout(location = 0) in vec2 v_uv;
@@ -19,7 +18,7 @@ layout(std140, binding = 1) uniform LibraryUniforms {
     vec4 u_param3;  // saturation: 1 changes nothing, 0..2
     vec4 u_param4;  // edge width: pixels
     vec4 u_param5;  // edge colour
-    vec4 u_param6;  // seed
+    vec4 u_param6;  // seed: in the map
 };
 
 struct Point
@@ -37,19 +36,6 @@ Point pointOf(ivec2 square, ivec2 origin)
 
 float turn(vec2 a, vec2 b) { return a.x * b.y - a.y * b.x; }
 float toLine(vec2 p, vec2 a, vec2 b) { return turn(b - a, p - a) * inversesqrt(max(dot(b - a, b - a), 1e-12)); }
-
-// The light on the plane through three points of hashed heights, about -1..1.
-float lightOn(Point a, Point b, Point c, uint seed)
-{
-    vec2 ab = b.place - a.place;
-    vec2 ac = c.place - a.place;
-    float area = turn(ab, ac);
-    float height = hash21(a.square, seed);
-    float rise = hash21(b.square, seed) - height;
-    float other = hash21(c.square, seed) - height;
-    vec2 slope = vec2(rise * ac.y - other * ab.y, other * ab.x - rise * ac.x) / max(abs(area), 0.12);
-    return clamp(dot(slope, vec2(0.5, 0.866)), -1.0, 1.0);
-}
 
 // The facet at a place in squares; w: how far its nearest edge is, squares.
 vec4 facetAt(vec2 p, ivec2 origin)
@@ -106,9 +92,9 @@ vec4 facetAt(vec2 p, ivec2 origin)
     Point c = left ? to : apex;
     float distance = min(toLine(p, a.place, b.place), min(toLine(p, b.place, c.place), toLine(p, c.place, a.place)));
     ivec2 color = ivec2((nw.square.x + 1) * 3 + (falling == left ? 1 : 2), nw.square.y + 1);
-    uint seed = seedBits(u_param6.x);
-    vec3 rgb = saturated(fetchStackedMap(u_input, origin, color).rgb, u_param3.x);
-    float light = lightOn(a, b, c, seed + 9u) * u_param2.x;
+    vec4 entry = fetchStackedMap(u_input, origin, color);
+    vec3 rgb = saturated(entry.rgb, u_param3.x);
+    float light = (2.0 * entry.a - 1.0) * u_param2.x;
     rgb = light > 0.0 ? mix(rgb, vec3(1.0), light * 0.3) : rgb * (1.0 + 0.45 * light);
     return vec4(rgb, max(distance, 0.0));
 }

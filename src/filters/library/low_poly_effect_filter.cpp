@@ -17,6 +17,8 @@ constexpr int kMargin = 1; // squares around the picture
 constexpr double kFlatEdge = 2.5e-4; // the weight of chance against the edges of the picture
 constexpr double kPullReach = 0.12; // how far from its chance place a point is pulled: twice the variance, squares
 constexpr double kLengthCost = 4e-4; // what a long diagonal costs against colours that differ within a triangle
+constexpr double kLeastArea = 0.12; // of two triangles, squares: smaller ones would be too steep for light
+const QPointF kLightFrom(0.5, 0.866);
 
 double turn(const QPointF &a, const QPointF &b)
 {
@@ -38,6 +40,7 @@ public:
         : m_picture(image, side, kDetail)
         , m_columns(m_picture.squares().width() + 2 * kMargin)
         , m_rows(m_picture.squares().height() + 2 * kMargin)
+        , m_lightSeed(seed + 9)
     {
         placePoints(seed);
     }
@@ -135,6 +138,21 @@ private:
         return {main.mean(), error / double(count) * std::abs(turn(b - a, c - a))};
     }
 
+    /// The light on the plane through three points of chance heights, -1..1; each is given by its square.
+    double lightOn(const QPoint &a, const QPoint &b, const QPoint &c) const
+    {
+        const auto height = [this](const QPoint &square) {
+            return squareHash(square.x(), square.y(), m_lightSeed).x();
+        };
+        const QPointF ab = point(b.x(), b.y()) - point(a.x(), a.y());
+        const QPointF ac = point(c.x(), c.y()) - point(a.x(), a.y());
+        const double rise = height(b) - height(a);
+        const double other = height(c) - height(a);
+        const QPointF slope = QPointF(rise * ac.y() - other * ab.y(), other * ab.x() - rise * ac.x())
+            / std::max(turn(ab, ac), kLeastArea);
+        return std::clamp(QPointF::dotProduct(slope, kLightFrom), -1.0, 1.0);
+    }
+
     void drawSquare(QImage &map, int column, int row) const
     {
         const QPointF &nw = point(column, row);
@@ -160,18 +178,22 @@ private:
         texel[1] = byte(nw.y(), row - kMargin);
         texel[2] = isFalling ? 255 : 0;
         texel[3] = 255;
+        const QPoint corners[] = {{column, row}, {column + 1, row}, {column + 1, row + 1}, {column, row + 1}};
+        const double lights[] = {lightOn(corners[0], corners[1], corners[isFalling ? 2 : 3]),
+                                 lightOn(corners[isFalling ? 0 : 1], corners[2], corners[3])};
         for (int i = 0; i < 2; ++i) {
             const QRgb color = opaqueTexel(chosen[i].color);
             texel[4 + 4 * i] = uchar(qRed(color));
             texel[5 + 4 * i] = uchar(qGreen(color));
             texel[6 + 4 * i] = uchar(qBlue(color));
-            texel[7 + 4 * i] = 255;
+            texel[7 + 4 * i] = byte(0.5 + 0.5 * lights[i], 0);
         }
     }
 
     CellPicture m_picture;
     int m_columns;
     int m_rows;
+    quint32 m_lightSeed;
     std::vector<QPointF> m_points; // in squares, row by row, from the margin on
 };
 
@@ -196,7 +218,6 @@ public:
         block.setFloat("u_saturation"_L1, request.percent(u"saturation"_s, 115.0));
         block.setFloat("u_edgeWidth"_L1, request.diagonalPixels(u"edgeWidth"_s, 0.0));
         block.setColor("u_edgeColor"_L1, request.parameters.color(u"edgeColor"_s, Qt::white));
-        block.setFloat("u_seed"_L1, seed);
 
         PassChain chain;
         const PassChain::Picture map = chain.source(FacetMap(request.image, side, quint32(qRound(seed))).image());
