@@ -1,5 +1,7 @@
 #include "filters/cell_picture.h"
 
+#include "filters/coverage.h"
+
 #include <algorithm>
 #include <cmath>
 
@@ -27,11 +29,14 @@ CellPicture::CellPicture(const QImage &image, double side, int detail)
 {
     const double reduction = std::max(side / detail, 1.0);
     const QSize size(std::max(qRound(image.width() / reduction), 1), std::max(qRound(image.height() / reduction), 1));
-    // Premultiplied before it is reduced: transparent pixels lend no colour.
-    m_reduced = image.convertToFormat(QImage::Format_RGBA8888_Premultiplied);
-    if (size != image.size())
-        m_reduced = m_reduced.scaled(size, Qt::IgnoreAspectRatio, Qt::SmoothTransformation)
-                        .convertToFormat(QImage::Format_RGBA8888_Premultiplied);
+    // Premultiplied before it is reduced: transparent pixels lend no colour. An opaque picture is so already.
+    constexpr QImage::Format premultiplied = QImage::Format_RGBA8888_Premultiplied;
+    const bool isOpaque = image.format() == QImage::Format_RGBA8888 && !hasTransparency(image);
+    m_reduced = isOpaque ? QImage(image.constBits(), image.width(), image.height(), image.bytesPerLine(), premultiplied)
+                         : image.convertToFormat(premultiplied);
+    m_reduced = size != image.size()
+        ? m_reduced.scaled(size, Qt::IgnoreAspectRatio, Qt::SmoothTransformation).convertToFormat(premultiplied)
+        : m_reduced.copy();
     m_step = {image.width() / side / size.width(), image.height() / side / size.height()};
 }
 
