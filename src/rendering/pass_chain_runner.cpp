@@ -165,9 +165,9 @@ private:
             freed += bytes(framebuffer->size(), keepsRedOnly(*framebuffer));
             framebuffer.reset();
         }
-        if (step == m_result) // as a QImage it takes the place of as much
-            freed -= bytes(m_chain.steps()[step].size, false);
-        if (freed > kWorthGivingBack)
+        // As a QImage the result takes the place of as much.
+        const qint64 takenUp = step == m_result ? bytes(m_chain.steps()[step].size, false) : 0;
+        if (freed > std::max(takenUp, kWorthGivingBack))
             m_passes.giveMemoryBack();
     }
 
