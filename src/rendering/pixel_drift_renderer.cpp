@@ -21,7 +21,7 @@ Q_LOGGING_CATEGORY(lcPixelDrift, "zelmoraatelier.rendering.pixel-drift")
 constexpr GLuint kUniformBinding = 1;
 constexpr int kMaximumBins = 64;   // the shaders walk no further
 constexpr int kBytesPerEntry = 16;
-constexpr int kPointsAtOnce = 1 << 14;
+constexpr int kPointsAtOnce = 1 << 16;
 constexpr int kShortestSpan = 2;    // pixels
 constexpr double kGroupsASpan = 40.0; // lines that share block edges are this much narrower than a block is long
 
