@@ -21,7 +21,8 @@ Q_LOGGING_CATEGORY(lcPixelDrift, "zelmoraatelier.rendering.pixel-drift")
 constexpr GLuint kUniformBinding = 1;
 constexpr int kMaximumBins = 64;   // the shaders walk no further
 constexpr int kBytesPerEntry = 16;
-constexpr int kPointsAtOnce = 1 << 16;
+constexpr int kLeastRoom = 1 << 20; // entries
+constexpr int kPointsAtOnce = 1 << 18;
 constexpr int kShortestSpan = 2;    // pixels
 constexpr double kGroupsASpan = 40.0; // lines that share block edges are this much narrower than a block is long
 
@@ -153,8 +154,9 @@ QImage PixelDriftRenderer::render(const QImage &image, const PixelDriftSettings 
     gl->glGetIntegerv(GL_MAX_TEXTURE_SIZE, &longestSide);
     const DriftLines lines(source.size(), limited(settings.angle, 0.0, 360.0, defaults.angle));
     const double streak = limited(settings.streakLength, kShortestSpan, lines.axisSize, defaults.streakLength);
-    // Both atlases together take no more memory than half of the picture.
-    const int room = int(std::min<qsizetype>(m_limits.entries, source.sizeInBytes() / (4 * kBytesPerEntry)));
+    // Both atlases together take no more memory than half of a large picture; too small ones would cost time.
+    const qsizetype half = source.sizeInBytes() / (4 * kBytesPerEntry);
+    const int room = int(std::min<qsizetype>(m_limits.entries, std::max<qsizetype>(half, kLeastRoom)));
     const AtlasLayout layout(lines, streak, {std::min(longestSide, m_limits.longestSide), room});
     auto entries = createAtlas(layout);
     auto sorted = createAtlas(layout);
