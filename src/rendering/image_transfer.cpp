@@ -33,17 +33,18 @@ void clearErrors(QOpenGLExtraFunctions *functions)
 
 } // namespace
 
-bool fillFramebuffer(QOpenGLExtraFunctions *functions, const QOpenGLFramebufferObject &framebuffer, const QImage &image)
+bool fillFramebuffer(QOpenGLExtraFunctions *functions, const QOpenGLFramebufferObject &framebuffer, const QImage &image,
+                     const QPoint &place)
 {
-    if (image.size() != framebuffer.size())
+    if (!QRect({}, framebuffer.size()).contains(QRect(place, image.size())))
         return false;
     functions->glBindTexture(GL_TEXTURE_2D, framebuffer.texture());
     functions->glPixelStorei(GL_UNPACK_ALIGNMENT, 1);
     // A QImage over somebody else's memory may have longer rows than its width says.
     functions->glPixelStorei(GL_UNPACK_ROW_LENGTH, GLint(image.bytesPerLine() / kBytesPerPixel));
     clearErrors(functions);
-    functions->glTexSubImage2D(GL_TEXTURE_2D, 0, 0, 0, image.width(), image.height(), GL_RGBA, GL_UNSIGNED_BYTE,
-                               image.constBits());
+    functions->glTexSubImage2D(GL_TEXTURE_2D, 0, place.x(), place.y(), image.width(), image.height(), GL_RGBA,
+                               GL_UNSIGNED_BYTE, image.constBits());
     const GLenum error = functions->glGetError();
     functions->glPixelStorei(GL_UNPACK_ROW_LENGTH, 0);
     functions->glBindTexture(GL_TEXTURE_2D, 0);

@@ -25,9 +25,10 @@ std::unique_ptr<QOpenGLFramebufferObject> createFramebuffer(QOpenGLExtraFunction
 /// What reads beyond the texture's rim give from now on.
 void setTextureEdge(QOpenGLExtraFunctions *functions, GLuint texture, TextureEdge edge);
 
-/// Uploads an RGBA8888 picture into all of a framebuffer of its size; false when the driver refuses.
-bool fillFramebuffer(QOpenGLExtraFunctions *functions, const QOpenGLFramebufferObject &framebuffer,
-                     const QImage &image);
+/// Uploads an RGBA8888 picture into a framebuffer, its first pixel to `place`; false when it does not fit there or the
+/// driver refuses.
+bool fillFramebuffer(QOpenGLExtraFunctions *functions, const QOpenGLFramebufferObject &framebuffer, const QImage &image,
+                     const QPoint &place = {});
 
 /// The framebuffer's pixels as RGBA8888, first row first; null when the image cannot be allocated.
 QImage readFramebuffer(QOpenGLExtraFunctions *functions, const QOpenGLFramebufferObject &framebuffer);

@@ -16,13 +16,26 @@ using Picture = PassChain::Picture;
 
 constexpr qint64 kWorthGivingBack = 16 * 1024 * 1024; // bytes; less stays at hand for the next picture
 
-/// The pictures that a step reads.
-QList<Picture> inputsOf(const PassChain::Step &step)
+/// Null for a picture that the chain makes.
+const QImage *sourceImage(const PassChain &chain, Picture picture)
+{
+    const auto *source = std::get_if<PassChain::Source>(&chain.steps()[qsizetype(picture)].work);
+    return source ? &source->image : nullptr;
+}
+
+/// The pictures that a step reads from the GPU.
+QList<Picture> inputsOf(const PassChain &chain, const PassChain::Step &step)
 {
     if (const auto *pass = std::get_if<PassChain::Pass>(&step.work))
         return pass->inputs;
-    const auto *stack = std::get_if<PassChain::Stack>(&step.work);
-    return stack ? stack->inputs : QList<Picture>();
+    QList<Picture> inputs;
+    if (const auto *stack = std::get_if<PassChain::Stack>(&step.work)) {
+        for (const Picture input : stack->inputs) {
+            if (!sourceImage(chain, input))
+                inputs.append(input);
+        }
+    }
+    return inputs;
 }
 
 /// One run of a chain. The context is current while it carries steps out.
@@ -40,7 +53,7 @@ public:
         for (qsizetype i = m_result; i >= 0; --i) {
             if (m_lastUse[i] == kNever)
                 continue;
-            for (const Picture input : inputsOf(chain.steps()[i]))
+            for (const Picture input : inputsOf(chain, chain.steps()[i]))
                 m_lastUse[qsizetype(input)] = std::max(m_lastUse[qsizetype(input)], i);
         }
     }
@@ -134,7 +147,12 @@ private:
     Framebuffer make(const PassChain::Stack &stack, const QSize &size)
     {
         Framebuffer target = takeFramebuffer(size, false, TextureEdge::Clamp);
+        if (!target)
+            return nullptr;
         const auto draw = [&](Picture picture, const QPoint &place) {
+            if (const QImage *image =
+                    sourceImage(m_chain, picture)) // even one that is there already: drawing takes longer
+                return fillFramebuffer(m_passes.functions(), *target, *image, place);
             const GLuint name = m_made[size_t(picture)]->texture();
             return m_passes.drawPass(u"textureCopy"_s, {&name, 1}, target.get(), {}, {place, m_chain.size(picture)});
         };
@@ -154,7 +172,7 @@ private:
     void letGoOfInputs(qsizetype step)
     {
         qint64 freed = 0;
-        for (const Picture input : inputsOf(m_chain.steps()[step])) {
+        for (const Picture input : inputsOf(m_chain, m_chain.steps()[step])) {
             Framebuffer &framebuffer = m_made[size_t(input)];
             if (m_lastUse[qsizetype(input)] != step || !framebuffer)
                 continue;

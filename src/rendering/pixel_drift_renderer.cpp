@@ -22,7 +22,7 @@ constexpr GLuint kUniformBinding = 1;
 constexpr int kMaximumBins = 64;   // the shaders walk no further
 constexpr int kBytesPerEntry = 16;
 constexpr int kLeastRoom = 1 << 20; // entries
-constexpr int kPointsAtOnce = 1 << 18;
+constexpr int kPointsAtOnce = 1 << 15;
 constexpr int kShortestSpan = 2;    // pixels
 constexpr double kGroupsASpan = 40.0; // lines that share block edges are this much narrower than a block is long
 
@@ -255,10 +255,11 @@ bool PixelDriftRenderer::drawRanks(GLuint atlas, QOpenGLFramebufferObject *targe
     gl->glBindVertexArray(noAttributes);
     gl->glActiveTexture(GL_TEXTURE0);
     gl->glBindTexture(GL_TEXTURE_2D, atlas);
-    // In parts, each finished before the next: a software driver keeps some hundred bytes for each waiting point.
+    // In parts: a software driver keeps some hundred bytes for each waiting point, and draws those of one part while
+    // it ranks the next.
     for (int first = 0; first < entries; first += kPointsAtOnce) {
         gl->glDrawArrays(GL_POINTS, first, std::min(entries - first, kPointsAtOnce));
-        gl->glFinish();
+        gl->glFlush();
     }
     gl->glBindTexture(GL_TEXTURE_2D, 0);
     gl->glBindVertexArray(0);
