@@ -1,5 +1,7 @@
 #include "filters/lens_blur.h"
 
+#include "filters/row_bands.h"
+
 #include <QList>
 
 #include <algorithm>
@@ -78,26 +80,29 @@ LightField reduced(const QImage &image, int factor, const LightScale &scale)
 
     float *values = field.values.data();
     const qsizetype stride = qsizetype(field.width) * kChannels;
-    QList<int> rowPixels(field.height, 0);
-    for (int y = 0; y < image.height(); ++y) {
-        ++rowPixels[rows[y]];
-        const uchar *pixel = image.constScanLine(y);
-        float *row = values + rows[y] * stride;
-        for (int x = 0; x < image.width(); ++x, pixel += kChannels) {
-            float *cell = row + columns[x] * kChannels;
-            const float alpha = float(pixel[3]) / 255.0F;
-            for (int channel = 0; channel < 3; ++channel)
-                cell[channel] += alpha * scale.light(pixel[channel]);
-            cell[3] += alpha;
+    const auto reduceRow = [&](int cellRow) {
+        float *row = values + cellRow * stride;
+        const auto [begin, end] = std::equal_range(rows.begin(), rows.end(), cellRow);
+        for (int y = int(begin - rows.begin()); y < int(end - rows.begin()); ++y) {
+            const uchar *pixel = image.constScanLine(y);
+            for (int x = 0; x < image.width(); ++x, pixel += kChannels) {
+                float *cell = row + columns[x] * kChannels;
+                const float alpha = float(pixel[3]) / 255.0F;
+                for (int channel = 0; channel < 3; ++channel)
+                    cell[channel] += alpha * scale.light(pixel[channel]);
+                cell[3] += alpha;
+            }
         }
-    }
-    for (int y = 0; y < field.height; ++y) {
         for (int x = 0; x < field.width; ++x) {
-            const float share = 1.0F / float(columnPixels[x] * rowPixels[y]);
+            const float share = 1.0F / float(columnPixels[x] * (end - begin));
             for (int channel = 0; channel < kChannels; ++channel)
-                values[y * stride + x * kChannels + channel] *= share;
+                row[x * kChannels + channel] *= share;
         }
-    }
+    };
+    forRowBands(field.height, [&](int first, int count) {
+        for (int cellRow = first; cellRow < first + count; ++cellRow)
+            reduceRow(cellRow);
+    });
     return field;
 }
 

@@ -1,6 +1,7 @@
 #include "filters/coverage.h"
 #include "filters/library_filter.h"
 #include "filters/library_filters.h"
+#include "filters/row_bands.h"
 #include "filters/shape_mask.h"
 #include "filters/silhouette.h"
 
@@ -32,8 +33,9 @@ QImage weightedBlur(FilterUtilityRenderer &renderer, const QImage &image, double
 void mixIn(QImage &outside, const QImage &image, const QImage &mask, bool inverted)
 {
     const int flip = inverted ? 255 : 0;
-    for (int y = 0; y < image.height(); ++y) {
-        uchar *target = outside.scanLine(y);
+    uchar *pixels = outside.bits();
+    const auto mixRow = [&](int y) {
+        uchar *target = pixels + y * outside.bytesPerLine();
         const uchar *sharp = image.constScanLine(y);
         const uchar *coverage = mask.constScanLine(y) + 3;
         for (int x = 0; x < image.width(); ++x, target += 4, sharp += 4, coverage += 4) {
@@ -50,7 +52,11 @@ void mixIn(QImage &outside, const QImage &image, const QImage &mask, bool invert
                 target[c] = uchar((target[c] * (255 - inside) + sharp[c] * inside + 127) / 255);
             target[3] = sharp[3];
         }
-    }
+    };
+    forRowBands(image.height(), [&](int first, int count) {
+        for (int y = first; y < first + count; ++y)
+            mixRow(y);
+    });
 }
 
 // Within a shape the picture stays as it is; around it it is out of focus and toned down, as if the shape lay on it
@@ -120,11 +126,16 @@ private:
         const double diagonal = std::hypot(result.width(), result.height());
         Silhouette shadow = silhouette(shape, 0.012 * diagonal, Qt::black, inverted);
         shadow.image = request.renderer->gaussianBlur(shadow.image, 0.012 * diagonal / shadow.reduction);
-        QPainter painter(&result);
-        painter.setRenderHint(QPainter::SmoothPixmapTransform);
-        painter.setCompositionMode(QPainter::CompositionMode_SourceAtop);
-        painter.setOpacity(strength);
-        painter.drawImage(shadow.area().translated(0.0, 0.004 * diagonal), shadow.image);
+        uchar *pixels = result.bits();
+        forRowBands(result.height(), [&](int first, int count) {
+            QImage band(pixels + first * result.bytesPerLine(), result.width(), count, result.bytesPerLine(),
+                        result.format());
+            QPainter painter(&band);
+            painter.setRenderHint(QPainter::SmoothPixmapTransform);
+            painter.setCompositionMode(QPainter::CompositionMode_SourceAtop);
+            painter.setOpacity(strength);
+            painter.drawImage(shadow.area().translated(0.0, 0.004 * diagonal - first), shadow.image);
+        });
     }
 };
 
