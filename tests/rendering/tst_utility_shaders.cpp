@@ -379,13 +379,19 @@ private slots:
         const QImage map = noisePicture(9, 30, 6);
         const std::pair<int, QPoint> cases[] = {{71, {0, 41}}, {70, {23, 0}}, {40, {}}};
         for (const auto &[maximumSide, mapPlace] : cases) {
-            PassChain chain;
-            const auto stack = chain.stacked(chain.source(tall), chain.source(map), maximumSide);
-            const QImage got = m_renderer.renderChain(chain, stack);
-            QCOMPARE(got.isNull(), mapPlace.isNull());
-            if (!got.isNull()) {
-                QCOMPARE(got.copy(tall.rect()), tall);
-                QCOMPARE(got.copy({mapPlace, map.size()}), map);
+            for (const bool isMade : {false, true}) { // by the chain, or uploaded as it is
+                PassChain chain;
+                const auto part = [&](const QImage &image) {
+                    const auto source = chain.source(image);
+                    return isMade ? chain.shader(QStringLiteral("textureCopy"), image.size(), {source}) : source;
+                };
+                const auto picture = part(tall);
+                const QImage got = m_renderer.renderChain(chain, chain.stacked(picture, part(map), maximumSide));
+                QCOMPARE(got.isNull(), mapPlace.isNull());
+                if (!got.isNull()) {
+                    QCOMPARE(got.copy(tall.rect()), tall);
+                    QCOMPARE(got.copy({mapPlace, map.size()}), map);
+                }
             }
         }
     }

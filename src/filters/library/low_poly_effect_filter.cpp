@@ -18,7 +18,7 @@ constexpr double kFlatEdge = 2.5e-4; // the weight of chance against the edges o
 constexpr double kPullReach = 0.12; // how far from its chance place a point is pulled: twice the variance, squares
 constexpr double kLengthCost = 4e-4; // what a long diagonal costs against colours that differ within a triangle
 constexpr double kLeastArea = 0.12; // of two triangles, squares: smaller ones would be too steep for light
-const QPointF kLightFrom(0.5, 0.866);
+constexpr QPointF kLightFrom(0.5, 0.866);
 
 double turn(const QPointF &a, const QPointF &b)
 {
