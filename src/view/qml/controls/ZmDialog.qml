@@ -2,49 +2,50 @@ import QtQuick
 import QtQuick.Controls
 
 // A modal dialog in the middle of the window. Return presses the button that has the focus, or else accepts; Escape
-// rejects.
+// rejects. The buttons stand in `footer`, by default those of `standardButtons`.
 Dialog {
     id: root
 
     anchors.centerIn: Overlay.overlay
     modal: true
     focus: true
-    padding: 20
-    topPadding: 12
+    padding: Theme.spaceXXL - Theme.spaceS
+    topPadding: Theme.spaceM
+    bottomPadding: Theme.spaceXL
 
     header: Label {
         text: root.title
         visible: root.title
-        topPadding: 18
+        topPadding: Theme.spaceXL + Theme.spaceXS
+        bottomPadding: Theme.spaceS
         leftPadding: root.leftPadding
         rightPadding: root.rightPadding
-        font.bold: true
-        font.pixelSize: Math.round(Application.font.pixelSize * 1.15) || 15
-        elide: Text.ElideRight
+        font.weight: Font.DemiBold
+        font.pixelSize: Theme.fontTitle
+        wrapMode: Text.Wrap
+        textFormat: Text.PlainText
     }
 
-    footer: DialogButtonBox {
+    footer: ZmDialogButtons {
         id: buttons
 
-        visible: count > 0
-        padding: 16
-        topPadding: 0
-        spacing: 8
-        alignment: Qt.AlignRight
-        background: null
+        dialog: root
     }
 
-    background: Rectangle {
-        radius: 8
-        color: root.palette.window
-        border.color: root.palette.mid
+    background: PopupSurface {
+        radius: Theme.largeRadius
+        color: Theme.surface
+    }
+
+    Overlay.modal: Rectangle {
+        color: Qt.alpha("black", Theme.dark ? 0.45 : 0.28)
     }
 
     Shortcut {
         sequences: ["Return", "Enter"]
         enabled: root.visible
         onActivated: {
-            const focused = buttons.Window.activeFocusItem
+            const focused = root.contentItem.Window.activeFocusItem
             if (focused instanceof AbstractButton)
                 focused.click()
             else

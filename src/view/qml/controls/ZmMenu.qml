@@ -13,13 +13,9 @@ Menu {
     }
 
     width: widestEntry() + leftPadding + rightPadding
-    padding: 4
-    overlap: 2
+    padding: Theme.spaceS
+    overlap: Theme.spaceXS
+    margins: Theme.spaceS
     delegate: ZmMenuItem {}
-
-    background: Rectangle {
-        radius: 5
-        color: root.palette.base
-        border.color: root.palette.mid
-    }
+    background: PopupSurface {}
 }

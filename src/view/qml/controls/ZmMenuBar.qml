@@ -1,35 +1,30 @@
 import QtQuick
 import QtQuick.Controls
 
-// The menu bar, set off from what lies below by a hairline.
+// The menu bar.
 MenuBar {
     id: root
 
-    padding: 2
-    bottomPadding: 3
+    padding: Theme.spaceXS
+    leftPadding: Theme.spaceS
     delegate: MenuBarItem {
         id: item
 
-        implicitHeight: 24
-        leftPadding: 9
-        rightPadding: 9
+        implicitHeight: 26
+        leftPadding: Theme.spaceM + 1
+        rightPadding: Theme.spaceM + 1
         topPadding: 0
         bottomPadding: 0
+        palette.windowText: Theme.text
+        palette.buttonText: Theme.text
+        palette.highlightedText: Theme.text
         background: Rectangle {
-            radius: 4
-            color: item.highlighted ? root.palette.highlight : "transparent"
+            radius: Theme.radius
+            color: item.down ? Theme.pressedFill : item.highlighted ? Theme.hoverFill : "transparent"
         }
     }
 
     background: Rectangle {
-        color: root.palette.window
-
-        Rectangle {
-            anchors.bottom: parent.bottom
-            width: parent.width
-            height: 1
-            color: root.palette.mid
-            opacity: 0.5
-        }
+        color: Theme.surface
     }
 }

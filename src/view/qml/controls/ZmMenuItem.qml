@@ -1,20 +1,29 @@
 import QtQuick
 import QtQuick.Controls
 
-// An entry of a menu: check mark, text, and the keys of its action on the right.
+// An entry of a menu: check mark or icon, text, and the keys of its action on the right.
 MenuItem {
     id: root
 
-    readonly property color textColor: highlighted ? palette.highlightedText : palette.windowText
-    readonly property real columnGap: 28
+    readonly property color textColor: highlighted ? Theme.accentText : Theme.text
+    readonly property bool hasIcon: icon.name || icon.source.toString()
+    readonly property real iconColumn: Theme.iconSize + 2 * Theme.spaceM
+    readonly property real keyColumn: Theme.spaceXXL + Theme.spaceS
 
     implicitHeight: 26
-    leftPadding: columnGap - (checkable ? indicator.width + spacing : 0)    // what the style adds for the indicator
-    rightPadding: (keys.text || subMenu ? columnGap : 0) + keys.implicitWidth + 12
+    // Less what the style adds for the indicator.
+    leftPadding: (hasIcon ? Theme.spaceM : iconColumn) - (checkable ? indicator.width + spacing : 0)
+    rightPadding: (keys.text || subMenu ? keyColumn : 0) + keys.implicitWidth + Theme.spaceL
     topPadding: 0
     bottomPadding: 0
-    opacity: enabled ? 1 : 0.45
+    spacing: Theme.spaceM
+    opacity: enabled ? 1 : Theme.disabledOpacity
+    icon.width: Theme.iconSize
+    icon.height: Theme.iconSize
     icon.color: textColor
+    palette.windowText: Theme.text
+    palette.text: Theme.text
+    palette.highlightedText: Theme.accentText
 
     indicator: Item {
         x: 11
@@ -22,7 +31,7 @@ MenuItem {
         width: 5
         height: 10
         rotation: 45
-        visible: root.checked
+        visible: root.checked && !root.hasIcon
 
         Rectangle {
             anchors.right: parent.right
@@ -41,51 +50,42 @@ MenuItem {
         }
     }
 
-    arrow: Item {
-        x: root.width - width - 12
+    arrow: Chevron {
+        x: root.width - width - Theme.spaceL
         y: (root.height - height) / 2
-        width: 6
-        height: 6
-        rotation: 45
+        rotation: -90
+        color: root.textColor
         visible: root.subMenu
-
-        Rectangle {
-            width: parent.width
-            height: 1.5
-            color: root.textColor
-            antialiasing: true
-        }
-
-        Rectangle {
-            anchors.right: parent.right
-            width: 1.5
-            height: parent.height
-            color: root.textColor
-            antialiasing: true
-        }
     }
 
     background: Rectangle {
-        radius: 3
-        color: root.highlighted ? root.palette.highlight : "transparent"
+        radius: Theme.radius - 1
+        color: root.highlighted ? Theme.accent : "transparent"
+
+        Rectangle {
+            x: Theme.spaceS
+            anchors.verticalCenter: parent.verticalCenter
+            width: Theme.iconSize + 2 * Theme.spaceS
+            height: width - 2
+            radius: Theme.radius - 1
+            color: Theme.accentSoft
+            visible: root.checked && root.hasIcon && !root.highlighted
+        }
     }
 
     Label {
         id: keys
 
         anchors.right: parent.right
-        anchors.rightMargin: 12
+        anchors.rightMargin: Theme.spaceL
         anchors.verticalCenter: parent.verticalCenter
-        text: shortcut.nativeText
+        text: spelled.spelling
         color: root.textColor
-        opacity: 0.7
+        opacity: 0.65
     }
 
-    // Never active; it only spells the action's keys as the platform does.
-    Shortcut {
-        id: shortcut
-
-        sequence: root.action?.shortcut ?? ""
-        enabled: false
+    ZmKeys {
+        id: spelled
+        action: root.action
     }
 }

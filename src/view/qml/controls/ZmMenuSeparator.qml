@@ -2,15 +2,12 @@ import QtQuick
 import QtQuick.Controls
 
 MenuSeparator {
-    id: root
-
-    topPadding: 4
-    bottomPadding: 4
-    leftPadding: 8
-    rightPadding: 8
+    topPadding: Theme.spaceS
+    bottomPadding: Theme.spaceS
+    leftPadding: Theme.spaceM
+    rightPadding: Theme.spaceM
     contentItem: Rectangle {
         implicitHeight: 1
-        color: root.palette.mid
-        opacity: 0.5
+        color: Theme.hairline
     }
 }

@@ -1,30 +1,46 @@
 import QtQuick
 import QtQuick.Controls
 
-// A flat button for bars: shows its frame only under the pointer, when pressed, or with the keyboard's focus.
+// A flat button for bars: shows its frame only under the pointer, when pressed, or with the keyboard's focus. Takes
+// icon, text, tool tip and keys from its action.
 ToolButton {
     id: root
 
-    property string toolTip
+    property string toolTip: (action?.toolTip || action?.plainText) ?? ""
+    readonly property color inkColor: checked ? (Theme.dark ? Qt.lighter(Theme.accent, 1.35) : Qt.darker(Theme.accent, 1.25))
+                                              : Theme.text
 
-    leftPadding: 8
-    rightPadding: 8
-    topPadding: 3
-    bottomPadding: 3
+    implicitHeight: Theme.controlHeight
+    leftPadding: Theme.spaceM
+    rightPadding: Theme.spaceM
+    topPadding: 0
+    bottomPadding: 0
+    spacing: Theme.spaceS + 1
     focusPolicy: Qt.TabFocus
-    opacity: enabled ? 1 : 0.45
-    Accessible.name: toolTip || text
+    opacity: enabled ? 1 : Theme.disabledOpacity
+    icon.width: Theme.toolIconSize
+    icon.height: Theme.toolIconSize
+    icon.color: inkColor
+    palette.buttonText: inkColor
+    Accessible.name: text || toolTip
+    Accessible.description: toolTip
 
-    ToolTip.text: toolTip
-    ToolTip.visible: toolTip && hovered
-    ToolTip.delay: Application.styleHints.mousePressAndHoldInterval
+    ZmToolTip {
+        visible: root.hovered && !root.down && text
+        text: root.toolTip ? Theme.withKeys(root.toolTip, keys.spelling) : ""
+    }
+
+    ZmKeys {
+        id: keys
+        action: root.action
+    }
 
     background: Rectangle {
-        implicitWidth: 30
-        implicitHeight: 24
-        radius: 4
-        color: root.down || root.checked ? root.palette.mid : root.hovered ? root.palette.midlight : "transparent"
-        border.width: root.visualFocus ? 2 : 0
-        border.color: root.palette.highlight
+        implicitWidth: Theme.controlHeight
+        radius: Theme.radius
+        color: root.checked ? Theme.accentSoft : root.down ? Theme.pressedFill
+                                                           : root.hovered ? Theme.hoverFill : "transparent"
+
+        FocusFrame { control: root }
     }
 }

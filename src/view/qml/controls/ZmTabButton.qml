@@ -1,0 +1,38 @@
+import QtQuick
+import QtQuick.Controls
+
+// A tab with its icon above its name.
+TabButton {
+    id: root
+
+    implicitHeight: 48
+    padding: 0
+    topPadding: Theme.spaceS
+    bottomPadding: Theme.spaceS
+    spacing: 1
+    display: AbstractButton.TextUnderIcon
+    font.pixelSize: Theme.fontSmall
+    icon.width: Theme.toolIconSize
+    icon.height: Theme.toolIconSize
+    icon.color: checked ? Theme.accent : Theme.text
+    palette.windowText: checked ? Theme.text : Theme.mutedText
+    palette.buttonText: palette.windowText
+    Accessible.name: text
+
+    background: Rectangle {
+        color: root.hovered && !root.checked ? Theme.hoverFill : "transparent"
+
+        Rectangle {
+            anchors.bottom: parent.bottom
+            width: parent.width
+            height: 2
+            color: Theme.accent
+            visible: root.checked
+        }
+
+        FocusFrame {
+            control: root
+            anchors.margins: 1
+        }
+    }
+}
