@@ -5,7 +5,6 @@
 #include <QCoreApplication>
 #include <QDate>
 #include <QDesktopServices>
-#include <QUrl>
 
 using namespace Qt::StringLiterals;
 
@@ -19,6 +18,11 @@ QString ApplicationInfoController::version() const
 QString ApplicationInfoController::copyrightNotice() const
 {
     return tr("© %1 %2").arg(QDate::currentDate().year()).arg("Zelmora"_L1);
+}
+
+QUrl ApplicationInfoController::webSiteUrl() const
+{
+    return QUrl(QStringLiteral(ZELMORA_WEB_SITE));
 }
 
 bool ApplicationInfoController::openLogFolder() const

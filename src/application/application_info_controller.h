@@ -1,6 +1,7 @@
 #pragma once
 
 #include <QObject>
+#include <QUrl>
 
 namespace zm {
 
@@ -10,6 +11,7 @@ class ApplicationInfoController : public QObject
     Q_OBJECT
     Q_PROPERTY(QString version READ version CONSTANT)
     Q_PROPERTY(QString copyrightNotice READ copyrightNotice CONSTANT)
+    Q_PROPERTY(QUrl webSiteUrl READ webSiteUrl CONSTANT)
 
 public:
     using QObject::QObject;
@@ -18,6 +20,8 @@ public:
 
     /// One line in the current language.
     QString copyrightNotice() const;
+
+    QUrl webSiteUrl() const;
 
     /// Shows the folder of the log files in the system's file manager; false if there is none to show it.
     Q_INVOKABLE bool openLogFolder() const;

@@ -1,18 +1,33 @@
 import QtQuick
 import QtQuick.Layouts
 import QtQuick.Controls
-import QtQuick.Dialogs
 import ZelmoraAtelier // after QtQuick, which has a Canvas too
 
-// The window: menus, the canvas, the status bar, and the way of a file from a request to the canvas.
+// The window: menus, bars, canvas and inspector, and the ways of documents: opening, saving, closing, and the question
+// about unsaved changes before them.
 ApplicationWindow {
     id: window
+
+    // What waits for the answer about unsaved changes.
+    readonly property int noPendingUnsavedAction: 0
+    readonly property int closePendingUnsavedAction: 1
+    readonly property int newDocumentPendingUnsavedAction: 2
+    readonly property int openDocumentPendingUnsavedAction: 3
+    readonly property int openRecentPendingUnsavedAction: 4
+    readonly property int openFilePendingUnsavedAction: 5
+    readonly property int applicationFileOpenPendingUnsavedAction: 6
+
+    property int pendingUnsavedAction: noPendingUnsavedAction
+    property string pendingRecentFilePath
+    property url pendingOpenFileUrl
+    readonly property bool unsavedChangesWarningEnabled: true
+    property bool closeConfirmed: false      // the next close goes through
 
     // A file named by the command line or the system that is being opened.
     property bool applicationFileOpenActive: false
     property bool applicationFileOpenErrorPending: false
     property url activeApplicationFileOpenUrl
-    readonly property bool applicationFileOpenUiBlocked: documentOpenDialog.visible || documentFileErrorDialog.visible
+    readonly property bool applicationFileOpenUiBlocked: dialogs.anyVisible
 
     // The whole document is in view and stays so while the window changes its size, until the view is moved.
     property bool viewFitted: false
@@ -26,58 +41,137 @@ ApplicationWindow {
         return pattern.replace(/%([1-9])/g, (marker, number) => words[number - 1])
     }
 
+    // --- Unsaved changes ---
+
+    function requestUnsavedAction(action, dialogAction, recentFilePath, openFileUrl) {
+        if (applicationFileOpenActive && action !== applicationFileOpenPendingUnsavedAction)
+            return
+        if (!unsavedChangesWarningEnabled || commandHistory.clean) {
+            clearPendingUnsavedAction()
+            executeUnsavedAction(action, recentFilePath, openFileUrl)
+            return
+        }
+        pendingUnsavedAction = action
+        pendingRecentFilePath = recentFilePath
+        pendingOpenFileUrl = openFileUrl
+        dialogs.unsavedChangesDialog.showForAction(dialogAction)
+    }
+
+    function executeUnsavedAction(action, recentFilePath, openFileUrl) {
+        switch (action) {
+        case closePendingUnsavedAction:
+            Qt.callLater(closeConfirmedWindow)
+            break
+        case newDocumentPendingUnsavedAction:
+            Qt.callLater(dialogs.resetBoardDialog.open)
+            break
+        case openDocumentPendingUnsavedAction:
+            Qt.callLater(dialogs.documentOpenDialog.open)
+            break
+        case openRecentPendingUnsavedAction:
+            Qt.callLater(loadRecentDocument, recentFilePath)
+            break
+        case openFilePendingUnsavedAction:
+        case applicationFileOpenPendingUnsavedAction:
+            Qt.callLater(loadDocumentFile, openFileUrl)
+            break
+        }
+    }
+
+    function clearPendingUnsavedAction() {
+        pendingUnsavedAction = noPendingUnsavedAction
+        pendingRecentFilePath = ""
+        pendingOpenFileUrl = ""
+    }
+
+    function continuePendingUnsavedAction() {
+        const action = pendingUnsavedAction
+        const recentFilePath = pendingRecentFilePath
+        const openFileUrl = pendingOpenFileUrl
+        clearPendingUnsavedAction()
+        executeUnsavedAction(action, recentFilePath, openFileUrl)
+        Qt.callLater(processPendingApplicationFileOpenRequest)
+    }
+
+    function abandonPendingUnsavedAction() {
+        const fileOpenWasPending = pendingUnsavedAction === applicationFileOpenPendingUnsavedAction
+        clearPendingUnsavedAction()
+        if (fileOpenWasPending)
+            finishApplicationFileOpenRequest()
+        else
+            Qt.callLater(processPendingApplicationFileOpenRequest)
+    }
+
+    function closeConfirmedWindow() {
+        closeConfirmed = true
+        close()
+    }
+
+    // --- New and open ---
+
+    function requestNewDocument() {
+        requestUnsavedAction(newDocumentPendingUnsavedAction, UnsavedChangesDialog.CreateDocument, "", "")
+    }
+
     function requestOpenDocument() {
-        documentOpenDialog.open()
+        requestUnsavedAction(openDocumentPendingUnsavedAction, UnsavedChangesDialog.OpenDocument, "", "")
+    }
+
+    function requestOpenRecent(path) {
+        canvas.commitTextEditing()
+        requestUnsavedAction(openRecentPendingUnsavedAction, UnsavedChangesDialog.OpenDocument, path, "")
     }
 
     function requestOpenFile(url, applicationRequest) {
-        if (applicationFileOpenActive && !applicationRequest)
+        if ((applicationFileOpenActive && !applicationRequest) || actions.file.saveInProgress)
             return
-        Qt.callLater(loadDocumentFile, url)
+        canvas.commitTextEditing()
+        requestUnsavedAction(applicationRequest ? applicationFileOpenPendingUnsavedAction : openFilePendingUnsavedAction,
+                             UnsavedChangesDialog.OpenDocument, "", url)
+    }
+
+    function loadDocumentFile(url) {
+        busyCover.during(() => {
+            const requested = applicationFileOpenActive && url.toString() === activeApplicationFileOpenUrl.toString()
+            if (documentFileController.load(url)) {
+                fitLoadedDocumentToView()
+                if (requested)
+                    finishApplicationFileOpenRequest()
+            } else {
+                applicationFileOpenErrorPending = requested
+                dialogs.documentFileErrorDialog.open()
+            }
+        })
     }
 
     // For the next file dialog, which begins where the last picture was found.
     function loadChosenFile(url) {
-        if (loadDocumentFile(url) && !documentFileController.hasDocumentUrl)
-            applicationSettings.rememberImageImportFolder(url)
-    }
-
-    function loadDocumentFile(url) {
-        const requested = applicationFileOpenActive && url.toString() === activeApplicationFileOpenUrl.toString()
-        if (documentFileController.load(url)) {
+        busyCover.during(() => {
+            if (!documentFileController.load(url))
+                dialogs.documentFileErrorDialog.open()
+            else if (!documentFileController.hasDocumentUrl)
+                applicationSettings.rememberImageImportFolder(url)
             fitLoadedDocumentToView()
-            if (requested)
-                finishApplicationFileOpenRequest()
-            return true
-        }
-        applicationFileOpenErrorPending = requested
-        documentFileErrorDialog.open()
-        return false
+        })
     }
 
-    function fitLoadedDocumentToView() {
-        Qt.callLater(window.fitDocument)
+    function loadRecentDocument(path) {
+        busyCover.during(() => {
+            if (documentFileController.load(applicationSettings.recentFileUrl(path))) {
+                fitLoadedDocumentToView()
+            } else {
+                applicationSettings.removeRecentFile(path)
+                dialogs.documentFileErrorDialog.open()
+            }
+        })
     }
 
-    function fitDocument() {
-        fitting = true
-        viewFitted = canvas.fitDocumentRect(scenePresentationModel.documentRect)
-        fitting = false
-    }
-
-    function forgetFit() {
-        if (!fitting)
-            viewFitted = false
-    }
-
-    function fitAgain() {
-        if (viewFitted)
-            Qt.callLater(fitDocument)
-    }
+    // --- Files that the system asks to open ---
 
     // Takes the oldest request, if nothing stands in the way. Whatever ends a request calls this again.
     function processPendingApplicationFileOpenRequest() {
-        if (applicationFileOpenActive || applicationFileOpenUiBlocked)
+        if (applicationFileOpenActive || pendingUnsavedAction !== noPendingUnsavedAction
+                || exportController.sessionSaveBusy || applicationFileOpenUiBlocked || busyCover.running)
             return
         const url = applicationFileOpenRequests.takePendingFileOpenRequest()
         if (!url.toString())
@@ -102,11 +196,96 @@ ApplicationWindow {
         Qt.callLater(processPendingApplicationFileOpenRequest)
     }
 
+    // --- Saving ---
+
+    function finishSave(imageUrl) {
+        dialogs.saveProgressDialog.close()
+        if (pendingUnsavedAction !== noPendingUnsavedAction && commandHistory.clean) {
+            continuePendingUnsavedAction()
+            return
+        }
+        clearPendingUnsavedAction()
+        showSaveSucceeded(imageUrl)
+        Qt.callLater(processPendingApplicationFileOpenRequest)
+    }
+
+    function exportTo(url) {
+        if (exportController.exportTo(url)) {
+            applicationSettings.rememberExportFolder(url)
+        } else {
+            dialogs.exportErrorDialog.open()
+            abandonPendingUnsavedAction()
+        }
+    }
+
+    function showSaveSucceeded(imageUrl) {
+        const hint = Qt.platform.os === "osx" ? qsTr("Show in Finder") : qsTr("Show in Explorer")
+        Toast.show(filled(qsTr("Image exported to %1.\nEditable document saved as %2."),
+                          [documentFileController.displayPath(imageUrl),
+                           documentFileController.displayFileName(documentFileController.documentUrl)]),
+                   hint + "\u00a0›", { durationMs: 3500, clickHandler: () => revealImage(imageUrl) })
+    }
+
+    function revealImage(imageUrl) {
+        if (!fileManager.reveal(imageUrl))
+            Toast.show(qsTr("Could not open the folder containing the image."), { durationMs: 2500 })
+    }
+
+    // --- Layers from files ---
+
+    function insertImage(url) {
+        busyCover.during(() => {
+            if (editorController.addImage(url))
+                applicationSettings.rememberImageImportFolder(url)
+            else
+                dialogs.imageLoadErrorDialog.open()
+            actionContext.activateSelectionMode()
+        })
+    }
+
     function handleDroppedFiles(urls) {
-        if (applicationFileOpenActive || applicationFileOpenUiBlocked || urls.length === 0)
+        if (applicationFileOpenActive)
             return
         const document = urls.find(url => url.toString().toLowerCase().endsWith(".zelmora"))
-        requestOpenFile(document ?? urls[0], false)
+        if (document !== undefined) {
+            requestOpenFile(document, false)
+            return
+        }
+        canvas.commitTextEditing()
+        busyCover.during(() => {
+            const failed = urls.findIndex(url => {
+                const added = editorController.addImage(url)
+                if (added)
+                    applicationSettings.rememberImageImportFolder(url)
+                return !added
+            })
+            if (failed >= 0)
+                dialogs.imageLoadErrorDialog.open()
+            if (failed !== 0 && urls.length > 0)
+                actionContext.activateSelectionMode()
+        })
+    }
+
+    // --- View ---
+
+    function fitLoadedDocumentToView() {
+        Qt.callLater(window.fitDocument)
+    }
+
+    function fitDocument() {
+        fitting = true
+        viewFitted = canvas.fitDocumentRect(scenePresentationModel.documentRect)
+        fitting = false
+    }
+
+    function forgetFit() {
+        if (!fitting)
+            viewFitted = false
+    }
+
+    function fitAgain() {
+        if (viewFitted)
+            Qt.callLater(fitDocument)
     }
 
     function toggleFullScreen() {
@@ -118,11 +297,39 @@ ApplicationWindow {
         }
     }
 
+    // Left means the first place in the split, and the tools beside it on the other end of the workspace.
+    function applyInspectorPosition() {
+        const wanted = applicationSettings.inspectorPosition === 0 ? 0 : 1
+        for (let i = 0; i < workspaceSplitView.count; ++i) {
+            if (workspaceSplitView.itemAt(i) === inspector && i !== wanted) {
+                workspaceSplitView.moveItem(i, wanted)
+                return
+            }
+        }
+    }
+
+    function chooseLanguage(language) {
+        if (language !== applicationSettings.language)
+            dialogs.languageRestartDialog.openAfterLanguageSwitch()
+        applicationSettings.language = language
+    }
+
+    // Developers with three screens work on the third.
+    function moveToThirdScreen() {
+        const screens = Application.screens
+        if (!debugBuild || screens.length < 3)
+            return
+        screen = screens[2]
+        x = screen.virtualX + (screen.width - width) / 2
+        y = screen.virtualY + (screen.height - height) / 2
+    }
+
     width: 1280
     height: 800
     minimumWidth: 800
     minimumHeight: 520
     visible: false
+    color: Theme.surface
     title: filled(qsTr("%1%2 - %3"), [documentFileController.displayName, commandHistory.clean ? "" : "*",
                                       Application.displayName])
 
@@ -131,9 +338,26 @@ ApplicationWindow {
     // Controls made after a theme is applied would keep the style's palette, so it waits until all are there.
     Component.onCompleted: {
         applicationTheme.applyTheme()
+        moveToThirdScreen()
         showMaximized()
         canvas.forceCanvasFocus()
         Qt.callLater(processPendingApplicationFileOpenRequest)
+        Qt.callLater(applyInspectorPosition)
+    }
+
+    onClosing: close => {
+        if (actions.file.saveInProgress) {
+            close.accepted = false
+            Toast.show(qsTr("Please wait for the current save to finish."), { durationMs: 2500 })
+            return
+        }
+        if (!unsavedChangesWarningEnabled)
+            return
+        canvas.commitTextEditing()
+        if (closeConfirmed || commandHistory.clean)
+            return
+        close.accepted = false
+        requestUnsavedAction(closePendingUnsavedAction, UnsavedChangesDialog.ExitApplication, "", "")
     }
 
     Connections {
@@ -144,110 +368,191 @@ ApplicationWindow {
         }
     }
 
+    Connections {
+        target: applicationSettings
+
+        function onInspectorPositionChanged() {
+            Qt.callLater(window.applyInspectorPosition)
+        }
+    }
+
+    Connections {
+        target: exportController
+
+        function onSaveSucceeded(imageUrl) {
+            window.finishSave(imageUrl)
+        }
+
+        function onSessionSaveFailed() {
+            dialogs.saveProgressDialog.close()
+            dialogs.exportErrorDialog.open()
+            window.abandonPendingUnsavedAction()
+        }
+    }
+
+    Connections {
+        target: editorController
+
+        function onSceneObjectAdded(focusBounds, fitViewToBounds) {
+            canvas.handleSceneObjectAdded(focusBounds, fitViewToBounds)
+            if (!actions.tools.pathEdit.active)
+                inspector.activateInfoTab()
+        }
+    }
+
+    Binding {
+        editorController.addLayerViewportRect: canvas.addLayerViewportRect
+        editorController.viewScale: canvas.zoom
+    }
+
     ActionContext {
         id: actionContext
 
         window: window
         canvas: canvas
+        dialogs: dialogs
+        forDevelopers: debugBuild
+        webSiteUrl: applicationInfoController.webSiteUrl
         settings: applicationSettings
+        flags: runtimeFlags
+        exporter: exportController
+        history: commandHistory
+        editor: editorController
+        editorState: editorStateModel
+        sceneAdapter: sceneObjectAdapter
     }
 
-    FileActions {
-        id: fileActions
+    WindowActions {
+        id: actions
 
         context: actionContext
+        file.onSaveFailed: window.abandonPendingUnsavedAction()
     }
 
-    ViewActions {
-        id: viewActions
-
+    menuBar: MainMenuBar {
         context: actionContext
+        actions: actions
     }
 
-    menuBar: ZmMenuBar {
-        ZmMenu {
-            title: qsTr("&File")
+    header: MainToolBar {
+        actions: actions
+    }
 
-            ZmMenuItem { action: fileActions.openDocument }
-            ZmMenuSeparator {}
-            ZmMenuItem { action: fileActions.quitApplication }
+    SplitView {
+        id: workspaceSplitView
+
+        anchors.fill: parent
+        handle: Item {
+            implicitWidth: Theme.spaceXS
+            // Wider than it looks, so that it can be taken hold of.
+            containmentMask: Item {
+                x: -Theme.spaceXS
+                width: 3 * Theme.spaceXS
+                height: workspaceSplitView.height
+            }
         }
 
-        ZmMenu {
-            title: qsTr("&View")
+        ColumnLayout {
+            SplitView.fillWidth: true
+            SplitView.minimumWidth: 400
+            spacing: 0
 
-            ZmMenuItem { action: viewActions.zoomIn }
-            ZmMenuItem { action: viewActions.zoomOut }
-            ZmMenuItem { action: viewActions.zoomToFit }
-            ZmMenuItem { action: viewActions.zoomToActualSize }
-            ZmMenuSeparator {}
-            ZmMenuItem { action: viewActions.unlimitedCanvas }
-            ZmMenuItem { action: viewActions.canvasClipMode }
-            ZmMenuSeparator {}
-            ZmMenuItem { action: viewActions.documentBounds }
-            ZmMenuSeparator {}
+            RowLayout {
+                layoutDirection: applicationSettings.inspectorPosition === 0 ? Qt.RightToLeft : Qt.LeftToRight
+                spacing: 0
 
-            ZmMenu {
-                title: qsTr("&Theme")
+                ToolRail {
+                    Layout.fillHeight: true
+                    actions: actions
+                    positionedOnRight: applicationSettings.inspectorPosition === 0
+                }
 
-                ZmMenuItem { action: viewActions.themeSystem }
-                ZmMenuItem { action: viewActions.themeLight }
-                ZmMenuItem { action: viewActions.themeDark }
+                Canvas {
+                    id: canvas
+
+                    Layout.fillWidth: true
+                    Layout.fillHeight: true
+                    sceneModel: scenePresentationModel
+                    editorState: editorStateModel
+                    fixedDocumentBounds: applicationSettings.canvasClipMode
+                    documentBoundsVisible: applicationSettings.documentBoundsVisible
+                    rulersVisible: applicationSettings.rulerPlacement !== 0
+                    rulersAtBottomRight: applicationSettings.rulerPlacement === 2
+                    cutAction: actions.edit.cut
+                    copyAction: actions.edit.copy
+                    pasteAction: actions.edit.paste
+                    rasterizeAction: actions.layer.rasterize
+                    removeLayerAction: actions.layer.removeLayer
+                    clearRasterSelectionAction: actions.selection.clearRaster
+                    invertRasterSelectionAction: actions.selection.invertRaster
+                    onFilesDropped: fileUrls => window.handleDroppedFiles(fileUrls)
+                    onZoomChanged: window.forgetFit()
+                    onBoardCenterChanged: window.forgetFit()
+                    onWidthChanged: window.fitAgain()
+                    onHeightChanged: window.fitAgain()
+
+                    BusyCover {
+                        id: busyCover
+
+                        anchors.fill: parent
+                        onFinished: Qt.callLater(window.processPendingApplicationFileOpenRequest)
+                    }
+                }
             }
 
-            ZmMenuSeparator {}
-            ZmMenuItem { action: viewActions.fullScreen }
-        }
-    }
-
-    ColumnLayout {
-        anchors.fill: parent
-        spacing: 0
-
-        Canvas {
-            id: canvas
-
-            Layout.fillWidth: true
-            Layout.fillHeight: true
-            sceneModel: scenePresentationModel
-            fixedDocumentBounds: applicationSettings.canvasClipMode
-            documentBoundsVisible: applicationSettings.documentBoundsVisible
-            onFilesDropped: fileUrls => window.handleDroppedFiles(fileUrls)
-            onZoomChanged: window.forgetFit()
-            onBoardCenterChanged: window.forgetFit()
-            onWidthChanged: window.fitAgain()
-            onHeightChanged: window.fitAgain()
+            StatusBar {
+                Layout.fillWidth: true
+                canvas: canvas
+                layerPixelSize: scenePresentationModel.selectedLayerPixelSize
+            }
         }
 
-        StatusBar {
-            Layout.fillWidth: true
-            canvas: canvas
+        Inspector {
+            id: inspector
+
+            SplitView.preferredWidth: 300
+            SplitView.minimumWidth: 240
+            SplitView.maximumWidth: 440
+            positionedOnLeft: applicationSettings.inspectorPosition === 0
+            documentAdapter: documentPropertiesAdapter
+            objectAdapter: sceneObjectAdapter
             layerPixelSize: scenePresentationModel.selectedLayerPixelSize
+            showHideLayerAction: actions.layer.toggleVisibility
+            cutLayerAction: actions.edit.cut
+            copyLayerAction: actions.edit.copy
+            pasteLayerAction: actions.edit.paste
+            moveLayerUpAction: actions.layer.moveUp
+            moveLayerDownAction: actions.layer.moveDown
+            rasterizeLayerAction: actions.layer.rasterize
+            mergeLayerBelowAction: actions.layer.collapseDown
+            removeLayerAction: actions.layer.removeLayer
         }
     }
 
-    FileDialog {
-        id: documentOpenDialog
+    WindowDialogs {
+        id: dialogs
 
-        title: qsTr("Open Document or Image")
-        nameFilters: [
-            qsTr("All supported files (%1 *.zelmora)").arg(documentFileController.supportedImageFilePatterns),
-            qsTr("All image files (%1)").arg(documentFileController.supportedImageFilePatterns),
-            qsTr("Zelmora documents (*.zelmora)"),
-            qsTr("All files (*)")
-        ]
-        currentFolder: applicationSettings.imageImportFolderUrl
-        onAccepted: Qt.callLater(window.loadChosenFile, selectedFile)
-    }
-
-    ImageLoadErrorDialog {
-        id: documentFileErrorDialog
-
-        title: qsTr("Unable to Open File")
-        message: documentFileController.lastError
-        onClosed: {
+        files: documentFileController
+        editor: editorController
+        exporter: exportController
+        settings: applicationSettings
+        applicationInfo: applicationInfoController
+        notices: noticeCatalogModel
+        shapes: shapePickerModel
+        onDocumentChosen: fileUrl => Qt.callLater(window.loadChosenFile, fileUrl)
+        onImageChosen: fileUrl => Qt.callLater(window.insertImage, fileUrl)
+        onExportFileChosen: fileUrl => window.exportTo(fileUrl)
+        onExportCanceled: window.abandonPendingUnsavedAction()
+        onOpenErrorRead: {
             if (window.applicationFileOpenErrorPending)
                 window.finishApplicationFileOpenRequest()
         }
+        onBoardReset: {
+            window.fitLoadedDocumentToView()
+            canvas.forceCanvasFocus()
+        }
+        onSaveRequested: actions.file.saveDocument.trigger()
+        onContinueRequested: window.continuePendingUnsavedAction()
+        onUnsavedQuestionDismissed: window.abandonPendingUnsavedAction()
     }
 }

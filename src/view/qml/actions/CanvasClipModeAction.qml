@@ -1,10 +1,7 @@
-import QtQuick.Controls
-
-Action {
+ModeAction {
     required property var settings
 
     text: qsTr("&Limit Canvas to Document Bounds")
-    checkable: true
-    checked: settings.canvasClipMode
-    onTriggered: settings.canvasClipMode = !settings.canvasClipMode
+    active: settings.canvasClipMode
+    onChosen: settings.canvasClipMode = !active
 }

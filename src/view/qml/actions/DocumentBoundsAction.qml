@@ -1,10 +1,7 @@
-import QtQuick.Controls
-
-Action {
+ModeAction {
     required property var settings
 
     text: qsTr("Show Document &Bounds")
-    checkable: true
-    checked: settings.documentBoundsVisible
-    onTriggered: settings.documentBoundsVisible = !settings.documentBoundsVisible
+    active: settings.documentBoundsVisible
+    onChosen: settings.documentBoundsVisible = !active
 }

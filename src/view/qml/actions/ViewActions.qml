@@ -7,7 +7,7 @@ QtObject {
 
     required property ActionContext context
 
-    readonly property Action zoomIn: Action {
+    readonly property ZmAction zoomIn: ZmAction {
         text: qsTr("Zoom &In")
         shortcut: StandardKey.ZoomIn
         enabled: root.context.canvas.canZoomIn
@@ -21,81 +21,104 @@ QtObject {
         onActivated: root.zoomIn.trigger()
     }
 
-    readonly property Action zoomOut: Action {
+    readonly property ZmAction zoomOut: ZmAction {
         text: qsTr("Zoom &Out")
         shortcut: StandardKey.ZoomOut
         enabled: root.context.canvas.canZoomOut
         onTriggered: root.context.canvas.zoomOut()
     }
 
-    readonly property Action zoomToFit: Action {
+    readonly property ZmAction zoomToFit: ZmAction {
         text: qsTr("Zoom to &Fit")
         shortcut: "Ctrl+0"
         onTriggered: root.context.window.fitDocument()
     }
 
-    readonly property Action zoomToActualSize: Action {
+    readonly property ZmAction zoomToActualSize: ZmAction {
         text: qsTr("&Actual Size")
         shortcut: "Ctrl+1"
         onTriggered: root.context.canvas.setZoom(1.0)
     }
 
-    readonly property Action fullScreen: Action {
+    readonly property ModeAction fullScreen: ModeAction {
         text: qsTr("F&ull Screen")
         shortcut: "F11"
-        checkable: true
-        checked: root.context.window.fullScreen
-        onTriggered: root.context.window.toggleFullScreen()
+        active: root.context.window.fullScreen
+        onChosen: root.context.window.toggleFullScreen()
     }
 
-    readonly property ActionGroup canvasModes: ActionGroup {}
-
-    readonly property Action unlimitedCanvas: Action {
+    readonly property ModeAction unlimitedCanvas: ModeAction {
         text: qsTr("Unlimited &Canvas Mode")
-        checkable: true
-        checked: !root.context.settings.canvasClipMode
-        onTriggered: root.context.settings.canvasClipMode = false
-        ActionGroup.group: root.canvasModes
+        active: !root.context.settings.canvasClipMode
+        onChosen: root.context.settings.canvasClipMode = false
     }
 
     readonly property CanvasClipModeAction canvasClipMode: CanvasClipModeAction {
         settings: root.context.settings
-        ActionGroup.group: root.canvasModes
     }
 
     readonly property DocumentBoundsAction documentBounds: DocumentBoundsAction {
         settings: root.context.settings
     }
 
-    readonly property ActionGroup themes: ActionGroup {}
+    component RulerAction: ModeAction {
+        property int placement
+
+        active: root.context.settings.rulerPlacement === placement
+        onChosen: root.context.settings.rulerPlacement = placement
+    }
+
+    readonly property RulerAction rulerOff: RulerAction {
+        text: qsTr("&Off")
+        placement: 0
+    }
+
+    readonly property RulerAction rulerTopLeft: RulerAction {
+        text: qsTr("&Top and Left")
+        placement: 1
+    }
+
+    readonly property RulerAction rulerBottomRight: RulerAction {
+        text: qsTr("&Bottom and Right")
+        placement: 2
+    }
+
+    component InspectorAction: ModeAction {
+        property int position
+
+        active: root.context.settings.inspectorPosition === position
+        onChosen: root.context.settings.inspectorPosition = position
+    }
+
+    readonly property InspectorAction inspectorLeft: InspectorAction {
+        text: qsTr("&Left")
+        position: 0
+    }
+
+    readonly property InspectorAction inspectorRight: InspectorAction {
+        text: qsTr("&Right")
+        position: 1
+    }
+
+    component ThemeAction: ModeAction {
+        property string mode
+
+        active: root.context.settings.themeMode === mode
+        onChosen: root.context.settings.themeMode = mode
+    }
 
     readonly property ThemeAction themeSystem: ThemeAction {
         text: qsTr("&System")
-        settings: root.context.settings
         mode: "system"
-        ActionGroup.group: root.themes
     }
 
     readonly property ThemeAction themeLight: ThemeAction {
         text: qsTr("&Light")
-        settings: root.context.settings
         mode: "light"
-        ActionGroup.group: root.themes
     }
 
     readonly property ThemeAction themeDark: ThemeAction {
         text: qsTr("&Dark")
-        settings: root.context.settings
         mode: "dark"
-        ActionGroup.group: root.themes
-    }
-
-    component ThemeAction: Action {
-        required property var settings
-        required property string mode
-
-        checkable: true
-        checked: settings.themeMode === mode
-        onTriggered: settings.themeMode = mode
     }
 }

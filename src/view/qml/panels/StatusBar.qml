@@ -12,27 +12,29 @@ Pane {
 
     implicitHeight: 34
     padding: 0
-    leftPadding: 12
-    rightPadding: 8
+    leftPadding: Theme.spaceL
+    rightPadding: Theme.spaceS
+    Accessible.role: Accessible.StatusBar
+    Accessible.name: qsTr("Status bar")
 
     background: Rectangle {
-        color: root.palette.window
+        color: Theme.surface
 
         Rectangle {
             width: parent.width
             height: 1
-            color: root.palette.mid
-            opacity: 0.5
+            color: Theme.hairline
         }
     }
 
     RowLayout {
         anchors.fill: parent
-        spacing: 2
+        spacing: Theme.spaceXS
 
         Label {
             Layout.fillWidth: true
             elide: Text.ElideRight
+            color: Theme.mutedText
             text: root.layerPixelSize.width > 0 && root.layerPixelSize.height > 0
                   ? qsTr("Layer: %1 × %2 px").arg(root.layerPixelSize.width).arg(root.layerPixelSize.height)
                   : qsTr("No layer selected")
@@ -46,7 +48,7 @@ Pane {
         }
 
         ZmToolButton {
-            Layout.preferredWidth: Math.max(60, implicitWidth)
+            Layout.preferredWidth: Math.max(58, implicitWidth)
             text: qsTr("%1%").arg(Math.round(root.canvas.zoom * 100))
             toolTip: qsTr("Reset zoom to 100%")
             onClicked: root.canvas.setZoom(1.0)

@@ -1,0 +1,62 @@
+import QtQuick
+import QtQuick.Controls
+
+// The history and the clipboard.
+QtObject {
+    id: root
+
+    required property ActionContext context
+    readonly property var history: context.history
+    readonly property var clipboard: context.clipboard
+
+    readonly property ZmAction undo: ZmAction {
+        text: qsTr("&Undo")
+        toolTip: root.history.undoText ? qsTr("Undo %1").arg(root.history.undoText) : qsTr("Undo")
+        shortcut: StandardKey.Undo
+        icon.name: "undo"
+        enabled: root.history.canUndo && !root.context.textEditing
+        onTriggered: root.history.undo()
+    }
+
+    readonly property ZmAction redo: ZmAction {
+        text: qsTr("&Redo")
+        toolTip: root.history.redoText ? qsTr("Redo %1").arg(root.history.redoText) : qsTr("Redo")
+        shortcut: StandardKey.Redo
+        icon.name: "redo"
+        enabled: root.history.canRedo && !root.context.textEditing
+        onTriggered: root.history.redo()
+    }
+
+    readonly property ZmAction cut: ZmAction {
+        text: qsTr("Cu&t")
+        shortcut: StandardKey.Cut
+        icon.name: "cut"
+        enabled: (root.clipboard?.canCut ?? false) && !root.context.textEditing
+        onTriggered: {
+            root.context.commitTextEditing()
+            root.context.report(root.clipboard.cutSelection(), root.clipboard)
+        }
+    }
+
+    readonly property ZmAction copy: ZmAction {
+        text: qsTr("&Copy")
+        shortcut: StandardKey.Copy
+        icon.name: "copy"
+        enabled: (root.clipboard?.canCopy ?? false) && !root.context.textEditing
+        onTriggered: {
+            root.context.commitTextEditing()
+            root.context.report(root.clipboard.copySelection(), root.clipboard)
+        }
+    }
+
+    readonly property ZmAction paste: ZmAction {
+        text: qsTr("&Paste")
+        shortcut: StandardKey.Paste
+        icon.name: "paste"
+        enabled: (root.clipboard?.canPaste ?? false) && !root.context.textEditing
+        onTriggered: {
+            root.context.commitTextEditing()
+            root.context.report(root.clipboard.paste(), root.clipboard)
+        }
+    }
+}

@@ -1,0 +1,67 @@
+import QtQuick
+import QtQuick.Controls
+import QtQuick.Layouts
+
+// The bar below the menus.
+Pane {
+    id: root
+
+    required property WindowActions actions
+
+    implicitHeight: 42
+    padding: 0
+    leftPadding: Theme.spaceS + Theme.spaceXS
+    rightPadding: Theme.spaceM
+    Accessible.role: Accessible.ToolBar
+    Accessible.name: qsTr("Main tool bar")
+
+    background: Rectangle {
+        color: Theme.surface
+
+        Rectangle {
+            anchors.bottom: parent.bottom
+            width: parent.width
+            height: 1
+            color: Theme.hairline
+        }
+    }
+
+    RowLayout {
+        anchors.fill: parent
+        anchors.bottomMargin: 1
+        spacing: Theme.spaceXS
+
+        ZmIconButton { action: root.actions.file.newDocument }
+        ZmIconButton { action: root.actions.file.openDocument }
+        ZmSplitButton {
+            action: root.actions.file.saveDocument
+            menuName: qsTr("More ways to save")
+
+            ZmMenuItem { action: root.actions.file.saveDocumentAs }
+        }
+        ZmToolSeparator {}
+        ZmSplitButton {
+            action: root.actions.edit.undo
+            menuName: qsTr("More of the history")
+
+            ZmMenuItem { action: root.actions.edit.redo }
+        }
+        ZmToolSeparator {}
+        ZmIconButton { action: root.actions.edit.cut }
+        ZmIconButton { action: root.actions.edit.copy }
+        ZmIconButton { action: root.actions.edit.paste }
+        ZmToolSeparator {}
+        Label {
+            Layout.rightMargin: Theme.spaceS
+            text: qsTr("Insert:")
+            color: Theme.mutedText
+        }
+        ZmToolButton { action: root.actions.layer.addImage }
+        ZmToolButton { action: root.actions.layer.addText }
+        ZmToolButton { action: root.actions.layer.addShape }
+        ZmToolSeparator {}
+        ZmIconButton { action: root.actions.layer.moveUp }
+        ZmIconButton { action: root.actions.layer.moveDown }
+        Item { Layout.fillWidth: true }
+    }
+}

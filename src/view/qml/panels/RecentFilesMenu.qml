@@ -1,0 +1,31 @@
+import QtQuick
+import QtQuick.Controls
+
+// The documents that were opened or saved last.
+ZmMenu {
+    id: root
+
+    required property var settings
+
+    signal fileChosen(string path)
+
+    title: qsTr("Open &Recent")
+
+    Instantiator {
+        model: root.settings.recentFilePaths
+        delegate: ZmMenuItem {
+            required property string modelData
+            required property int index
+
+            text: qsTr("%1. %2").arg(index + 1).arg(root.settings.recentFileDisplayName(modelData).replace(/&/g, "&&"))
+            onTriggered: root.fileChosen(modelData)
+
+            ZmToolTip {
+                visible: parent.hovered
+                text: parent.modelData
+            }
+        }
+        onObjectAdded: (index, item) => root.insertItem(index, item)
+        onObjectRemoved: (index, item) => root.removeItem(item)
+    }
+}
