@@ -47,6 +47,8 @@ void setContextProperties(QQmlContext &qmlContext, Application &application, App
     qmlContext.setContextProperty(u"applicationTheme"_s, &context.applicationTheme);
     qmlContext.setContextProperty(u"commandHistory"_s, &context.commandHistory);
     qmlContext.setContextProperty(u"scenePresentationModel"_s, &context.scenePresentationModel);
+    qmlContext.setContextProperty(u"noticeCatalogModel"_s, &context.noticeCatalogModel);
+    qmlContext.setContextProperty(u"fileManager"_s, &context.fileManager);
     qmlContext.setContextProperty(u"documentFileController"_s, &context.documentFileController);
     qmlContext.setContextProperty(u"exportController"_s, &context.exportController);
     qmlContext.setContextProperty(u"userNotifications"_s, &UserNotificationCenter::instance());

@@ -10,6 +10,8 @@
 #include "editor/document_file_controller.h"
 #include "editor/export_controller.h"
 #include "editor/export_preview_image_store.h"
+#include "editor/file_manager_controller.h"
+#include "editor/notice_catalog_model.h"
 #include "filters/filter_result_cache.h"
 #include "generators/bundled_texture_loader.h"
 #include "rendering/opengl_texture_renderer.h"
@@ -40,8 +42,10 @@ struct ApplicationContext
     FilterResultCache filterResults;
     RenderServices renderServices{&textureLoader, &textureRenderer, &textureRenderer, &filterResults};
     ScenePresentationModel scenePresentationModel{&document};
+    NoticeCatalogModel noticeCatalogModel;
     RuntimeFlags runtimeFlags;
     DocumentFileController documentFileController{&document, &commandHistory};
+    FileManagerController fileManager;
     /// Shared with the engine's image provider.
     std::shared_ptr<ExportPreviewImageStore> exportPreviewStore = std::make_shared<ExportPreviewImageStore>();
     ExportController exportController{&document, &documentFileController, exportPreviewStore};

@@ -1,4 +1,5 @@
 import QtQuick
+import QtQuick.Controls
 import QtTest
 import ZelmoraAtelier
 
@@ -14,6 +15,26 @@ Item {
         Canvas {
             anchors.fill: parent
             sceneModel: scene.model
+        }
+    }
+
+    Action {
+        id: cutAction
+        text: "Cut"
+    }
+
+    QtObject {
+        id: painter
+
+        property bool answer: true
+        property var rasterized: []
+
+        function canRasterizeAt(point) {
+            return answer
+        }
+
+        function rasterizeAt(point) {
+            rasterized.push(point)
         }
     }
 
@@ -243,6 +264,74 @@ Item {
             compare(image.pixel(400, 300), Qt.color("#00ff00"))
             canvas.documentBoundsVisible = true
             verify(scene.model.documentBoundsVisible)
+        }
+
+        function test_rulersFrameTheViewAndDragIt_data() {
+            return [
+                { tag: "top and left", bottomRight: false, viewX: 24, rulerX: 300, rulerY: 12, cornerX: 12 },
+                { tag: "bottom and right", bottomRight: true, viewX: 0, rulerX: 300, rulerY: 588, cornerX: 788 }
+            ]
+        }
+
+        function test_rulersFrameTheViewAndDragIt(row) {
+            canvas.rulersAtBottomRight = row.bottomRight
+            canvas.rulersVisible = true
+            compareRect(canvas.visibleDocumentRect, -388, -288, 776, 576)
+            const drag = (x, y) => {
+                look(2, 0, 0)
+                mousePress(canvas, x, y)
+                mouseMove(canvas, x + 20, y - 10, -1, Qt.LeftButton)
+                mouseRelease(canvas, x + 20, y - 10)
+                return canvas.boardCenter
+            }
+            comparePoint(drag(row.rulerX, row.rulerY), -10, 0)
+            comparePoint(drag(row.rulerY, row.rulerX), 0, 5)
+            comparePoint(drag(row.cornerX, row.rulerY), -10, 5)
+            verify(canvas.activeFocus)
+
+            // The zero of the rulers and of the document meet: a layer's edge lies below the tick of its coordinate.
+            look(1, 0, 0)
+            scene.addChecker(2, 2)
+            const image = grabImage(canvas)
+            const zeroX = row.viewX + 388
+            const tickY = row.bottomRight ? 576 + 12 : 11
+            verify(!Qt.colorEqual(image.pixel(zeroX, tickY), image.pixel(zeroX + 1, tickY)))
+            compare(image.pixel(zeroX - 1, row.viewX + 288), Qt.color("blue"))
+            compare(image.pixel(zeroX, row.viewX + 288), Qt.color("red"))
+            canvas.rulersVisible = false
+            compareRect(canvas.visibleDocumentRect, -400, -300, 800, 600)
+        }
+
+        function menuEntry(text) {
+            const menu = canvas.contextMenu
+            for (let i = 0; i < menu.count; ++i) {
+                if (menu.itemAt(i).visible && menu.itemAt(i).text === text)
+                    return menu.itemAt(i)
+            }
+            return null
+        }
+
+        function test_contextMenuKnowsItsPoint() {
+            canvas.cutAction = cutAction
+            canvas.paintController = painter
+            look(2, 0, 0)
+            mouseClick(canvas, 500, 260, Qt.RightButton)
+            comparePoint(canvas.contextDocumentPoint, 50, -20)
+            tryVerify(() => menuEntry("Rasterize Layer")?.enabled)
+            verify(menuEntry("Cut"))
+            mouseClick(menuEntry("Rasterize Layer"))
+            compare(painter.rasterized, [Qt.point(50, -20)])
+            tryVerify(() => canvas.activeFocus)
+
+            painter.answer = false
+            for (const key of [[Qt.Key_Menu, Qt.NoModifier], [Qt.Key_F10, Qt.ShiftModifier]]) {
+                look(1, 30, 40)
+                keyClick(key[0], key[1])
+                tryVerify(() => menuEntry("Rasterize Layer")?.enabled === false)
+                comparePoint(canvas.contextDocumentPoint, 30, 40)
+                keyClick(Qt.Key_Escape)
+                tryVerify(() => !menuEntry("Cut"))
+            }
         }
 
         // 48 to 0.05 with the rectangle set before the scale would compose 512,000 x 384,000 pixels.

@@ -7,11 +7,24 @@ Pane {
     id: root
 
     required property ScenePresentationModel sceneModel
+    property var paintController: null
+    // What the context menu offers; an entry without an action is left out.
+    property Action cutAction: null
+    property Action copyAction: null
+    property Action pasteAction: null
+    property Action removeLayerAction: null
+    property Action clearRasterSelectionAction: null
+    property Action invertRasterSelectionAction: null
     property real zoom: 1.0
     property bool fixedDocumentBounds: false
     property bool documentBoundsVisible: false
+    property bool rulersVisible: false
+    property bool rulersAtBottomRight: false
     // The document point in the middle of the view, before fixed bounds hold it back.
     property point boardCenter: Qt.point(0, 0)
+    // Where the context menu was last asked for.
+    property point contextDocumentPoint
+    readonly property alias contextMenu: contextMenu
 
     readonly property real minimumZoom: 0.05
     readonly property real maximumZoom: 48.0
@@ -28,6 +41,7 @@ Pane {
     readonly property bool canZoomIn: zoom < maximumZoom
     readonly property bool canZoomOut: zoom > minimumZoom
     readonly property real dragThreshold: 3
+    readonly property real rulerThickness: 24
     readonly property real pixelRatio: Screen.devicePixelRatio
 
     signal filesDropped(list<url> fileUrls)
@@ -126,6 +140,15 @@ Pane {
                 && isFinite(bounds.width) && isFinite(bounds.height)
     }
 
+    // The part of `rect` within `bounds`, or all of `bounds` if there is none.
+    function intersected(rect, bounds) {
+        const x = Math.max(rect.x, bounds.x)
+        const y = Math.max(rect.y, bounds.y)
+        const width = Math.min(rect.x + rect.width, bounds.x + bounds.width) - x
+        const height = Math.min(rect.y + rect.height, bounds.y + bounds.height) - y
+        return width > 0 && height > 0 ? Qt.rect(x, y, width, height) : bounds
+    }
+
     function heldWithin(position, length, boundsPosition, boundsLength) {
         if (length >= boundsLength)
             return boundsPosition + (boundsLength - length) / 2
@@ -191,47 +214,11 @@ Pane {
     }
 
     contentItem: Item {
-        id: viewport
-
-        property bool spaceHeld: false
-        property point panStart
-
-        // A drag starts from the point that is really in the middle, so that fixed bounds leave no dead way.
-        function startPan() {
-            const rect = root.documentViewportRect()
-            panStart = Qt.point(rect.x + rect.width / 2, rect.y + rect.height / 2)
-            root.forceCanvasFocus()
-        }
-
-        function pan(deltaX, deltaY) {
-            root.panBoardFromViewportDelta(panStart, deltaX, deltaY, true, true)
-        }
-
-        focus: true
-        clip: true
-        Accessible.role: Accessible.Graphic
-        Accessible.name: qsTr("Canvas")
-        Accessible.description: qsTr("The document. Drag to move the view, turn the wheel to zoom.")
-
-        Keys.onPressed: event => {
-            if (event.key !== Qt.Key_Space || event.modifiers !== Qt.NoModifier)
-                return
-            spaceHeld = true
-            event.accepted = true
-        }
-        Keys.onReleased: event => {
-            if (event.key !== Qt.Key_Space || event.isAutoRepeat)
-                return
-            spaceHeld = false
-            event.accepted = true
-        }
-        onActiveFocusChanged: spaceHeld = false
-
         PanArea {
             id: boardPanArea
 
             onPressStarted: viewport.startPan()
-            onDragged: (deltaX, deltaY) => viewport.pan(deltaX, deltaY)
+            onDragged: (deltaX, deltaY) => viewport.pan(deltaX, deltaY, true, true)
             z: -1
             anchors.fill: parent
             acceptedButtons: Qt.MiddleButton
@@ -246,62 +233,178 @@ Pane {
             }
         }
 
-        EditorCanvasItem {
-            anchors.fill: parent
-            sceneModel: root.sceneModel
-            viewScale: root.viewScale
-        }
+        Item {
+            id: viewport
 
-        PanArea {
-            id: layerInteractionArea
+            property bool spaceHeld: false
+            property point panStart
 
-            onPressStarted: viewport.startPan()
-            onDragged: (deltaX, deltaY) => viewport.pan(deltaX, deltaY)
-            anchors.fill: parent
-            acceptedButtons: Qt.LeftButton
-            threshold: root.dragThreshold
-            cursorShape: dragging || boardPanArea.dragging ? Qt.ClosedHandCursor : Qt.ArrowCursor
-        }
-
-        PanArea {
-            onPressStarted: viewport.startPan()
-            onDragged: (deltaX, deltaY) => viewport.pan(deltaX, deltaY)
-            z: 190
-            anchors.fill: parent
-            visible: viewport.spaceHeld || dragging
-            acceptedButtons: Qt.LeftButton
-            cursorShape: dragging ? Qt.ClosedHandCursor : Qt.OpenHandCursor
-        }
-
-        ToastOverlay {
-            z: 200
-            anchors.top: parent.top
-            anchors.topMargin: 12
-            anchors.horizontalCenter: parent.horizontalCenter
-            maximumWidth: Math.max(56, parent.width - 32)
-        }
-
-        // Importing must never make the source move its file, so only a copy is accepted.
-        DropArea {
-            function offersCopies(drag) {
-                return drag.hasUrls && (drag.supportedActions & Qt.CopyAction)
+            // A drag starts from the point that is really in the middle, so that fixed bounds leave no dead way.
+            function startPan() {
+                const rect = root.documentViewportRect()
+                panStart = Qt.point(rect.x + rect.width / 2, rect.y + rect.height / 2)
+                root.forceCanvasFocus()
             }
 
-            z: 300
-            anchors.fill: parent
-            onEntered: drag => {
-                if (offersCopies(drag))
-                    drag.accept(Qt.CopyAction)
+            function pan(deltaX, deltaY, horizontal, vertical) {
+                root.panBoardFromViewportDelta(panStart, deltaX, deltaY, horizontal, vertical)
+            }
+
+            function openContextMenu(x, y) {
+                root.forceCanvasFocus()
+                root.contextDocumentPoint = root.viewToDocument(Qt.point(x, y))
+                contextMenu.openAt(x, y)
+            }
+
+            // Asked for by the keyboard, the menu is about the selected layer, if any of it is in view.
+            function openContextMenuAtSelection() {
+                const visible = root.visibleDocumentRect
+                const target = root.sceneModel?.hasSelection ? root.intersected(root.sceneModel.selectionRect, visible)
+                                                             : visible
+                const point = root.documentToView(Qt.point(target.x + target.width / 2, target.y + target.height / 2))
+                openContextMenu(point.x, point.y)
+            }
+
+            x: root.rulersVisible && !root.rulersAtBottomRight ? root.rulerThickness : 0
+            y: x
+            width: parent.width - (root.rulersVisible ? root.rulerThickness : 0)
+            height: parent.height - (root.rulersVisible ? root.rulerThickness : 0)
+            focus: true
+            clip: true
+            Accessible.role: Accessible.Graphic
+            Accessible.name: qsTr("Canvas")
+            Accessible.description: qsTr("The document. Drag to move the view, turn the wheel to zoom.")
+
+            Keys.onPressed: event => {
+                if (event.key === Qt.Key_Space && event.modifiers === Qt.NoModifier)
+                    spaceHeld = true
+                else if (event.key === Qt.Key_Menu || event.key === Qt.Key_F10 && event.modifiers === Qt.ShiftModifier)
+                    openContextMenuAtSelection()
                 else
-                    drag.accepted = false
-            }
-            onDropped: drop => {
-                if (!offersCopies(drop)) {
-                    drop.accepted = false
                     return
+                event.accepted = true
+            }
+            Keys.onReleased: event => {
+                if (event.key !== Qt.Key_Space || event.isAutoRepeat)
+                    return
+                spaceHeld = false
+                event.accepted = true
+            }
+            onActiveFocusChanged: spaceHeld = false
+
+            EditorCanvasItem {
+                anchors.fill: parent
+                sceneModel: root.sceneModel
+                viewScale: root.viewScale
+            }
+
+            PanArea {
+                id: layerInteractionArea
+
+                onPressStarted: viewport.startPan()
+                onDragged: (deltaX, deltaY) => viewport.pan(deltaX, deltaY, true, true)
+                anchors.fill: parent
+                acceptedButtons: Qt.LeftButton
+                threshold: root.dragThreshold
+                cursorShape: dragging || boardPanArea.dragging ? Qt.ClosedHandCursor : Qt.ArrowCursor
+            }
+
+            MouseArea {
+                z: 180
+                anchors.fill: parent
+                acceptedButtons: Qt.RightButton
+                onClicked: mouse => viewport.openContextMenu(mouse.x, mouse.y)
+
+                CanvasContextMenu {
+                    id: contextMenu
+
+                    documentPoint: root.contextDocumentPoint
+                    paintController: root.paintController
+                    cutAction: root.cutAction
+                    copyAction: root.copyAction
+                    pasteAction: root.pasteAction
+                    removeLayerAction: root.removeLayerAction
+                    clearRasterSelectionAction: root.clearRasterSelectionAction
+                    invertRasterSelectionAction: root.invertRasterSelectionAction
                 }
-                drop.accept(Qt.CopyAction)
-                root.filesDropped(drop.urls)
+            }
+
+            PanArea {
+                onPressStarted: viewport.startPan()
+                onDragged: (deltaX, deltaY) => viewport.pan(deltaX, deltaY, true, true)
+                z: 190
+                anchors.fill: parent
+                visible: viewport.spaceHeld || dragging
+                acceptedButtons: Qt.LeftButton
+                cursorShape: dragging ? Qt.ClosedHandCursor : Qt.OpenHandCursor
+            }
+
+            ToastOverlay {
+                z: 200
+                anchors.top: parent.top
+                anchors.topMargin: 12
+                anchors.horizontalCenter: parent.horizontalCenter
+                maximumWidth: Math.max(56, parent.width - 32)
+            }
+
+            // Importing must never make the source move its file, so only a copy is accepted.
+            DropArea {
+                function offersCopies(drag) {
+                    return drag.hasUrls && (drag.supportedActions & Qt.CopyAction)
+                }
+
+                z: 300
+                anchors.fill: parent
+                onEntered: drag => {
+                    if (offersCopies(drag))
+                        drag.accept(Qt.CopyAction)
+                    else
+                        drag.accepted = false
+                }
+                onDropped: drop => {
+                    if (!offersCopies(drop)) {
+                        drop.accepted = false
+                        return
+                    }
+                    drop.accept(Qt.CopyAction)
+                    root.filesDropped(drop.urls)
+                }
+            }
+
+            // Above all the tools, and takes nothing from them: while a button is held there is no hovering.
+            Item {
+                id: pointer
+
+                readonly property point position: pressedPointer.active ? pressedPointer.point.position
+                                                                        : hoveringPointer.point.position
+
+                z: 310
+                anchors.fill: parent
+
+                HoverHandler {
+                    id: hoveringPointer
+                }
+
+                PointHandler {
+                    id: pressedPointer
+
+                    acceptedButtons: Qt.AllButtons
+                }
+            }
+        }
+
+        Loader {
+            anchors.fill: parent
+            active: root.rulersVisible
+            sourceComponent: CanvasRulers {
+                thickness: root.rulerThickness
+                atBottomRight: root.rulersAtBottomRight
+                viewOrigin: root.viewOrigin
+                viewScale: root.viewScale
+                pointer: pointer.position
+                pointerVisible: hoveringPointer.hovered || pressedPointer.active
+                onDragStarted: viewport.startPan()
+                onDragged: (deltaX, deltaY, horizontal, vertical) => viewport.pan(deltaX, deltaY, horizontal, vertical)
             }
         }
     }
