@@ -3,6 +3,7 @@
 #include "application/application.h"
 #include "application/user_notification_center.h"
 #include "editor/export_preview_image_provider.h"
+#include "editor/shape_preview_image_provider.h"
 
 #include <QQmlContext>
 #include <QQmlEngine>
@@ -24,17 +25,26 @@ constexpr bool kDebugBuild = true;
 ApplicationContext::ApplicationContext()
 {
     documentFileController.setRuntimeFlags(&runtimeFlags);
+    editorController.setRuntimeFlags(&runtimeFlags);
     scenePresentationModel.setRenderServices(&renderServices);
     exportController.setRenderServices(&renderServices);
     QObject::connect(&documentFileController, &DocumentFileController::documentLoaded, &applicationSettings,
                      &ApplicationSettings::addRecentFile);
     QObject::connect(&documentFileController, &DocumentFileController::documentSaved, &applicationSettings,
                      &ApplicationSettings::addRecentFile);
+    // A new text looks like the one that the user last had in hand.
+    const auto rememberTextStyle = [this](const QUuid &id) {
+        if (const TextLayer *text = id == document.selectedObjectId() ? document.textLayer(id) : nullptr)
+            editorController.setTextTemplate(EditorController::textTemplateFrom(text->state()));
+    };
+    QObject::connect(&document, &Document::selectionChanged, &editorController, rememberTextStyle);
+    QObject::connect(&document, &Document::textLayerChanged, &editorController, rememberTextStyle);
 }
 
 void addImageProviders(QQmlEngine &engine, const ApplicationContext &context)
 {
     engine.addImageProvider(u"export-preview"_s, new ExportPreviewImageProvider(context.exportPreviewStore));
+    engine.addImageProvider(kShapePreviewProviderId, new ShapePreviewImageProvider);
 }
 
 void setContextProperties(QQmlContext &qmlContext, Application &application, ApplicationContext &context)
@@ -47,6 +57,9 @@ void setContextProperties(QQmlContext &qmlContext, Application &application, App
     qmlContext.setContextProperty(u"applicationTheme"_s, &context.applicationTheme);
     qmlContext.setContextProperty(u"commandHistory"_s, &context.commandHistory);
     qmlContext.setContextProperty(u"scenePresentationModel"_s, &context.scenePresentationModel);
+    qmlContext.setContextProperty(u"editorStateModel"_s, &context.editorStateModel);
+    qmlContext.setContextProperty(u"shapePickerModel"_s, &context.shapePickerModel);
+    qmlContext.setContextProperty(u"editorController"_s, &context.editorController);
     qmlContext.setContextProperty(u"noticeCatalogModel"_s, &context.noticeCatalogModel);
     qmlContext.setContextProperty(u"fileManager"_s, &context.fileManager);
     qmlContext.setContextProperty(u"documentFileController"_s, &context.documentFileController);

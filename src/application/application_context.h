@@ -8,10 +8,13 @@
 #include "document/document.h"
 #include "document/scene_presentation_model.h"
 #include "editor/document_file_controller.h"
+#include "editor/editor_controller.h"
+#include "editor/editor_state_model.h"
 #include "editor/export_controller.h"
 #include "editor/export_preview_image_store.h"
 #include "editor/file_manager_controller.h"
 #include "editor/notice_catalog_model.h"
+#include "editor/shape_picker_model.h"
 #include "filters/filter_result_cache.h"
 #include "generators/bundled_texture_loader.h"
 #include "rendering/opengl_texture_renderer.h"
@@ -41,10 +44,13 @@ struct ApplicationContext
     /// Finished results of filter stacks, for the next evaluation.
     FilterResultCache filterResults;
     RenderServices renderServices{&textureLoader, &textureRenderer, &textureRenderer, &filterResults};
+    EditorStateModel editorStateModel;
     ScenePresentationModel scenePresentationModel{&document};
+    ShapePickerModel shapePickerModel;
     NoticeCatalogModel noticeCatalogModel;
     RuntimeFlags runtimeFlags;
     DocumentFileController documentFileController{&document, &commandHistory};
+    EditorController editorController{&document, &commandHistory};
     FileManagerController fileManager;
     /// Shared with the engine's image provider.
     std::shared_ptr<ExportPreviewImageStore> exportPreviewStore = std::make_shared<ExportPreviewImageStore>();

@@ -52,11 +52,6 @@ QString DocumentFileController::displayName() const
     return m_pairedImageUrl.isEmpty() ? fileName : tr("%1 (%2)").arg(fileName, displayPath(m_pairedImageUrl));
 }
 
-QString DocumentFileController::supportedImageFilePatterns() const
-{
-    return zm::supportedImageFilePatterns().join(u' ');
-}
-
 bool DocumentFileController::resetDocument(double width, double height, const QColor &backgroundColor)
 {
     if (!isValidSide(width) || !isValidSide(height))

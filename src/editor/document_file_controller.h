@@ -22,7 +22,6 @@ class DocumentFileController : public QObject
     Q_PROPERTY(QString displayName READ displayName NOTIFY displayNameChanged)
     Q_PROPERTY(QString lastError READ lastError NOTIFY lastErrorChanged)
     Q_PROPERTY(bool lastErrorOffersHeifInstallHelp READ lastErrorOffersHeifInstallHelp NOTIFY lastErrorChanged)
-    Q_PROPERTY(QString supportedImageFilePatterns READ supportedImageFilePatterns CONSTANT)
 
 public:
     /// The sides of a blank document, in document units.
@@ -45,8 +44,6 @@ public:
     /// Empty after a success.
     QString lastError() const { return m_lastError; }
     bool lastErrorOffersHeifInstallHelp() const { return m_lastErrorOffersHeifInstallHelp; }
-    /// Patterns such as "*.png", sorted and joined with blanks, for the filters of file dialogs.
-    QString supportedImageFilePatterns() const;
 
     /// Starts a blank document with a clean history. Sides are rounded to whole units; an invalid colour becomes white.
     Q_INVOKABLE bool resetDocument(double width, double height, const QColor &backgroundColor);

@@ -233,7 +233,7 @@ QStringList supportedImageFilePatterns()
     QStringList patterns{u"*.svg"_s};
     const QList<QByteArray> formats = QImageReader::supportedImageFormats();
     for (const QByteArray &format : formats)
-        patterns.append(u"*.%1"_s.arg(QString::fromLatin1(format).toLower()));
+        patterns.append(u"*.%1"_s.arg(QString::fromLatin1(format.trimmed()).toLower()));
     patterns.removeDuplicates();
     patterns.sort();
     return patterns;
