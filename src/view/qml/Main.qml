@@ -481,7 +481,6 @@ ApplicationWindow {
                     cutAction: actions.edit.cut
                     copyAction: actions.edit.copy
                     pasteAction: actions.edit.paste
-                    rasterizeAction: actions.layer.rasterize
                     removeLayerAction: actions.layer.removeLayer
                     clearRasterSelectionAction: actions.selection.clearRaster
                     invertRasterSelectionAction: actions.selection.invertRaster

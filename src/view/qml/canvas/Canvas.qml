@@ -7,6 +7,7 @@ Pane {
     id: root
 
     required property ScenePresentationModel sceneModel
+    property EditorStateModel editorState: null
     property var paintController: null
     // What the context menu offers; an entry without an action is left out.
     property Action cutAction: null
@@ -22,6 +23,7 @@ Pane {
     property bool rulersAtBottomRight: false
     // The document point in the middle of the view, before fixed bounds hold it back.
     property point boardCenter: Qt.point(0, 0)
+    readonly property bool textEditing: editorState?.textEditActive ?? false
     // Where the context menu was last asked for.
     property point contextDocumentPoint
     readonly property alias contextMenu: contextMenu
@@ -61,6 +63,11 @@ Pane {
 
     function forceCanvasFocus() {
         viewport.forceActiveFocus()
+    }
+
+    function commitTextEditing() {
+        if (textEditing)
+            editorState.activateTransformMode()
     }
 
     function panBoardFromViewportDelta(startCenter, deltaX, deltaY, panHorizontal, panVertical) {
