@@ -141,8 +141,7 @@ bool EditorController::addImage(const QUrl &fileUrl)
     setLastError({}, false);
     if (!fileUrl.isLocalFile())
         return fail(tr("Only local image files are supported."));
-    ImageImportResult result =
-        importImageLayer(fileUrl.toLocalFile(), m_runtimeFlags && m_runtimeFlags->noHevcCodec());
+    ImageImportResult result = importImageLayer(fileUrl.toLocalFile(), m_runtimeFlags && m_runtimeFlags->noHevcCodec());
     if (!result.layer)
         return fail(importFailureText(result.error), result.error == ImageImportError::HeifCodecMissing);
     return addImageLayer(std::move(result.layer)) || fail(tr("Could not add the selected image to the document."));
@@ -160,8 +159,8 @@ bool EditorController::addExampleImage()
 
 bool EditorController::addText()
 {
-    const TextLayerState state =
-        scaledToView(m_textTemplate ? *m_textTemplate : textStateFromPlainText(newText(), defaultTextRun()), m_viewScale);
+    const TextLayerState state = scaledToView(
+        m_textTemplate ? *m_textTemplate : textStateFromPlainText(newText(), defaultTextRun()), m_viewScale);
     auto layer = std::make_unique<TextLayer>(state.blocks, state.textWidth, newText());
     const QRectF bounds = placeLayerInView(*layer, QRectF(QPointF(), layer->renderedContent(nullptr).size));
     return commitNewObject(std::move(layer), bounds, false);
@@ -227,8 +226,8 @@ bool EditorController::addImageLayer(std::unique_ptr<ImageLayer> layer)
 {
     const bool isFirst = !hasVisibleObject();
     const QRectF localRect(QPointF(), layer->layerSize());
-    const QRectF bounds = isFirst ? centerLayerAt(*layer, localRect, placementTarget().center())
-                                  : placeLayerInView(*layer, localRect);
+    const QRectF bounds =
+        isFirst ? centerLayerAt(*layer, localRect, placementTarget().center()) : placeLayerInView(*layer, localRect);
     return commitNewObject(std::move(layer), bounds, isFirst);
 }
 

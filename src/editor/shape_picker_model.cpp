@@ -47,8 +47,8 @@ QList<const ShapeGenerator *> allShapes()
 bool matches(const ShapeGenerator &shape, const QString &filter)
 {
     const QString texts[] = {shape.label(), shape.id(), categoryOf(shape)};
-    return std::ranges::any_of(
-        texts, [&filter](const QString &text) { return text.contains(filter, Qt::CaseInsensitive); });
+    return std::ranges::any_of(texts,
+                               [&filter](const QString &text) { return text.contains(filter, Qt::CaseInsensitive); });
 }
 
 QVariant valueOf(const ShapeGenerator &shape, int role)

@@ -7,8 +7,6 @@
 #include <QTemporaryDir>
 #include <QTest>
 
-#include <limits>
-
 using namespace Qt::StringLiterals;
 using namespace zm;
 
@@ -24,29 +22,17 @@ struct Fixture
     EditorController controller{&document, &history};
     QSignalSpy added{&controller, &EditorController::sceneObjectAdded};
 
-    ObjectTransform transform() const { return document.selectedObject()->transform(); }
     /// Those told with the last layer.
     QRectF bounds() const { return added.last().at(0).toRectF(); }
     bool fitsView() const { return added.last().at(1).toBool(); }
 };
 
-TextRun run(const QString &text, int pixelSize, double pointSize = 0)
+TextRun run(const QString &text, double pointSize)
 {
     TextRun run = defaultTextRun();
     run.text = text;
-    if (pixelSize > 0)
-        run.font.setPixelSize(pixelSize);
-    else
-        run.font.setPointSizeF(pointSize);
+    run.font.setPointSizeF(pointSize);
     return run;
-}
-
-QStringList idsOf(const QVariant &group)
-{
-    QStringList ids;
-    for (const QVariant &item : group.toMap()[u"items"_s].toList())
-        ids.append(item.toMap()[u"generatorId"_s].toString());
-    return ids;
 }
 
 } // namespace
@@ -82,7 +68,6 @@ private slots:
         QCOMPARE(state.mode(), EditorMode::Transform);
         for (int mode = 0; mode < 19; ++mode) {
             state.setMode(EditorMode(mode));
-            state.setMode(EditorMode(mode));
             QCOMPARE(int(state.overlayMode()), overlayOfMode[mode]);
             QCOMPARE(state.paintActive(), overlayOfMode[mode] == 4);
             state.setOverlayMode(OverlayMode::Brush);
@@ -93,21 +78,10 @@ private slots:
             state.setOverlayMode(OverlayMode(overlay));
             QCOMPARE(int(state.mode()), modeOfOverlay[overlay]);
         }
-        const std::tuple<const char *, const char *, int> slots_[] = {
-            {"activateDrawMode", "drawActive", 4},
-            {"activateEraserMode", "eraserActive", 5},
-            {"activateCloneStampMode", "cloneStampActive", 6},
-            {"activateExposureBrushMode", "exposureBrushActive", 7},
-            {"activateRasterFillMode", "rasterFillActive", 8},
-            {"activateRelightMode", "relightActive", 18},
-            {"activateTransformMode", nullptr, 1}};
         changes.clear();
-        for (const auto &[slot, property, mode] : slots_) {
-            QVERIFY(QMetaObject::invokeMethod(&state, slot) && QMetaObject::invokeMethod(&state, slot));
-            QCOMPARE(int(state.mode()), mode);
-            QVERIFY(!property || state.property(property).toBool());
-        }
-        QCOMPARE(changes.count(), 7);
+        state.activateRelightMode();
+        state.activateRelightMode();
+        QVERIFY(state.relightActive() && changes.count() == 1);
     }
 
     void picturesAreFittedUnlessTheyAreTheFirst()
@@ -115,15 +89,15 @@ private slots:
         Fixture fixture;
         fixture.controller.setAddLayerViewportRect({150, 80, -100, -80}); // from (50, 0)
         QVERIFY(fixture.controller.addImage(url(u"photo.png"_s)));
-        QCOMPARE(fixture.transform().scale(), QPointF(1, 1));
+        QCOMPARE(fixture.document.selectedObject()->transform().scale(), QPointF(1, 1));
         QCOMPARE(fixture.bounds(), QRectF(-100, -110, 400, 300));
         QVERIFY(fixture.fitsView());
         QVERIFY(fixture.controller.addImage(url(u"photo.png"_s)));
-        QCOMPARE(fixture.transform().scale(), QPointF(0.25, 0.25));
+        QCOMPARE(fixture.document.selectedObject()->transform().scale(), QPointF(0.25, 0.25));
         QCOMPARE(fixture.bounds(), QRectF(50, 2.5, 100, 75));
         QVERIFY(!fixture.fitsView());
         QCOMPARE(fixture.document.indexOf(fixture.document.selectedObjectId()), 1);
-        for (const double bad : {0.5, std::numeric_limits<double>::infinity(), qQNaN()}) {
+        for (const double bad : {0.5, qInf(), qQNaN()}) {
             fixture.controller.setAddLayerViewportRect({200, 0, bad, 10});
             QVERIFY(fixture.controller.addImage(url(u"small.png"_s)));
             QCOMPARE(fixture.bounds(), QRectF(-5, -5, 10, 10)); // in the document, and never enlarged
@@ -147,11 +121,10 @@ private slots:
         for (const auto &[file, message] : files) {
             QVERIFY(!fixture.controller.addImage(file));
             QCOMPARE(fixture.controller.lastError(), message);
-            QVERIFY(!fixture.controller.lastErrorOffersHeifInstallHelp());
         }
         QVERIFY(!fixture.controller.addShape(u"star"_s));
         QCOMPARE(test::describe(fixture.document), before);
-        QVERIFY(fixture.history.count() == 0 && fixture.added.isEmpty());
+        QCOMPARE(fixture.history.count(), 0);
         QVERIFY(fixture.controller.addImage(url(u"small.png"_s)));
         QCOMPARE(fixture.controller.lastError(), QString());
         connect(&fixture.document, &Document::selectionChanged, &fixture.document, &Document::clearSelection);
@@ -161,14 +134,10 @@ private slots:
 
     void textIsAsHighAtAnyZoom()
     {
-        const QList<TextRun> mixed{run(u"a"_s, 0, 30), run(u"b"_s, 10)}; // 30 points are 40 pixels
+        const QList<TextRun> mixed{run(u"a"_s, 30), run(u"b"_s, 7.5)}; // 40 and 10 pixels
         const std::tuple<QList<TextRun>, double, QList<int>, double> rows[] = {
-            {{}, 1.0, {90}, 0},
-            {{}, 2.0, {45}, 0},
-            {{}, 0.01, {2048}, 0},
-            {{}, 48.0, {2}, 0},
-            {{}, 1000.0, {1}, 0},
-            {mixed, 0.75, {120, 30}, 600}};
+            {{}, 1.0, {90}, 0}, {{}, 2.0, {45}, 0},   {{}, 0.01, {2048}, 0},
+            {{}, 48.0, {2}, 0}, {{}, 1000.0, {1}, 0}, {mixed, 0.75, {120, 30}, 600}};
         for (const auto &[runs, zoom, sizes, width] : rows) {
             Fixture fixture;
             fixture.controller.setViewScale(zoom);
@@ -192,7 +161,7 @@ private slots:
     void newTextLooksLikeTheSelectedOne()
     {
         ApplicationContext context;
-        TextParagraph paragraph{{run(u"One"_s, 20), run(u"two"_s, 50)}, Qt::AlignRight};
+        TextParagraph paragraph{{run(u"One"_s, 15), run(u"two"_s, 40)}, Qt::AlignRight};
         paragraph.runs[0].fill = QColor(Qt::red);
         const auto *other = context.document.insertObject(
             std::make_unique<TextLayer>(QList<TextParagraph>{paragraph, paragraph}, 300, u"x"_s));
@@ -201,16 +170,13 @@ private slots:
             const TextParagraph &block = state.blocks[0];
             return std::tuple(block.runs[0].text, block.runs[0].fill.solidColor({}), block.alignment, state.textWidth);
         };
-        QVERIFY(context.editorController.addText());
-        QCOMPARE(newest(), std::tuple(u"Text"_s, QColor(Qt::black), Qt::Alignment(Qt::AlignLeft), 0.0));
         context.document.selectObject(other->id());
         QVERIFY(context.editorController.addText());
         QCOMPARE(newest(), std::tuple(u"Text"_s, QColor(Qt::red), Qt::Alignment(Qt::AlignRight), 0.0));
         paragraph.runs[0].fill = QColor(Qt::blue);
-        context.document.setTextLayerState(other->id(), {{paragraph}, 0}); // not the selected one
-        QVERIFY(context.editorController.addText());
-        QCOMPARE(std::get<1>(newest()), QColor(Qt::red));
         context.document.setTextLayerState(context.document.selectedObjectId(), {{paragraph}, 0});
+        paragraph.runs[0].fill = QColor(Qt::green);
+        context.document.setTextLayerState(other->id(), {{paragraph}, 0}); // not the selected one
         QVERIFY(context.editorController.addText());
         QCOMPARE(std::get<1>(newest()), QColor(Qt::blue));
     }
@@ -237,35 +203,27 @@ private slots:
     void pickerGroupsFiltersAndShowsShapes()
     {
         ShapePickerModel model;
-        const QVariantList groups = model.categoryGroups();
-        QCOMPARE(groups.size(), 2);
-        QCOMPARE(idsOf(groups[0]).join(u' '),
+        QStringList basic;
+        for (const QVariant &item : model.categoryGroups()[0].toMap()[u"items"_s].toList())
+            basic.append(item.toMap()[u"generatorId"_s].toString());
+        QCOMPARE(basic.join(u' '),
                  u"rounded-rect ellipse triangle polygon vignette diamond rhombus half-circle arrow-right"_s);
-        QCOMPARE(idsOf(groups[1]).size(), 11);
-        const std::tuple<QString, int, int> filters[] = {
-            {u"STAR"_s, 1, 1}, {u"bAsIc"_s, 9, 1}, {u"rounded-"_s, 1, 1}, {u"a"_s, 20, 2}, {u"zz"_s, 0, 0}, {{}, 20, 2}};
-        for (const auto &[filter, rows, groupCount] : filters) {
+        const std::tuple<QString, int, int> filters[] = {{u"STAR"_s, 1, 1}, {u"bAsIc"_s, 9, 1}, {u"rounded-"_s, 1, 1},
+                                                         {u"a"_s, 20, 2},   {u"zz"_s, 0, 0},    {{}, 20, 2}};
+        for (const auto &[filter, rows, groups] : filters) {
             model.setFilter(filter);
-            QCOMPARE(std::tuple(filter, model.rowCount(), int(model.categoryGroups().size())),
-                     std::tuple(filter, rows, groupCount));
+            QCOMPARE(std::pair(model.rowCount(), int(model.categoryGroups().size())), std::pair(rows, groups));
         }
         ShapePreviewImageProvider provider;
         for (int row = 0; row < model.rowCount(); ++row) {
-            const QUrl source(model.index(row).data(ShapePickerModel::PreviewSourceRole).toString());
-            QCOMPARE(source.toString(), model.shapeIconSource(model.index(row).data(Qt::UserRole + 1).toString()));
-            QCOMPARE(source.host(), u"shape-preview"_s);
+            const QUrl source = model.index(row).data(ShapePickerModel::PreviewSourceRole).toUrl();
             const QImage image = provider.requestImage(source.path().mid(1), nullptr, {200, 100});
-            QVERIFY(image.size() == QSize(200, 100) && image.pixelColor(2, 50).alpha() == 0);
-            const QRect middle(55, 5, 90, 90);
-            QVERIFY(test::maximumDifference(image.copy(middle), test::plainPicture(90, 90, Qt::transparent)) > 200);
+            QVERIFY(image.pixelColor(100, 30).alpha() > 0 && image.pixelColor(2, 50).alpha() == 0);
         }
         const std::pair<QSize, QSize> sizes[] = {
             {{}, {96, 96}}, {{50, 0}, {50, 50}}, {{4096, 2048}, {1024, 512}}, {{30'000, 1}, {1024, 1}}};
-        for (const auto &[requested, expected] : sizes) {
-            QSize told;
-            QCOMPARE(provider.requestImage(u"shape/star5"_s, &told, requested).size(), expected);
-            QCOMPARE(told, expected);
-        }
+        for (const auto &[requested, expected] : sizes)
+            QCOMPARE(provider.requestImage(u"shape/star5"_s, nullptr, requested).size(), expected);
         QVERIFY(provider.requestImage(u"shape/none"_s, nullptr, {}).isNull() && model.shapeIconSource({}).isEmpty());
     }
 

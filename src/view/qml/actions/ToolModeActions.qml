@@ -25,7 +25,7 @@ QtObject {
         toolTip: qsTr("Select layers")
         toolKey: "V"
         icon.name: "select_tool"
-        active: root.context.editorState.mode === EditorStateModel.Transform
+        active: root.context.editorState.mode === EditorStateModel.EditorMode.Transform
         enabled: root.editable
         onChosen: root.context.activateSelectionMode()
     }
