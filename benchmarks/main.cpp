@@ -10,6 +10,7 @@
 #include "startup_bench.h"
 #include "text_bench.h"
 #include "vector_bench.h"
+#include "window_bench.h"
 
 #include <QGuiApplication>
 #include <QLoggingCategory>
@@ -31,7 +32,7 @@ constexpr BenchGroup kGroups[] = {
     {"blur"_L1, zm::bench::benchBlur},           {"effects"_L1, zm::bench::benchEffects},
     {"text"_L1, zm::bench::benchText},           {"export"_L1, zm::bench::benchExport},
     {"documents"_L1, zm::bench::benchDocuments}, {"shapes"_L1, zm::bench::benchShapes},
-    {"start"_L1, zm::bench::benchStartup},
+    {"start"_L1, zm::bench::benchStartup},       {"window"_L1, zm::bench::benchWindow},
 };
 
 void print(const QList<zm::bench::BenchRow> &rows)
