@@ -268,8 +268,8 @@ Item {
 
         function test_rulersFrameTheViewAndDragIt_data() {
             return [
-                { tag: "top and left", bottomRight: false, viewX: 24, rulerX: 300, rulerY: 12, cornerX: 12 },
-                { tag: "bottom and right", bottomRight: true, viewX: 0, rulerX: 300, rulerY: 588, cornerX: 788 }
+                { tag: "top and left", bottomRight: false, viewX: 24, cornerX: 12, cornerY: 12 },
+                { tag: "bottom and right", bottomRight: true, viewX: 0, cornerX: 788, cornerY: 588 }
             ]
         }
 
@@ -284,9 +284,9 @@ Item {
                 mouseRelease(canvas, x + 20, y - 10)
                 return canvas.boardCenter
             }
-            comparePoint(drag(row.rulerX, row.rulerY), -10, 0)
-            comparePoint(drag(row.rulerY, row.rulerX), 0, 5)
-            comparePoint(drag(row.cornerX, row.rulerY), -10, 5)
+            comparePoint(drag(300, row.cornerY), -10, 0)
+            comparePoint(drag(row.cornerX, 300), 0, 5)
+            comparePoint(drag(row.cornerX, row.cornerY), -10, 5)
             verify(canvas.activeFocus)
 
             // The zero of the rulers and of the document meet: a layer's edge lies below the tick of its coordinate.
@@ -317,20 +317,20 @@ Item {
             look(2, 0, 0)
             mouseClick(canvas, 500, 260, Qt.RightButton)
             comparePoint(canvas.contextDocumentPoint, 50, -20)
-            tryVerify(() => menuEntry("Rasterize Layer")?.enabled)
+            tryCompare(canvas.contextMenu, "opened", true)
             verify(menuEntry("Cut"))
             mouseClick(menuEntry("Rasterize Layer"))
             compare(painter.rasterized, [Qt.point(50, -20)])
-            tryVerify(() => canvas.activeFocus)
 
             painter.answer = false
             for (const key of [[Qt.Key_Menu, Qt.NoModifier], [Qt.Key_F10, Qt.ShiftModifier]]) {
                 look(1, 30, 40)
+                canvas.forceCanvasFocus()
                 keyClick(key[0], key[1])
                 tryVerify(() => menuEntry("Rasterize Layer")?.enabled === false)
                 comparePoint(canvas.contextDocumentPoint, 30, 40)
                 keyClick(Qt.Key_Escape)
-                tryVerify(() => !menuEntry("Cut"))
+                tryCompare(canvas.contextMenu, "visible", false)
             }
         }
 

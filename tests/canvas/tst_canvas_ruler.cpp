@@ -123,7 +123,7 @@ private slots:
 
         Ruler left(Ticks, CanvasRulerItem::Vertical);
         left.setViewOrigin({0.0, -33.25});
-        const QImage diagonal = image.transformed(QTransform(0, 1, 1, 0, 0, 0));
+        const QImage diagonal = image.transformed(QTransform(0, 1, 1, 0, 0, 0)).convertToFormat(image.format());
         QCOMPARE(left.picture(), diagonal);
         left.setOppositeEdge(true);
         QCOMPARE(left.picture(), diagonal.mirrored(true, false));

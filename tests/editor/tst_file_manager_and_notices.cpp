@@ -43,24 +43,19 @@ class TestFileManagerAndNotices : public QObject
 {
     Q_OBJECT
 
+public:
+    /// The bus is the one of the environment; without an address there is none.
+    explicit TestFileManagerAndNotices(const QString &busAddress)
+        : m_address(busAddress)
+    {
+    }
+
 private slots:
     void initTestCase()
     {
         QFile file(m_folder.filePath(u"50% ü.png"_s));
         QVERIFY(m_folder.isValid() && file.open(QIODevice::WriteOnly));
         m_file = QUrl::fromLocalFile(file.fileName());
-
-        m_daemon.start(u"dbus-daemon"_s, {u"--session"_s, u"--nofork"_s, u"--print-address"_s});
-        if (m_daemon.waitForReadyRead(5000))
-            m_address = QString::fromLatin1(m_daemon.readLine().trimmed());
-        // Without a daemon this is a bus that nobody answers on.
-        qputenv("DBUS_SESSION_BUS_ADDRESS", m_address.isEmpty() ? "unix:path=/nowhere" : m_address.toLatin1());
-    }
-
-    void cleanupTestCase()
-    {
-        m_daemon.kill();
-        m_daemon.waitForFinished();
     }
 
     void init() { QDesktopServices::setUrlHandler(u"file"_s, this, "openFolder"); }
@@ -130,12 +125,30 @@ public slots:
 private:
     QTemporaryDir m_folder;
     QUrl m_file;
-    QProcess m_daemon;
-    QString m_address;
+    const QString m_address;
     FileManagerController m_controller;
     QList<QUrl> m_opened;
 };
 
-QTEST_MAIN(TestFileManagerAndNotices)
+int main(int argc, char **argv)
+{
+    // Before the application, which looks for the bus as it starts.
+    QProcess daemon;
+    QString address;
+    daemon.start(u"dbus-daemon"_s, {u"--session"_s, u"--nofork"_s, u"--print-address"_s});
+    if (daemon.waitForReadyRead(5000))
+        address = QString::fromLatin1(daemon.readLine().trimmed());
+    qputenv("DBUS_SESSION_BUS_ADDRESS", address.isEmpty() ? "unix:path=/nowhere" : address.toLatin1());
+
+    int result = 0;
+    {
+        const QGuiApplication application(argc, argv);
+        TestFileManagerAndNotices test(address);
+        result = QTest::qExec(&test, argc, argv);
+    }
+    daemon.kill();
+    daemon.waitForFinished();
+    return result;
+}
 
 #include "tst_file_manager_and_notices.moc"

@@ -380,7 +380,7 @@ Pane {
 
             // Above all the tools, and takes nothing from them: while a button is held there is no hovering.
             Item {
-                id: pointer
+                id: pointerArea
 
                 readonly property point position: pressedPointer.active ? pressedPointer.point.position
                                                                         : hoveringPointer.point.position
@@ -408,7 +408,7 @@ Pane {
                 atBottomRight: root.rulersAtBottomRight
                 viewOrigin: root.viewOrigin
                 viewScale: root.viewScale
-                pointer: pointer.position
+                pointer: pointerArea.position
                 pointerVisible: hoveringPointer.hovered || pressedPointer.active
                 onDragStarted: viewport.startPan()
                 onDragged: (deltaX, deltaY, horizontal, vertical) => viewport.pan(deltaX, deltaY, horizontal, vertical)

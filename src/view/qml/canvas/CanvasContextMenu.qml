@@ -26,7 +26,7 @@ ZmMenu {
     Entry { action: root.copyAction }
     Entry { action: root.pasteAction }
 
-    Separator { visible: root.cutAction || root.copyAction || root.pasteAction }
+    Separator { needed: !!(root.cutAction || root.copyAction || root.pasteAction) }
 
     Entry {
         action: Action {
@@ -38,17 +38,21 @@ ZmMenu {
     }
     Entry { action: root.removeLayerAction }
 
-    Separator { visible: root.invertRasterSelectionAction || root.clearRasterSelectionAction }
+    Separator { needed: !!(root.invertRasterSelectionAction || root.clearRasterSelectionAction) }
 
     Entry { action: root.invertRasterSelectionAction }
     Entry { action: root.clearRasterSelectionAction }
 
+    // What is in a closed menu is not visible, so a height must not follow from that.
     component Entry: ZmMenuItem {
-        visible: action
-        height: visible ? implicitHeight : 0
+        visible: !!action
+        height: action ? implicitHeight : 0
     }
 
     component Separator: ZmMenuSeparator {
-        height: visible ? implicitHeight : 0
+        property bool needed
+
+        visible: needed
+        height: needed ? implicitHeight : 0
     }
 }
