@@ -8,12 +8,16 @@
 #include "document/document.h"
 #include "document/scene_presentation_model.h"
 #include "editor/document_file_controller.h"
+#include "editor/document_properties_adapter.h"
 #include "editor/editor_controller.h"
 #include "editor/editor_state_model.h"
 #include "editor/export_controller.h"
 #include "editor/export_preview_image_store.h"
 #include "editor/file_manager_controller.h"
+#include "editor/layer_thumbnail_store.h"
+#include "editor/layer_thumbnails.h"
 #include "editor/notice_catalog_model.h"
+#include "editor/scene_object_adapter.h"
 #include "editor/shape_picker_model.h"
 #include "filters/filter_result_cache.h"
 #include "generators/bundled_texture_loader.h"
@@ -45,7 +49,12 @@ struct ApplicationContext
     FilterResultCache filterResults;
     RenderServices renderServices{&textureLoader, &textureRenderer, &textureRenderer, &filterResults};
     EditorStateModel editorStateModel;
+    SceneObjectAdapter sceneObjectAdapter{&document, &commandHistory};
     ScenePresentationModel scenePresentationModel{&document};
+    /// Shared with the engine's image provider.
+    std::shared_ptr<LayerThumbnailStore> layerThumbnailStore = std::make_shared<LayerThumbnailStore>();
+    LayerThumbnails layerThumbnails{&document, &scenePresentationModel, &renderServices, layerThumbnailStore};
+    DocumentPropertiesAdapter documentPropertiesAdapter{&document, &commandHistory};
     ShapePickerModel shapePickerModel;
     NoticeCatalogModel noticeCatalogModel;
     RuntimeFlags runtimeFlags;
