@@ -2,6 +2,7 @@
 
 #include <QFontMetricsF>
 #include <QGuiApplication>
+#include <QImage>
 #include <QPainter>
 #include <QVarLengthArray>
 
@@ -77,37 +78,52 @@ struct Ruler
     }
 };
 
-void drawLabels(QPainter *painter, const Ruler &ruler, const QList<Label> &labels)
+void drawHorizontalLabels(QPainter *painter, const Ruler &ruler, const QList<Label> &labels)
 {
-    QFont font = QGuiApplication::font();
-    font.setPixelSize(kLabelPixelSize);
-    painter->setFont(font);
-    const QFontMetricsF metrics(font);
-
     // Between the outer edge and the ticks of middle length; what is read lies beside the major ticks' tips.
     const double room = ruler.thickness - kMiddleTick - 1.0;
+    const QFontMetricsF metrics(painter->font());
     const double digitHeight = metrics.capHeight();
     if (digitHeight > room)
         return;
     const double outer = ruler.opposite ? ruler.thickness - room : 0.0;
     const double textLine = std::round(outer + (room + digitHeight) / 2.0);
-
     for (const Label &label : labels) {
         const QString text = QString::number(label.value);
+        const double width = std::ceil(metrics.horizontalAdvance(text));
         const double start = label.position + ruler.halfDevicePixel() + kLabelGap;
-        const double end = start + metrics.horizontalAdvance(text);
-        if (start < 0.0 || end > ruler.length)
+        if (start < 0.0 || start + width > ruler.length)
             continue;
-        if (ruler.horizontal) {
-            painter->drawText(QPointF(start, textLine), text);
-        } else {
-            painter->save();
-            painter->translate(0.0, std::round(end));
-            painter->rotate(-90.0);
-            painter->drawText(QPointF(0.0, textLine), text);
-            painter->restore();
-        }
+        painter->drawText(QPointF(ruler.horizontal ? start : ruler.length - start - width, textLine), text);
     }
+}
+
+QFont labelFont()
+{
+    QFont font = QGuiApplication::font();
+    font.setPixelSize(kLabelPixelSize);
+    return font;
+}
+
+void drawLabels(QPainter *painter, Ruler ruler, const QList<Label> &labels)
+{
+    painter->setFont(labelFont());
+    if (ruler.horizontal) {
+        drawHorizontalLabels(painter, ruler, labels);
+        return;
+    }
+    // Pixels are turned, not text: small type is made for lines that run across the screen.
+    const QSize size(int(std::ceil(ruler.length * ruler.ratio)), int(std::ceil(ruler.thickness * ruler.ratio)));
+    QImage strip(size, QImage::Format_ARGB32_Premultiplied);
+    strip.setDevicePixelRatio(ruler.ratio);
+    strip.fill(Qt::transparent);
+    QPainter stripPainter(&strip);
+    stripPainter.setFont(painter->font());
+    stripPainter.setPen(painter->pen());
+    ruler.length = size.width() / ruler.ratio; // the strip ends where the picture of the ruler does
+    drawHorizontalLabels(&stripPainter, ruler, labels);
+    stripPainter.end();
+    painter->drawImage(QPointF(0.0, 0.0), strip.transformed(QTransform().rotate(-90.0)));
 }
 
 } // namespace

@@ -489,6 +489,7 @@ ApplicationWindow {
                     onBoardCenterChanged: window.forgetFit()
                     onWidthChanged: window.fitAgain()
                     onHeightChanged: window.fitAgain()
+                    onRulersVisibleChanged: window.fitAgain()
 
                     BusyCover {
                         id: busyCover
