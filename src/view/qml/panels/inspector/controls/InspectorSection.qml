@@ -1,0 +1,42 @@
+import QtQuick
+import QtQuick.Layouts
+import QtQuick.Controls
+
+// A titled block of a panel. `tools` stand on the right of the title.
+ColumnLayout {
+    id: root
+
+    property string title
+    property bool separated: true
+    property alias tools: toolRow.data
+
+    Layout.fillWidth: true
+    spacing: Theme.spaceS + Theme.spaceXS
+    Accessible.role: Accessible.Grouping
+    Accessible.name: title
+
+    Rectangle {
+        Layout.fillWidth: true
+        Layout.bottomMargin: Theme.spaceS
+        implicitHeight: 1
+        color: Theme.hairline
+        visible: root.separated
+    }
+
+    RowLayout {
+        Layout.fillWidth: true
+        spacing: 0
+
+        Label {
+            Layout.fillWidth: true
+            text: root.title
+            font.weight: Font.DemiBold
+            elide: Text.ElideRight
+            textFormat: Text.PlainText
+        }
+
+        Row {
+            id: toolRow
+        }
+    }
+}

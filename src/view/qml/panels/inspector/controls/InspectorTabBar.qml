@@ -1,0 +1,72 @@
+import QtQuick
+import QtQuick.Layouts
+import QtQuick.Controls
+
+// The strip of tabs. Wide names take room from narrow ones before any is cut. Left and Right go to the next tab.
+Rectangle {
+    id: root
+
+    required property list<InspectorTab> tabs
+    required property int currentPanel
+
+    signal tabRequested(int panelIndex)
+
+    function step(from, by) {
+        const count = repeater.count
+        for (let i = (from + by + count) % count; i !== from; i = (i + by + count) % count) {
+            const button = repeater.itemAt(i)
+            if (!button.visible)
+                continue
+            tabRequested(button.modelData.panelIndex)
+            button.forceActiveFocus(Qt.TabFocusReason)
+            return
+        }
+    }
+
+    implicitHeight: row.implicitHeight + 1
+    color: Theme.surface
+    Accessible.role: Accessible.PageTabList
+    Accessible.name: qsTr("Inspector")
+
+    Rectangle {
+        anchors.bottom: parent.bottom
+        width: parent.width
+        height: 1
+        color: Theme.hairline
+    }
+
+    RowLayout {
+        id: row
+
+        width: parent.width
+        spacing: 0
+
+        Repeater {
+            id: repeater
+
+            model: root.tabs
+
+            ZmTabButton {
+                required property InspectorTab modelData
+                required property int index
+
+                Layout.fillWidth: true
+                Layout.minimumWidth: 40
+                Layout.preferredWidth: Math.max(implicitContentWidth + 2 * Theme.spaceS, 60)
+                visible: modelData.available
+                text: modelData.text
+                icon.name: modelData.iconName
+                checked: root.currentPanel === modelData.panelIndex
+                focusPolicy: checked ? Qt.TabFocus : Qt.NoFocus
+                Keys.onLeftPressed: root.step(index, -1)
+                Keys.onRightPressed: root.step(index, 1)
+                onClicked: root.tabRequested(modelData.panelIndex)
+
+                ZmToolTip {
+                    visible: parent.hovered && parent.width < parent.implicitContentWidth
+                    text: parent.text
+                }
+            }
+        }
+    }
+}

@@ -1,0 +1,196 @@
+import QtQuick
+import QtQuick.Controls
+import ZelmoraAtelier
+
+// The stack of layers, topmost first. Press selects, a drag moves, a double click renames. Keys: Up, Down, Home and End
+// select, with Ctrl or Alt Up and Down move the layer, Space shows and hides, F2 renames, Delete removes, Menu opens
+// the menu.
+ScrollView {
+    id: root
+
+    required property SceneObjectAdapter sceneObjectAdapter
+    required property LayerRowActions actions
+
+    readonly property SceneLayerListModel layers: sceneObjectAdapter.layerListModel
+    readonly property alias count: list.count
+    readonly property real rowHeight: 44
+    property string renamingId
+    property bool keyboardFocus: false
+
+    function idAt(row) {
+        return layers.data(layers.index(row, 0), SceneLayerListModel.LayerIdRole)
+    }
+
+    function selectRow(row) {
+        if (row >= 0 && row < list.count)
+            sceneObjectAdapter.selectLayer(idAt(row))
+    }
+
+    function renameSelected() {
+        if (selection.row < 0)
+            return
+        list.positionViewAtIndex(selection.row, ListView.Contain)
+        renamingId = idAt(selection.row)
+    }
+
+    function openMenu(position) {
+        if (selection.row >= 0)
+            menu.popup(list.contentItem, position)
+    }
+
+    function handleKey(event) {
+        const moves = event.modifiers & (Qt.ControlModifier | Qt.AltModifier)
+        switch (event.key) {
+        case Qt.Key_Up:
+            moves ? actions.moveUp.trigger() : selectRow(Math.max(selection.row - 1, 0))
+            break
+        case Qt.Key_Down:
+            moves ? actions.moveDown.trigger() : selectRow(Math.min(selection.row + 1, list.count - 1))
+            break
+        case Qt.Key_Home:
+            selectRow(0)
+            break
+        case Qt.Key_End:
+            selectRow(list.count - 1)
+            break
+        case Qt.Key_Space:
+            actions.showHide.trigger()
+            break
+        case Qt.Key_Delete:
+            actions.remove.trigger()
+            break
+        case Qt.Key_F2:
+            renameSelected()
+            break
+        case Qt.Key_Menu:
+            openMenu(Qt.point(list.width / 2, (selection.row + 0.5) * rowHeight + list.originY))
+            break
+        case Qt.Key_Escape:
+            event.accepted = drag.dragging
+            drag.cancelDrag()
+            return
+        default:
+            return
+        }
+        event.accepted = true
+        keyboardFocus = true
+    }
+
+    padding: 0
+    ScrollBar.horizontal.policy: ScrollBar.AlwaysOff
+    ScrollBar.vertical: ZmScrollBar {
+        parent: root
+        x: root.width - width
+        height: root.height
+    }
+
+    SelectedLayerRow {
+        id: selection
+
+        model: root.layers
+        onRowChanged: {
+            if (row >= 0 && !drag.pressed)
+                list.positionViewAtIndex(row, ListView.Contain)
+        }
+    }
+
+    ListView {
+        id: list
+
+        model: root.layers
+        clip: true
+        focus: true
+        activeFocusOnTab: true
+        keyNavigationEnabled: false
+        reuseItems: true
+        cacheBuffer: 4 * root.rowHeight
+        boundsBehavior: Flickable.StopAtBounds
+        Accessible.role: Accessible.List
+        Accessible.name: qsTr("Layers")
+        Keys.onPressed: event => root.handleKey(event)
+        onActiveFocusChanged: root.keyboardFocus = activeFocus && !drag.pressed
+
+        move: Transition {
+            NumberAnimation { property: "y"; duration: Theme.fadeMs; easing.type: Easing.OutQuad }
+        }
+        moveDisplaced: move
+
+        delegate: LayerRow {
+            id: row
+
+            required property int index
+
+            width: ListView.view.width
+            height: root.rowHeight
+            mergeAction: root.actions.mergeBelow
+            keyboardFocus: root.keyboardFocus && selected
+            dimmed: drag.draggedRow === index
+            renaming: root.renamingId === layerId
+            onHiddenRequested: hidden => root.sceneObjectAdapter.setLayerHidden(layerId, hidden)
+            onSelectionRequested: root.sceneObjectAdapter.selectLayer(layerId)
+            onRenameRequested: name => {
+                if (selected)
+                    root.sceneObjectAdapter.name = name
+            }
+            onRenameEnded: {
+                root.renamingId = ""
+                list.forceActiveFocus()
+            }
+        }
+
+        LayerDrag {
+            id: drag
+
+            list: list
+            rowHeight: root.rowHeight
+            onRowPressed: row => {
+                root.keyboardFocus = false
+                root.selectRow(row)
+            }
+            onRowDoubleClicked: root.renameSelected()
+            onMenuRequested: (row, position) => root.openMenu(position)
+            onDropped: (row, gap) => root.sceneObjectAdapter.moveLayerToListIndex(root.idAt(row), gap)
+        }
+
+        // Where the dragged layer lands.
+        Rectangle {
+            x: Theme.spaceM
+            y: list.originY + Math.min(Math.max(drag.targetGap * root.rowHeight - 1, 0), list.contentHeight - height)
+            z: 2
+            width: list.width - 2 * x
+            height: 2
+            radius: 1
+            color: Theme.accent
+            visible: drag.targetGap >= 0
+        }
+
+        Loader {
+            y: list.contentY + drag.liftedY
+            z: 3
+            width: list.width
+            height: root.rowHeight
+            active: drag.dragging
+            opacity: 0.9
+
+            sourceComponent: LayerRow {
+                readonly property LayerRow origin: list.itemAtIndex(drag.draggedRow)
+
+                lifted: true
+                layerId: ""
+                selected: true
+                name: origin?.name ?? ""
+                hidden: origin?.hidden ?? false
+                layerType: origin?.layerType ?? "image"
+                hasRasterSelection: origin?.hasRasterSelection ?? false
+                thumbnailSource: origin?.thumbnailSource ?? ""
+            }
+        }
+    }
+
+    LayerMenu {
+        id: menu
+
+        actions: root.actions
+        onRenameRequested: Qt.callLater(root.renameSelected)
+    }
+}

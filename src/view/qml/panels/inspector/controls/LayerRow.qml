@@ -1,0 +1,158 @@
+import QtQuick
+import QtQuick.Layouts
+import QtQuick.Controls
+
+// One layer in the list. Shows what it is told; pressing, dragging and keys belong to the list.
+Item {
+    id: root
+
+    required property string layerId
+    required property string name
+    required property bool selected
+    required property bool hidden
+    required property string layerType
+    required property bool hasRasterSelection
+    required property string thumbnailSource
+
+    property bool keyboardFocus: false
+    property bool renaming: false
+    // The row that follows the pointer while a layer is dragged, and the one that it left.
+    property bool lifted: false
+    property bool dimmed: false
+    property Action mergeAction: null
+
+    readonly property var typeIcons: ({ text: "tab_text_layer", shape: "tab_shape_layer", object: "tab_layers" })
+    readonly property bool hovered: hover.hovered
+
+    signal hiddenRequested(bool hidden)
+    signal renameRequested(string name)
+    signal renameEnded()
+    signal selectionRequested()
+
+    implicitHeight: 44
+    opacity: dimmed ? Theme.disabledOpacity : 1
+    Accessible.role: Accessible.ListItem
+    Accessible.name: hidden ? qsTr("Layer %1, hidden").arg(name) : qsTr("Layer %1").arg(name)
+    Accessible.selectable: true
+    Accessible.selected: selected
+    Accessible.ignored: lifted
+    Accessible.onPressAction: selectionRequested()
+
+    HoverHandler {
+        id: hover
+    }
+
+    PopupSurface {
+        anchors.fill: parent
+        anchors.leftMargin: Theme.spaceS
+        anchors.rightMargin: Theme.spaceS
+        visible: root.lifted
+    }
+
+    Rectangle {
+        anchors.fill: parent
+        anchors.topMargin: 1
+        anchors.bottomMargin: 1
+        anchors.leftMargin: Theme.spaceS
+        anchors.rightMargin: Theme.spaceS
+        radius: Theme.radius
+        color: root.selected ? Theme.accentSoft : root.hovered ? Theme.hoverFill : "transparent"
+        border.width: root.keyboardFocus ? Theme.focusWidth : 0
+        border.color: Theme.accent
+    }
+
+    RowLayout {
+        anchors.fill: parent
+        anchors.leftMargin: Theme.spaceM
+        anchors.rightMargin: Theme.spaceM
+        spacing: Theme.spaceS
+
+        ZmIconButton {
+            size: 26
+            focusPolicy: Qt.NoFocus     // the list has a key for it
+            icon.name: root.hidden ? "visibility_off" : "visibility_on"
+            icon.width: Theme.iconSize
+            icon.height: Theme.iconSize
+            icon.color: root.hidden ? Theme.mutedText : Theme.text
+            toolTip: root.hidden ? qsTr("Show layer") : qsTr("Hide layer")
+            onClicked: root.hiddenRequested(!root.hidden)
+        }
+
+        LayerThumbnail {
+            Layout.preferredWidth: 36
+            Layout.preferredHeight: 36
+            source: root.thumbnailSource
+            opacity: root.hidden ? Theme.disabledOpacity : 1
+
+            // A picture tells by itself that it is one.
+            Rectangle {
+                anchors.right: parent.right
+                anchors.bottom: parent.bottom
+                anchors.margins: -1
+                width: 17
+                height: 17
+                radius: 4
+                color: Theme.surface
+                border.color: Theme.outline
+                visible: root.layerType !== "image"
+
+                TintedIcon {
+                    anchors.centerIn: parent
+                    size: 13
+                    name: root.typeIcons[root.layerType] ?? ""
+                }
+            }
+        }
+
+        Label {
+            Layout.fillWidth: true
+            Layout.leftMargin: Theme.spaceS
+            text: root.name
+            color: root.hidden ? Theme.mutedText : Theme.text
+            elide: Text.ElideRight
+            textFormat: Text.PlainText
+            visible: !root.renaming
+        }
+
+        Loader {
+            Layout.fillWidth: true
+            active: root.renaming
+            visible: active
+
+            sourceComponent: RenameField {
+                name: root.name
+                onCommitted: name => root.renameRequested(name)
+                onEnded: root.renameEnded()
+            }
+        }
+
+        TintedIcon {
+            name: "raster_selection"
+            visible: root.hasRasterSelection
+            Accessible.role: Accessible.StaticText
+            Accessible.name: qsTr("Has a raster selection")
+        }
+
+        ZmIconButton {
+            size: 26
+            focusPolicy: Qt.NoFocus
+            icon.name: "collapse_layer_down"
+            icon.width: Theme.iconSize
+            icon.height: Theme.iconSize
+            toolTip: qsTr("Merge with layer below")
+            enabled: root.selected && (root.mergeAction?.enabled ?? false)
+            visible: root.selected && !root.lifted
+            onClicked: root.mergeAction.trigger()
+        }
+
+        TintedIcon {
+            name: "drag_handle"
+            color: Theme.mutedText
+            opacity: root.hovered || root.selected ? 1 : 0.45
+
+            HoverHandler {
+                cursorShape: Qt.OpenHandCursor
+            }
+        }
+    }
+}

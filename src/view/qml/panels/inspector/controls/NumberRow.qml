@@ -1,0 +1,31 @@
+import QtQuick
+import QtQuick.Layouts
+
+// A labelled number. Shows `value` and asks for another through `edited`.
+InspectorRow {
+    id: root
+
+    property alias value: field.value
+    property alias from: field.from
+    property alias to: field.to
+    property alias step: field.step
+    property alias decimals: field.decimals
+    property alias unit: field.unit
+    property alias unitToolTip: field.unitToolTip
+
+    signal edited(real value)
+    signal editStarted()
+    signal editFinished()
+    signal unitClicked()
+
+    NumericInput {
+        id: field
+
+        Layout.fillWidth: true
+        Accessible.name: root.label
+        onEdited: value => root.edited(value)
+        onEditStarted: root.editStarted()
+        onEditFinished: root.editFinished()
+        onUnitClicked: root.unitClicked()
+    }
+}
