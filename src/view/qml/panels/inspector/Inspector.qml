@@ -35,7 +35,6 @@ Pane {
     required property Action removeLayerAction
 
     property var overlayModel: null
-    property var shapeAdapter: null
     property bool positionedOnLeft: false
 
     property int currentPanel: Inspector.Info
@@ -57,7 +56,7 @@ Pane {
             return { text: qsTr("Image"), icon: "tab_image_layer" }
         if (adapter.isTextLayer)
             return { text: qsTr("Text"), icon: "tab_text_layer" }
-        if (shapeAdapter?.isShapeLayer)
+        if (selectedLayer.layerType === "shape")
             return { text: qsTr("Shape"), icon: "tab_shape_layer" }
         return { text: qsTr("Layer"), icon: "tab_layers" }
     }
@@ -119,6 +118,12 @@ Pane {
             height: parent.height
             color: Theme.hairline
         }
+    }
+
+    SelectedLayerRow {
+        id: selectedLayer
+
+        model: root.sceneObjectAdapter.layerListModel
     }
 
     LayerRowActions {

@@ -25,8 +25,7 @@ ZmInspectorPanel {
             Layout.fillWidth: true
             implicitHeight: 168
             radius: Theme.radius
-            color: Theme.sunken
-            border.color: Theme.hairline
+            color: Theme.hoverFill
 
             LayerThumbnail {
                 anchors.fill: parent
@@ -64,6 +63,7 @@ ZmInspectorPanel {
             id: value
 
             Layout.fillWidth: true
+            color: Theme.text
             wrapMode: Text.Wrap
         }
     }

@@ -78,16 +78,25 @@ ZmInspectorPanel {
         title: qsTr("Flip")
         visible: root.sceneObjectAdapter.hasSelection
 
-        FlipButton {
-            text: qsTr("Flip Horizontally")
-            icon.name: "flip_horizontal"
-            onClicked: root.sceneObjectAdapter.mirrorHorizontal()
-        }
+        GridLayout {
+            columns: root.availableWidth < 380 ? 1 : 2
+            uniformCellWidths: true
+            columnSpacing: Theme.spaceM
+            rowSpacing: Theme.spaceS + Theme.spaceXS
 
-        FlipButton {
-            text: qsTr("Flip Vertically")
-            icon.name: "flip_vertical"
-            onClicked: root.sceneObjectAdapter.mirrorVertical()
+            ZmButton {
+                Layout.fillWidth: true
+                text: qsTr("Flip Horizontally")
+                icon.name: "flip_horizontal"
+                onClicked: root.sceneObjectAdapter.mirrorHorizontal()
+            }
+
+            ZmButton {
+                Layout.fillWidth: true
+                text: qsTr("Flip Vertically")
+                icon.name: "flip_vertical"
+                onClicked: root.sceneObjectAdapter.mirrorVertical()
+            }
         }
     }
 
@@ -171,9 +180,5 @@ ZmInspectorPanel {
         from: -89
         to: 89
         unit: qsTr("deg")
-    }
-
-    component FlipButton: ZmButton {
-        Layout.fillWidth: true
     }
 }

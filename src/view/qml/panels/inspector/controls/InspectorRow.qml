@@ -7,14 +7,12 @@ RowLayout {
     id: root
 
     property string label
-    // Rows below each other line up at any width of the inspector.
-    readonly property real labelWidth: Math.round(Math.min(Math.max(width * 0.36, 80), 120))
 
     Layout.fillWidth: true
     spacing: Theme.spaceM
 
     Label {
-        Layout.preferredWidth: root.labelWidth
+        Layout.preferredWidth: 92    // rows below each other line up
         Layout.alignment: Qt.AlignVCenter
         text: root.label
         color: Theme.mutedText

@@ -17,7 +17,6 @@ ColumnLayout {
 
     Rectangle {
         Layout.fillWidth: true
-        Layout.bottomMargin: Theme.spaceS
         implicitHeight: 1
         color: Theme.hairline
         visible: root.separated
@@ -25,11 +24,13 @@ ColumnLayout {
 
     RowLayout {
         Layout.fillWidth: true
+        Layout.minimumHeight: 26    // with tools or without
         spacing: 0
 
         Label {
             Layout.fillWidth: true
             text: root.title
+            color: Theme.text
             font.weight: Font.DemiBold
             elide: Text.ElideRight
             textFormat: Text.PlainText
@@ -37,6 +38,8 @@ ColumnLayout {
 
         Row {
             id: toolRow
+
+            Layout.rightMargin: -Theme.spaceS     // lines up what the buttons show
         }
     }
 }

@@ -22,10 +22,12 @@ MouseArea {
 
     readonly property real edge: Math.min(28, list.height / 4)   // where the list scrolls by itself
 
+    signal touched()
     signal rowPressed(int row)
     signal rowDoubleClicked(int row)
     signal menuRequested(int row, point position)
-    signal dropped(int row, int gap)
+    signal lifted(int row)
+    signal dropped(int gap)     // not for the gaps beside the dragged row itself
 
     function rowAt(y) {
         return y >= 0 && y < list.count * rowHeight ? Math.floor(y / rowHeight) : -1
@@ -51,6 +53,7 @@ MouseArea {
         updateTarget()
     }
 
+    parent: list.contentItem
     z: -1
     y: list.originY
     width: list.width
@@ -64,7 +67,7 @@ MouseArea {
         pressedRow = mouse.button === Qt.LeftButton ? row : -1
         pressY = mouse.y
         grabOffset = mouse.y - row * rowHeight
-        list.forceActiveFocus(Qt.MouseFocusReason)
+        touched()
         if (row >= 0)
             rowPressed(row)
         if (row >= 0 && mouse.button === Qt.RightButton)
@@ -73,17 +76,18 @@ MouseArea {
     onPositionChanged: mouse => {
         viewY = mouse.y + y - list.contentY
         if (!dragging && pressedRow >= 0 && list.count > 1
-                && Math.abs(mouse.y - pressY) >= Application.styleHints.startDragDistance)
+                && Math.abs(mouse.y - pressY) >= Application.styleHints.startDragDistance) {
+            lifted(pressedRow)
             draggedRow = pressedRow
+        }
         if (dragging)
             updateTarget()
     }
     onReleased: {
-        const row = draggedRow
         const gap = targetGap
         cancelDrag()
-        if (row >= 0 && gap >= 0)
-            dropped(row, gap)
+        if (gap >= 0)
+            dropped(gap)
     }
     onCanceled: cancelDrag()
     onDoubleClicked: mouse => {

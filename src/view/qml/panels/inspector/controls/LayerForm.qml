@@ -62,31 +62,15 @@ ColumnLayout {
             value: root.sceneObjectAdapter.opacity
             stepSize: 0.01
             Accessible.name: qsTr("Opacity")
-            onEditStarted: {
-                settle.stop()
-                root.sceneObjectAdapter.beginInspectorEdit()
-            }
+            onEditStarted: root.sceneObjectAdapter.beginInspectorEdit()
             onEditFinished: root.sceneObjectAdapter.endInspectorEdit()
-            onMoved: {
-                if (!pressed) {
-                    root.sceneObjectAdapter.beginInspectorEdit()
-                    settle.restart()
-                }
-                root.sceneObjectAdapter.opacity = Math.round(value * 100) / 100
-            }
-
-            // Keys in a row are one edit.
-            Timer {
-                id: settle
-
-                interval: 800
-                onTriggered: root.sceneObjectAdapter.endInspectorEdit()
-            }
+            onMoved: root.sceneObjectAdapter.opacity = Math.round(value * 100) / 100
         }
 
         Label {
             Layout.preferredWidth: percent.width
             horizontalAlignment: Text.AlignRight
+            color: Theme.text
             text: qsTr("%1%").arg(Math.round(root.sceneObjectAdapter.opacity * 100))
 
             TextMetrics {

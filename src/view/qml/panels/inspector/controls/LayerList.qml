@@ -14,8 +14,11 @@ ScrollView {
     readonly property SceneLayerListModel layers: sceneObjectAdapter.layerListModel
     readonly property alias count: list.count
     readonly property real rowHeight: 44
+    readonly property real endMargin: Theme.spaceM + (bar.visible ? bar.width - Theme.spaceXS : 0)
     property string renamingId
     property bool keyboardFocus: false
+    // What is dragged. Its row may be showing another layer meanwhile.
+    property var liftedLayer: null
 
     function idAt(row) {
         return layers.data(layers.index(row, 0), SceneLayerListModel.LayerIdRole)
@@ -26,11 +29,21 @@ ScrollView {
             sceneObjectAdapter.selectLayer(idAt(row))
     }
 
+    function showSelected() {
+        if (selection.row >= 0)
+            list.positionViewAtIndex(selection.row, ListView.Contain)
+    }
+
     function renameSelected() {
         if (selection.row < 0)
             return
-        list.positionViewAtIndex(selection.row, ListView.Contain)
+        showSelected()
         renamingId = idAt(selection.row)
+    }
+
+    function finishRename() {
+        if (renamingId)
+            list.itemAtIndex(selection.row)?.finishRename()
     }
 
     function openMenu(position) {
@@ -39,6 +52,8 @@ ScrollView {
     }
 
     function handleKey(event) {
+        if (renamingId)
+            return
         const moves = event.modifiers & (Qt.ControlModifier | Qt.AltModifier)
         switch (event.key) {
         case Qt.Key_Up:
@@ -76,9 +91,13 @@ ScrollView {
         keyboardFocus = true
     }
 
+    implicitWidth: 0
+    implicitHeight: 3 * rowHeight
     padding: 0
     ScrollBar.horizontal.policy: ScrollBar.AlwaysOff
     ScrollBar.vertical: ZmScrollBar {
+        id: bar
+
         parent: root
         x: root.width - width
         height: root.height
@@ -88,13 +107,10 @@ ScrollView {
         id: selection
 
         model: root.layers
-        onRowChanged: {
-            if (row >= 0 && !drag.pressed)
-                list.positionViewAtIndex(row, ListView.Contain)
-        }
+        onRowChanged: Qt.callLater(root.showSelected)
     }
 
-    ListView {
+    contentItem: ListView {
         id: list
 
         model: root.layers
@@ -102,6 +118,7 @@ ScrollView {
         focus: true
         activeFocusOnTab: true
         keyNavigationEnabled: false
+        currentIndex: -1     // the document knows what is selected
         reuseItems: true
         cacheBuffer: 4 * root.rowHeight
         boundsBehavior: Flickable.StopAtBounds
@@ -122,9 +139,11 @@ ScrollView {
 
             width: ListView.view.width
             height: root.rowHeight
+            endMargin: root.endMargin
             mergeAction: root.actions.mergeBelow
             keyboardFocus: root.keyboardFocus && selected
-            dimmed: drag.draggedRow === index
+            dimmed: drag.dragging && root.liftedLayer?.layerId === layerId
+            hoverable: !drag.dragging
             renaming: root.renamingId === layerId
             onHiddenRequested: hidden => root.sceneObjectAdapter.setLayerHidden(layerId, hidden)
             onSelectionRequested: root.sceneObjectAdapter.selectLayer(layerId)
@@ -143,21 +162,30 @@ ScrollView {
 
             list: list
             rowHeight: root.rowHeight
-            onRowPressed: row => {
+            onTouched: {
+                root.finishRename()
+                list.forceActiveFocus(Qt.MouseFocusReason)
                 root.keyboardFocus = false
-                root.selectRow(row)
             }
+            onRowPressed: row => root.selectRow(row)
             onRowDoubleClicked: root.renameSelected()
             onMenuRequested: (row, position) => root.openMenu(position)
-            onDropped: (row, gap) => root.sceneObjectAdapter.moveLayerToListIndex(root.idAt(row), gap)
+            onLifted: row => {
+                const item = list.itemAtIndex(row)
+                root.liftedLayer = { layerId: item.layerId, name: item.name, hidden: item.hidden,
+                    layerType: item.layerType, hasRasterSelection: item.hasRasterSelection,
+                    thumbnailSource: item.thumbnailSource }
+            }
+            onDropped: gap => root.sceneObjectAdapter.moveLayerToListIndex(root.liftedLayer.layerId, gap)
         }
 
         // Where the dragged layer lands.
         Rectangle {
+            parent: list.contentItem
             x: Theme.spaceM
             y: list.originY + Math.min(Math.max(drag.targetGap * root.rowHeight - 1, 0), list.contentHeight - height)
             z: 2
-            width: list.width - 2 * x
+            width: list.width - x - root.endMargin
             height: 2
             radius: 1
             color: Theme.accent
@@ -165,7 +193,7 @@ ScrollView {
         }
 
         Loader {
-            y: list.contentY + drag.liftedY
+            y: drag.liftedY
             z: 3
             width: list.width
             height: root.rowHeight
@@ -173,16 +201,15 @@ ScrollView {
             opacity: 0.9
 
             sourceComponent: LayerRow {
-                readonly property LayerRow origin: list.itemAtIndex(drag.draggedRow)
-
                 lifted: true
-                layerId: ""
+                endMargin: root.endMargin
                 selected: true
-                name: origin?.name ?? ""
-                hidden: origin?.hidden ?? false
-                layerType: origin?.layerType ?? "image"
-                hasRasterSelection: origin?.hasRasterSelection ?? false
-                thumbnailSource: origin?.thumbnailSource ?? ""
+                layerId: root.liftedLayer.layerId
+                name: root.liftedLayer.name
+                hidden: root.liftedLayer.hidden
+                layerType: root.liftedLayer.layerType
+                hasRasterSelection: root.liftedLayer.hasRasterSelection
+                thumbnailSource: root.liftedLayer.thumbnailSource
             }
         }
     }

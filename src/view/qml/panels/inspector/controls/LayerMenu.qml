@@ -1,5 +1,4 @@
 import QtQuick
-import QtQuick.Controls
 
 // The context menu of a layer.
 ZmMenu {
@@ -12,9 +11,9 @@ ZmMenu {
     ZmMenuItem { action: root.actions.showHide }
 
     ZmMenuItem {
-        action: Action {
-            text: qsTr("Rename…")
-            shortcut: ""
+        action: ZmAction {
+            text: qsTr("Rename")
+            toolKey: "F2"
             onTriggered: root.renameRequested()
         }
     }

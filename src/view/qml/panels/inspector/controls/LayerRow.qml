@@ -19,7 +19,9 @@ Item {
     // The row that follows the pointer while a layer is dragged, and the one that it left.
     property bool lifted: false
     property bool dimmed: false
+    property bool hoverable: true
     property Action mergeAction: null
+    property real endMargin: Theme.spaceM     // more beside a scroll bar
 
     readonly property var typeIcons: ({ text: "tab_text_layer", shape: "tab_shape_layer", object: "tab_layers" })
     readonly property bool hovered: hover.hovered
@@ -28,6 +30,10 @@ Item {
     signal renameRequested(string name)
     signal renameEnded()
     signal selectionRequested()
+
+    function finishRename() {
+        renameField.item?.finish(true)
+    }
 
     implicitHeight: 44
     opacity: dimmed ? Theme.disabledOpacity : 1
@@ -40,12 +46,13 @@ Item {
 
     HoverHandler {
         id: hover
+        enabled: root.hoverable
     }
 
     PopupSurface {
         anchors.fill: parent
         anchors.leftMargin: Theme.spaceS
-        anchors.rightMargin: Theme.spaceS
+        anchors.rightMargin: root.endMargin - Theme.spaceS
         visible: root.lifted
     }
 
@@ -54,7 +61,7 @@ Item {
         anchors.topMargin: 1
         anchors.bottomMargin: 1
         anchors.leftMargin: Theme.spaceS
-        anchors.rightMargin: Theme.spaceS
+        anchors.rightMargin: root.endMargin - Theme.spaceS
         radius: Theme.radius
         color: root.selected ? Theme.accentSoft : root.hovered ? Theme.hoverFill : "transparent"
         border.width: root.keyboardFocus ? Theme.focusWidth : 0
@@ -64,7 +71,7 @@ Item {
     RowLayout {
         anchors.fill: parent
         anchors.leftMargin: Theme.spaceM
-        anchors.rightMargin: Theme.spaceM
+        anchors.rightMargin: root.endMargin
         spacing: Theme.spaceS
 
         ZmIconButton {
@@ -115,6 +122,8 @@ Item {
         }
 
         Loader {
+            id: renameField
+
             Layout.fillWidth: true
             active: root.renaming
             visible: active
@@ -122,7 +131,10 @@ Item {
             sourceComponent: RenameField {
                 name: root.name
                 onCommitted: name => root.renameRequested(name)
-                onEnded: root.renameEnded()
+                onEnded: {
+                    renameField.focus = false    // or the list would give the keyboard back to it
+                    root.renameEnded()
+                }
             }
         }
 
@@ -147,7 +159,7 @@ Item {
 
         TintedIcon {
             name: "drag_handle"
-            color: Theme.mutedText
+            tint: Theme.mutedText
             opacity: root.hovered || root.selected ? 1 : 0.45
 
             HoverHandler {

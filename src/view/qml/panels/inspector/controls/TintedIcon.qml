@@ -3,14 +3,12 @@ import QtQuick.Controls.impl
 
 // An icon of the theme that is no button.
 IconLabel {
-    id: root
-
     property real size: Theme.iconSize
     property string name
+    property color tint: Theme.text
 
     icon.name: name
     icon.width: size
     icon.height: size
-    icon.color: color
-    color: Theme.text
+    icon.color: tint
 }

@@ -10,7 +10,7 @@ ScrollView {
 
     padding: 0
     contentWidth: availableWidth
-    contentHeight: column.implicitHeight + 2 * Theme.spaceL
+    contentHeight: Math.max(column.implicitHeight + 2 * Theme.spaceL, availableHeight)
     ScrollBar.horizontal.policy: ScrollBar.AlwaysOff
     ScrollBar.vertical: ZmScrollBar {
         parent: root
@@ -18,7 +18,7 @@ ScrollView {
         height: root.height
     }
 
-    Flickable {
+    contentItem: Flickable {
         boundsBehavior: Flickable.StopAtBounds
 
         // A press beside the fields ends the edit of a field.
