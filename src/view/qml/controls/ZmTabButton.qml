@@ -5,6 +5,8 @@ import QtQuick.Controls
 TabButton {
     id: root
 
+    readonly property color textColor: checked ? Theme.text : Theme.mutedText
+
     implicitHeight: 48
     padding: 0
     topPadding: Theme.spaceS
@@ -15,8 +17,8 @@ TabButton {
     icon.width: Theme.toolIconSize
     icon.height: Theme.toolIconSize
     icon.color: checked ? Theme.accent : Theme.text
-    palette.windowText: checked ? Theme.text : Theme.mutedText
-    palette.buttonText: palette.windowText
+    palette.windowText: textColor
+    palette.buttonText: textColor
     Accessible.name: text
 
     background: Rectangle {
