@@ -4,15 +4,30 @@
 
 namespace zm {
 
+namespace {
+
+/// The part that an id such as "7/0,1024,512,512" names: left, top, width, height. Without a part, all of it.
+QImage partOf(const QImage &image, const QString &id)
+{
+    const QStringList numbers = id.section(u'/', 1).split(u',');
+    if (numbers.size() != 4)
+        return image;
+    const QRect part(numbers.at(0).toInt(), numbers.at(1).toInt(), numbers.at(2).toInt(), numbers.at(3).toInt());
+    const QRect inside = part & image.rect();
+    return inside.isEmpty() ? QImage() : image.copy(inside);
+}
+
+} // namespace
+
 ExportPreviewImageProvider::ExportPreviewImageProvider(std::shared_ptr<const ExportPreviewImageStore> store)
     : QQuickImageProvider(QQuickImageProvider::Image)
     , m_store(std::move(store))
 {
 }
 
-QImage ExportPreviewImageProvider::requestImage(const QString &, QSize *size, const QSize &requestedSize)
+QImage ExportPreviewImageProvider::requestImage(const QString &id, QSize *size, const QSize &requestedSize)
 {
-    const QImage image = m_store->image();
+    const QImage image = partOf(m_store->image(), id);
     if (size)
         *size = image.size();
     if (image.isNull() || requestedSize.isEmpty())

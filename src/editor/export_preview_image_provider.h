@@ -8,8 +8,9 @@ namespace zm {
 
 class ExportPreviewImageStore;
 
-/// Gives the interface the picture of the export preview, whatever the id: the number in an address only makes it a new
-/// one for every preview. Asked from any thread.
+/// Gives the interface the picture of the export preview. The number in an address only makes it a new one for every
+/// preview; a rectangle in pixels may follow, as in "image://export-preview/7/0,1024,512,512", and asks for that part.
+/// Asked from any thread.
 class ExportPreviewImageProvider : public QQuickImageProvider
 {
 public:

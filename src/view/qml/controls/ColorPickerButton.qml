@@ -32,7 +32,8 @@ AbstractButton {
     function openDialog() {
         if (dialogOpen)
             return
-        dialog ??= dialogComponent.createObject(root)
+        if (!dialog)
+            dialog = dialogComponent.createObject(root)
         dialogInitialColor = currentColor
         lastReportedColor = currentColor
         dialog.selectedColor = currentColor

@@ -13,6 +13,7 @@ ZmTextField {
     property int decimals: 0
     property string unit
     property string unitToolTip
+    property bool typing: false     // the text is not the value's any more, and not yet taken over
 
     signal edited(real value)
     signal editStarted()
@@ -36,12 +37,13 @@ ZmTextField {
     }
 
     function showValue() {
+        typing = false
         text = shown(value)
     }
 
     function commit() {
         const number = parsed(text)
-        if (number !== undefined && shown(number) !== shown(value))
+        if (typing && number !== undefined && shown(number) !== shown(value))
             edited(number)
         showValue()
     }
@@ -69,9 +71,13 @@ ZmTextField {
     Accessible.role: Accessible.SpinBox
     Accessible.description: unit
 
+    onTextEdited: typing = true
     onValueChanged: {
-        if (!activeFocus || stepping.running)
-            showValue()
+        if (typing && activeFocus && !stepping.running)
+            return
+        showValue()
+        if (activeFocus)
+            selectAll()
     }
     onDecimalsChanged: showValue()
     Component.onCompleted: showValue()

@@ -44,6 +44,8 @@ QtObject {
     readonly property color accent: palette.highlight
     readonly property color accentText: palette.highlightedText
     readonly property color accentSoft: Qt.alpha(palette.highlight, dark ? 0.34 : 0.2)
+    readonly property color link: palette.link ?? accent
+    readonly property color danger: dark ? "#ff8a80" : "#b3261e"
     readonly property color shadow: Qt.alpha("black", dark ? 0.5 : 0.22)
     readonly property real disabledOpacity: 0.4
 

@@ -1,14 +1,38 @@
 import QtQuick
 import QtQuick.Controls
+import QtQuick.Templates as T // what all buttons and lists are, whatever the style
 
-// A modal dialog in the middle of the window. Return presses the button that has the focus, or else accepts; Escape
-// rejects. The buttons stand in `footer`, by default those of `standardButtons`.
+// A modal dialog in the middle of the window. Return presses the button that has the focus, or else `defaultButton`, or
+// else accepts; Escape rejects. The buttons stand in `footer`, by default those of `standardButtons`.
 Dialog {
     id: root
+
+    property T.AbstractButton defaultButton: null
+    property bool returnAccepts: true
+    readonly property Item focused: contentItem.Window.activeFocusItem
+    readonly property bool listOpen: focused instanceof T.ComboBox && focused.popup.visible
+
+    function pressReturn() {
+        if (focused instanceof T.AbstractButton && !focused.checkable) {
+            focused.click()
+            return
+        }
+        // A field that is being typed into takes its text over as it loses the focus.
+        if (focused instanceof T.TextField) {
+            const field = focused
+            contentItem.forceActiveFocus()
+            field.forceActiveFocus()
+        }
+        if (!defaultButton)
+            accept()
+        else if (defaultButton.enabled)
+            defaultButton.clicked()     // click() would take the focus along
+    }
 
     anchors.centerIn: Overlay.overlay
     modal: true
     focus: true
+    closePolicy: Popup.CloseOnEscape
     padding: Theme.spaceXXL - Theme.spaceS
     topPadding: Theme.spaceM
     bottomPadding: Theme.spaceXL
@@ -43,13 +67,7 @@ Dialog {
 
     Shortcut {
         sequences: ["Return", "Enter"]
-        enabled: root.visible
-        onActivated: {
-            const focused = root.contentItem.Window.activeFocusItem
-            if (focused instanceof AbstractButton)
-                focused.click()
-            else
-                root.accept()
-        }
+        enabled: root.visible && root.returnAccepts && !root.listOpen
+        onActivated: root.pressReturn()
     }
 }

@@ -16,8 +16,7 @@ DialogButtonBox {
     spacing: Theme.spaceM
     alignment: Qt.AlignRight
     background: null
-    delegate: ZmButton {
-        implicitWidth: Math.max(84, implicitContentWidth + leftPadding + rightPadding)
+    delegate: ZmDialogButton {
         highlighted: DialogButtonBox.buttonRole === DialogButtonBox.AcceptRole
     }
 }

@@ -1,20 +1,64 @@
 import QtQuick
 import QtQuick.Controls
 
-// Tells why a picture or a document could not be opened.
-ZmDialog {
+// Tells why a picture or a document could not be opened, and where to get what was missing.
+ZmMessageDialog {
     id: root
 
-    property string message
+    property bool showHeifInstallHelp: false
+    property string platform: Qt.platform.os
+    readonly property string heifImageExtensionsId: "9PMMSR1CGPWG"
+    readonly property string hevcVideoExtensionsId: "9NMZLZ57R3T7"
 
-    width: Math.min(440, (parent?.width ?? 440) - 48)
-    standardButtons: Dialog.Ok
+    function openStorePage(productId) {
+        Qt.openUrlExternally("ms-windows-store://pdp/?ProductId=" + productId)
+    }
 
-    contentItem: Label {
-        text: root.message
-        textFormat: Text.PlainText
+    iconName: "warning"
+    iconColor: Theme.danger
+    defaultButton: okButton
+    onOpened: okButton.forceActiveFocus()
+
+    footer: ZmDialogButtons {
+        dialog: root
+
+        ZmDialogButton {
+            id: okButton
+
+            text: qsTr("OK")
+            highlighted: true
+            DialogButtonBox.buttonRole: DialogButtonBox.AcceptRole
+        }
+    }
+
+    Binding on title {
+        value: qsTr("HEIC/HEIF Support Is Unavailable")
+        when: root.showHeifInstallHelp
+    }
+
+    Label {
+        width: parent.width
+        visible: root.showHeifInstallHelp && root.platform !== "windows"
+        topPadding: Theme.spaceM
+        text: qsTr("Install the package kimageformat6-plugins, which gives Qt a HEIF reader, and start Zelmora Atelier again.")
         wrapMode: Text.Wrap
-        Accessible.role: Accessible.AlertMessage
-        Accessible.name: text
+        textFormat: Text.PlainText
+    }
+
+    Flow {
+        width: parent.width
+        visible: root.showHeifInstallHelp && root.platform === "windows"
+        topPadding: Theme.spaceL
+        spacing: Theme.spaceM
+
+        ZmButton {
+            text: qsTr("HEIF Image Extensions")
+            onClicked: root.openStorePage(root.heifImageExtensionsId)
+        }
+
+        ZmButton {
+            text: qsTr("HEVC Video Extensions")
+            onClicked: root.openStorePage(root.hevcVideoExtensionsId)
+        }
     }
 }
