@@ -110,16 +110,16 @@ ApplicationWindow {
     // --- New and open ---
 
     function requestNewDocument() {
-        requestUnsavedAction(newDocumentPendingUnsavedAction, UnsavedChangesDialog.CreateDocument, "", "")
+        requestUnsavedAction(newDocumentPendingUnsavedAction, dialogs.unsavedChangesDialog.createDocumentAction, "", "")
     }
 
     function requestOpenDocument() {
-        requestUnsavedAction(openDocumentPendingUnsavedAction, UnsavedChangesDialog.OpenDocument, "", "")
+        requestUnsavedAction(openDocumentPendingUnsavedAction, dialogs.unsavedChangesDialog.openDocumentAction, "", "")
     }
 
     function requestOpenRecent(path) {
         canvas.commitTextEditing()
-        requestUnsavedAction(openRecentPendingUnsavedAction, UnsavedChangesDialog.OpenDocument, path, "")
+        requestUnsavedAction(openRecentPendingUnsavedAction, dialogs.unsavedChangesDialog.openDocumentAction, path, "")
     }
 
     function requestOpenFile(url, applicationRequest) {
@@ -127,7 +127,7 @@ ApplicationWindow {
             return
         canvas.commitTextEditing()
         requestUnsavedAction(applicationRequest ? applicationFileOpenPendingUnsavedAction : openFilePendingUnsavedAction,
-                             UnsavedChangesDialog.OpenDocument, "", url)
+                             dialogs.unsavedChangesDialog.openDocumentAction, "", url)
     }
 
     function loadDocumentFile(url) {
@@ -357,7 +357,7 @@ ApplicationWindow {
         if (closeConfirmed || commandHistory.clean)
             return
         close.accepted = false
-        requestUnsavedAction(closePendingUnsavedAction, UnsavedChangesDialog.ExitApplication, "", "")
+        requestUnsavedAction(closePendingUnsavedAction, dialogs.unsavedChangesDialog.exitApplicationAction, "", "")
     }
 
     Connections {
@@ -515,7 +515,7 @@ ApplicationWindow {
             SplitView.maximumWidth: 440
             positionedOnLeft: applicationSettings.inspectorPosition === 0
             documentAdapter: documentPropertiesAdapter
-            objectAdapter: sceneObjectAdapter
+            sceneObjectAdapter: actionContext.sceneAdapter
             layerPixelSize: scenePresentationModel.selectedLayerPixelSize
             showHideLayerAction: actions.layer.toggleVisibility
             cutLayerAction: actions.edit.cut

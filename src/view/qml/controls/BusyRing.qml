@@ -6,6 +6,7 @@ Item {
 
     property bool running: false
     property bool shown: false
+    property real strokeWidth: 3
 
     implicitWidth: ring.implicitWidth
     implicitHeight: ring.implicitHeight
@@ -28,5 +29,6 @@ Item {
 
         anchors.fill: parent
         turning: root.visible
+        strokeWidth: root.strokeWidth
     }
 }

@@ -6,6 +6,7 @@ Shape {
     id: root
 
     property bool turning: true
+    property real strokeWidth: 3
 
     implicitWidth: 28
     implicitHeight: 28
@@ -13,7 +14,7 @@ Shape {
 
     ShapePath {
         strokeColor: Theme.accent
-        strokeWidth: 3
+        strokeWidth: root.strokeWidth
         fillColor: "transparent"
         capStyle: ShapePath.RoundCap
         PathAngleArc {

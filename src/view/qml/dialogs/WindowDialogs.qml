@@ -170,8 +170,9 @@ Item {
 
         host: root
         component: AboutDialog {
-            applicationInfo: root.applicationInfo
-            notices: root.notices
+            applicationInfoController: root.applicationInfo
+            noticeCatalogModel: root.notices
+            webSite: root.applicationInfo.webSiteUrl
         }
     }
 
@@ -180,7 +181,7 @@ Item {
 
         host: root
         component: ExportDialog {
-            exportController: root.exporter
+            controller: root.exporter
             onSaveRequested: root.openExportFileDialog()
             onSaveSetupCanceled: root.exportCanceled()
         }
