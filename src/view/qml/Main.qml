@@ -27,7 +27,7 @@ ApplicationWindow {
     property bool applicationFileOpenActive: false
     property bool applicationFileOpenErrorPending: false
     property url activeApplicationFileOpenUrl
-    readonly property bool applicationFileOpenUiBlocked: dialogs.anyVisible
+    readonly property bool applicationFileOpenUiBlocked: windowDialogs.anyVisible
 
     // The whole document is in view and stays so while the window changes its size, until the view is moved.
     property bool viewFitted: false
@@ -54,7 +54,7 @@ ApplicationWindow {
         pendingUnsavedAction = action
         pendingRecentFilePath = recentFilePath
         pendingOpenFileUrl = openFileUrl
-        dialogs.unsavedChangesDialog.showForAction(dialogAction)
+        windowDialogs.unsavedChangesDialog.showForAction(dialogAction)
     }
 
     function executeUnsavedAction(action, recentFilePath, openFileUrl) {
@@ -63,10 +63,10 @@ ApplicationWindow {
             Qt.callLater(closeConfirmedWindow)
             break
         case newDocumentPendingUnsavedAction:
-            Qt.callLater(dialogs.resetBoardDialog.open)
+            Qt.callLater(windowDialogs.resetBoardDialog.open)
             break
         case openDocumentPendingUnsavedAction:
-            Qt.callLater(dialogs.documentOpenDialog.open)
+            Qt.callLater(windowDialogs.documentOpenDialog.open)
             break
         case openRecentPendingUnsavedAction:
             Qt.callLater(loadRecentDocument, recentFilePath)
@@ -110,24 +110,24 @@ ApplicationWindow {
     // --- New and open ---
 
     function requestNewDocument() {
-        requestUnsavedAction(newDocumentPendingUnsavedAction, dialogs.unsavedChangesDialog.createDocumentAction, "", "")
+        requestUnsavedAction(newDocumentPendingUnsavedAction, windowDialogs.unsavedChangesDialog.createDocumentAction, "", "")
     }
 
     function requestOpenDocument() {
-        requestUnsavedAction(openDocumentPendingUnsavedAction, dialogs.unsavedChangesDialog.openDocumentAction, "", "")
+        requestUnsavedAction(openDocumentPendingUnsavedAction, windowDialogs.unsavedChangesDialog.openDocumentAction, "", "")
     }
 
     function requestOpenRecent(path) {
         canvas.commitTextEditing()
-        requestUnsavedAction(openRecentPendingUnsavedAction, dialogs.unsavedChangesDialog.openDocumentAction, path, "")
+        requestUnsavedAction(openRecentPendingUnsavedAction, windowDialogs.unsavedChangesDialog.openDocumentAction, path, "")
     }
 
     function requestOpenFile(url, applicationRequest) {
-        if ((applicationFileOpenActive && !applicationRequest) || actions.file.saveInProgress)
+        if ((applicationFileOpenActive && !applicationRequest) || windowActions.file.saveInProgress)
             return
         canvas.commitTextEditing()
         requestUnsavedAction(applicationRequest ? applicationFileOpenPendingUnsavedAction : openFilePendingUnsavedAction,
-                             dialogs.unsavedChangesDialog.openDocumentAction, "", url)
+                             windowDialogs.unsavedChangesDialog.openDocumentAction, "", url)
     }
 
     function loadDocumentFile(url) {
@@ -139,7 +139,7 @@ ApplicationWindow {
                     finishApplicationFileOpenRequest()
             } else {
                 applicationFileOpenErrorPending = requested
-                dialogs.documentFileErrorDialog.open()
+                windowDialogs.documentFileErrorDialog.open()
             }
         })
     }
@@ -148,7 +148,7 @@ ApplicationWindow {
     function loadChosenFile(url) {
         busyCover.during(() => {
             if (!documentFileController.load(url))
-                dialogs.documentFileErrorDialog.open()
+                windowDialogs.documentFileErrorDialog.open()
             else if (!documentFileController.hasDocumentUrl)
                 applicationSettings.rememberImageImportFolder(url)
             fitLoadedDocumentToView()
@@ -161,7 +161,7 @@ ApplicationWindow {
                 fitLoadedDocumentToView()
             } else {
                 applicationSettings.removeRecentFile(path)
-                dialogs.documentFileErrorDialog.open()
+                windowDialogs.documentFileErrorDialog.open()
             }
         })
     }
@@ -199,7 +199,7 @@ ApplicationWindow {
     // --- Saving ---
 
     function finishSave(imageUrl) {
-        dialogs.saveProgressDialog.close()
+        windowDialogs.saveProgressDialog.close()
         if (pendingUnsavedAction !== noPendingUnsavedAction && commandHistory.clean) {
             continuePendingUnsavedAction()
             return
@@ -213,7 +213,7 @@ ApplicationWindow {
         if (exportController.exportTo(url)) {
             applicationSettings.rememberExportFolder(url)
         } else {
-            dialogs.exportErrorDialog.open()
+            windowDialogs.exportErrorDialog.open()
             abandonPendingUnsavedAction()
         }
     }
@@ -238,7 +238,7 @@ ApplicationWindow {
             if (editorController.addImage(url))
                 applicationSettings.rememberImageImportFolder(url)
             else
-                dialogs.imageLoadErrorDialog.open()
+                windowDialogs.imageLoadErrorDialog.open()
             actionContext.activateSelectionMode()
         })
     }
@@ -260,7 +260,7 @@ ApplicationWindow {
                 return !added
             })
             if (failed >= 0)
-                dialogs.imageLoadErrorDialog.open()
+                windowDialogs.imageLoadErrorDialog.open()
             if (failed !== 0 && urls.length > 0)
                 actionContext.activateSelectionMode()
         })
@@ -310,7 +310,7 @@ ApplicationWindow {
 
     function chooseLanguage(language) {
         if (language !== applicationSettings.language)
-            dialogs.languageRestartDialog.openAfterLanguageSwitch()
+            windowDialogs.languageRestartDialog.openAfterLanguageSwitch()
         applicationSettings.language = language
     }
 
@@ -346,7 +346,7 @@ ApplicationWindow {
     }
 
     onClosing: close => {
-        if (actions.file.saveInProgress) {
+        if (windowActions.file.saveInProgress) {
             close.accepted = false
             Toast.show(qsTr("Please wait for the current save to finish."), { durationMs: 2500 })
             return
@@ -357,7 +357,7 @@ ApplicationWindow {
         if (closeConfirmed || commandHistory.clean)
             return
         close.accepted = false
-        requestUnsavedAction(closePendingUnsavedAction, dialogs.unsavedChangesDialog.exitApplicationAction, "", "")
+        requestUnsavedAction(closePendingUnsavedAction, windowDialogs.unsavedChangesDialog.exitApplicationAction, "", "")
     }
 
     Connections {
@@ -384,8 +384,8 @@ ApplicationWindow {
         }
 
         function onSessionSaveFailed() {
-            dialogs.saveProgressDialog.close()
-            dialogs.exportErrorDialog.open()
+            windowDialogs.saveProgressDialog.close()
+            windowDialogs.exportErrorDialog.open()
             window.abandonPendingUnsavedAction()
         }
     }
@@ -395,14 +395,21 @@ ApplicationWindow {
 
         function onSceneObjectAdded(focusBounds, fitViewToBounds) {
             canvas.handleSceneObjectAdded(focusBounds, fitViewToBounds)
-            if (!actions.tools.pathEdit.active)
+            if (!windowActions.tools.pathEdit.active)
                 inspector.activateInfoTab()
         }
     }
 
     Binding {
-        editorController.addLayerViewportRect: canvas.addLayerViewportRect
-        editorController.viewScale: canvas.zoom
+        target: editorController
+        property: "addLayerViewportRect"
+        value: canvas.addLayerViewportRect
+    }
+
+    Binding {
+        target: editorController
+        property: "viewScale"
+        value: canvas.zoom
     }
 
     ActionContext {
@@ -410,7 +417,7 @@ ApplicationWindow {
 
         window: window
         canvas: canvas
-        dialogs: dialogs
+        dialogs: windowDialogs
         forDevelopers: debugBuild
         webSiteUrl: applicationInfoController.webSiteUrl
         settings: applicationSettings
@@ -423,7 +430,7 @@ ApplicationWindow {
     }
 
     WindowActions {
-        id: actions
+        id: windowActions
 
         context: actionContext
         file.onSaveFailed: window.abandonPendingUnsavedAction()
@@ -431,11 +438,11 @@ ApplicationWindow {
 
     menuBar: MainMenuBar {
         context: actionContext
-        actions: actions
+        actions: windowActions
     }
 
     header: MainToolBar {
-        actions: actions
+        actions: windowActions
     }
 
     SplitView {
@@ -463,7 +470,7 @@ ApplicationWindow {
 
                 ToolRail {
                     Layout.fillHeight: true
-                    actions: actions
+                    actions: windowActions
                     positionedOnRight: applicationSettings.inspectorPosition === 0
                 }
 
@@ -478,12 +485,12 @@ ApplicationWindow {
                     documentBoundsVisible: applicationSettings.documentBoundsVisible
                     rulersVisible: applicationSettings.rulerPlacement !== 0
                     rulersAtBottomRight: applicationSettings.rulerPlacement === 2
-                    cutAction: actions.edit.cut
-                    copyAction: actions.edit.copy
-                    pasteAction: actions.edit.paste
-                    removeLayerAction: actions.layer.removeLayer
-                    clearRasterSelectionAction: actions.selection.clearRaster
-                    invertRasterSelectionAction: actions.selection.invertRaster
+                    cutAction: windowActions.edit.cut
+                    copyAction: windowActions.edit.copy
+                    pasteAction: windowActions.edit.paste
+                    removeLayerAction: windowActions.layers.removeLayer
+                    clearRasterSelectionAction: windowActions.selection.clearRaster
+                    invertRasterSelectionAction: windowActions.selection.invertRaster
                     onFilesDropped: fileUrls => window.handleDroppedFiles(fileUrls)
                     onZoomChanged: window.forgetFit()
                     onBoardCenterChanged: window.forgetFit()
@@ -517,20 +524,20 @@ ApplicationWindow {
             documentAdapter: documentPropertiesAdapter
             sceneObjectAdapter: actionContext.sceneAdapter
             layerPixelSize: scenePresentationModel.selectedLayerPixelSize
-            showHideLayerAction: actions.layer.toggleVisibility
-            cutLayerAction: actions.edit.cut
-            copyLayerAction: actions.edit.copy
-            pasteLayerAction: actions.edit.paste
-            moveLayerUpAction: actions.layer.moveUp
-            moveLayerDownAction: actions.layer.moveDown
-            rasterizeLayerAction: actions.layer.rasterize
-            mergeLayerBelowAction: actions.layer.collapseDown
-            removeLayerAction: actions.layer.removeLayer
+            showHideLayerAction: windowActions.layers.toggleVisibility
+            cutLayerAction: windowActions.edit.cut
+            copyLayerAction: windowActions.edit.copy
+            pasteLayerAction: windowActions.edit.paste
+            moveLayerUpAction: windowActions.layers.moveUp
+            moveLayerDownAction: windowActions.layers.moveDown
+            rasterizeLayerAction: windowActions.layers.rasterize
+            mergeLayerBelowAction: windowActions.layers.collapseDown
+            removeLayerAction: windowActions.layers.removeLayer
         }
     }
 
     WindowDialogs {
-        id: dialogs
+        id: windowDialogs
 
         files: documentFileController
         editor: editorController
@@ -551,7 +558,7 @@ ApplicationWindow {
             window.fitLoadedDocumentToView()
             canvas.forceCanvasFocus()
         }
-        onSaveRequested: actions.file.saveDocument.trigger()
+        onSaveRequested: windowActions.file.saveDocument.trigger()
         onContinueRequested: window.continuePendingUnsavedAction()
         onUnsavedQuestionDismissed: window.abandonPendingUnsavedAction()
     }

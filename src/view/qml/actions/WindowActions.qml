@@ -8,7 +8,7 @@ Item {
 
     readonly property FileActions file: FileActions { context: root.context }
     readonly property EditActions edit: EditActions { context: root.context }
-    readonly property LayerActions layer: LayerActions { context: root.context }
+    readonly property LayerActions layers: LayerActions { context: root.context }
     readonly property ToolModeActions tools: ToolModeActions { context: root.context }
     readonly property SelectionActions selection: SelectionActions { context: root.context }
     readonly property ViewActions view: ViewActions { context: root.context }
@@ -26,7 +26,7 @@ Item {
         model: [root.tools.selection, root.tools.draw, root.tools.eraser, root.tools.cloneStamp,
                 root.tools.exposureBrush, root.tools.pathEdit, root.tools.crop, root.tools.skew,
                 root.selection.rectangle, root.selection.ellipse, root.selection.magicWand, root.selection.polygon,
-                root.tools.fillSelection, root.layer.addText, root.layer.addShape]
+                root.tools.fillSelection, root.layers.addText, root.layers.addShape]
         delegate: Shortcut {
             required property ZmAction modelData
 

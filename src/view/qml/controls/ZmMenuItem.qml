@@ -1,5 +1,6 @@
 import QtQuick
 import QtQuick.Controls
+import ZelmoraAtelier
 
 // An entry of a menu: check mark or icon, text, and the keys of its action on the right.
 MenuItem {
@@ -79,13 +80,8 @@ MenuItem {
         anchors.right: parent.right
         anchors.rightMargin: Theme.spaceL
         anchors.verticalCenter: parent.verticalCenter
-        text: spelled.spelling
+        text: root.action?.toolKey || KeySpelling.spelled(root.action?.shortcut)
         color: root.textColor
         opacity: 0.65
-    }
-
-    ZmKeys {
-        id: spelled
-        action: root.action
     }
 }

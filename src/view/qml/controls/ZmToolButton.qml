@@ -1,5 +1,6 @@
 import QtQuick
 import QtQuick.Controls
+import ZelmoraAtelier
 
 // A flat button for bars: shows its frame only under the pointer, when pressed, or with the keyboard's focus. Takes
 // icon, text, tool tip and keys from its action.
@@ -7,6 +8,7 @@ ToolButton {
     id: root
 
     property string toolTip: (action?.toolTip || action?.plainText) ?? ""
+    readonly property string keys: action?.toolKey || KeySpelling.spelled(action?.shortcut)
     readonly property color inkColor: checked ? (Theme.dark ? Qt.lighter(Theme.accent, 1.35) : Qt.darker(Theme.accent, 1.25))
                                               : Theme.text
 
@@ -27,12 +29,7 @@ ToolButton {
 
     ZmToolTip {
         visible: root.hovered && !root.down && text
-        text: root.toolTip ? Theme.withKeys(root.toolTip, keys.spelling) : ""
-    }
-
-    ZmKeys {
-        id: keys
-        action: root.action
+        text: root.toolTip ? Theme.withKeys(root.toolTip, root.keys) : ""
     }
 
     background: Rectangle {

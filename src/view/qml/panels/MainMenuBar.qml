@@ -105,31 +105,31 @@ ZmMenuBar {
             title: qsTr("&Insert")
 
             ZmMenuItem {
-                action: root.actions.layer.addImage
+                action: root.actions.layers.addImage
                 text: qsTr("&Image…")
             }
             ZmMenuItem {
-                action: root.actions.layer.addText
+                action: root.actions.layers.addText
                 text: qsTr("&Text")
             }
             ZmMenuItem {
-                action: root.actions.layer.addShape
+                action: root.actions.layers.addShape
                 text: qsTr("&Shape…")
             }
         }
 
-        ZmMenuItem { action: root.actions.layer.addPaintLayer }
+        ZmMenuItem { action: root.actions.layers.addPaintLayer }
         ZmMenuSeparator {}
-        ZmMenuItem { action: root.actions.layer.removeLayer }
+        ZmMenuItem { action: root.actions.layers.removeLayer }
         ZmMenuSeparator {}
         ZmMenuItem { action: root.actions.tools.crop }
         ZmMenuItem { action: root.actions.tools.skew }
         ZmMenuSeparator {}
-        ZmMenuItem { action: root.actions.layer.moveUp }
-        ZmMenuItem { action: root.actions.layer.moveDown }
+        ZmMenuItem { action: root.actions.layers.moveUp }
+        ZmMenuItem { action: root.actions.layers.moveDown }
         ZmMenuSeparator {}
-        ZmMenuItem { action: root.actions.layer.rasterize }
-        ZmMenuItem { action: root.actions.layer.collapseDown }
+        ZmMenuItem { action: root.actions.layers.rasterize }
+        ZmMenuItem { action: root.actions.layers.collapseDown }
     }
 
     ZmMenu {
@@ -145,7 +145,7 @@ ZmMenuBar {
         active: root.context.forDevelopers
         delegate: DebugMenu {
             context: root.context
-            addExampleImage: root.actions.layer.addExampleImage
+            addExampleImage: root.actions.layers.addExampleImage
         }
         onObjectAdded: (index, menu) => root.insertMenu(root.count - 1, menu)
         onObjectRemoved: (index, menu) => root.removeMenu(menu)

@@ -56,12 +56,12 @@ Pane {
             text: qsTr("Insert:")
             color: Theme.mutedText
         }
-        ZmToolButton { action: root.actions.layer.addImage }
-        ZmToolButton { action: root.actions.layer.addText }
-        ZmToolButton { action: root.actions.layer.addShape }
+        ZmToolButton { action: root.actions.layers.addImage }
+        ZmToolButton { action: root.actions.layers.addText }
+        ZmToolButton { action: root.actions.layers.addShape }
         ZmToolSeparator {}
-        ZmIconButton { action: root.actions.layer.moveUp }
-        ZmIconButton { action: root.actions.layer.moveDown }
+        ZmIconButton { action: root.actions.layers.moveUp }
+        ZmIconButton { action: root.actions.layers.moveDown }
         Item { Layout.fillWidth: true }
     }
 }
