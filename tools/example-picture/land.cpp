@@ -102,7 +102,7 @@ void paintSlope(Scene &scene, const Slope &slope)
     const double to = std::max(slope.left, slope.right);
     QPainterPath ground;
     ground.moveTo(from, slope.waterline);
-    for (double x = from; x <= to; x += 2.0)
+    for (int x = int(from); x <= int(to); x += 2)
         ground.lineTo(x, slopeTop(slope, x));
     ground.lineTo(to, slope.waterline);
     painter.fillPath(ground, QColor(26, 36, 26));
@@ -145,8 +145,11 @@ void drawRows(QPainter &painter, Random &random, const QPolygonF &outline, const
     painter.save();
     painter.setClipPath(clip, Qt::IntersectClip);
     const QRectF box = outline.boundingRect();
-    for (double y = box.top(); y < box.bottom(); y += step) {
-        for (double x = box.left() - random.between(0.0, piece); x < box.right(); x += piece) {
+    for (int row = 0; row < box.height() / step; ++row) {
+        const double y = box.top() + row * step;
+        const double start = box.left() - random.between(0.0, piece);
+        for (int column = 0; column < (box.right() - start) / piece; ++column) {
+            const double x = start + column * piece;
             painter.setBrush(blend(dark, light, random.unit()));
             painter.drawRect(QRectF(x, y, piece + 0.5, step + 0.5));
         }
@@ -181,7 +184,7 @@ void drawHeadland(QPainter &painter, Random &random)
 {
     QPainterPath bank;
     bank.moveTo(-5, headland + 2);
-    for (double x = -5; x <= 520; x += 3)
+    for (int x = -5; x <= 520; x += 3)
         bank.lineTo(x, headlandTop(x));
     bank.lineTo(530, headland + 1);
     painter.fillPath(bank, QColor(74, 84, 36));
@@ -211,7 +214,8 @@ void drawLandingStage(QPainter &painter, Random &random)
         painter.setBrush(QColor(148, 112, 74));
         painter.drawRect(QRectF(x + 1.4, 512.0, 1.6, 25.0));
     }
-    for (double x = 430.0; x < 626.0; x += 7.0) {
+    for (int plank = 0; plank < 28; ++plank) {
+        const double x = 430.0 + 7.0 * plank;
         painter.setBrush(blend(QColor(122, 94, 68), QColor(214, 176, 124), random.unit()));
         painter.drawConvexPolygon(QPolygonF({{x, 518.0}, {x + 6.4, 518.0}, {x + 8.4, 523.5}, {x + 2.0, 523.5}}));
     }

@@ -192,14 +192,14 @@ void drawButtercup(QPainter &painter, Random &random, QPointF head, double size)
 }
 
 /// All plants whose feet lie between two rows, from the farthest to the nearest.
-QImage growth(std::uint32_t seed, double firstRow, double endRow, double density, double size)
+QImage growth(std::uint32_t seed, int firstRow, int endRow, double density, double size)
 {
     QImage layer = sheet();
     QPainter painter(&layer);
     painter.setRenderHint(QPainter::Antialiasing);
     painter.setPen(Qt::NoPen);
     Random random(seed);
-    for (double row = firstRow; row < endRow; row += 1.0) {
+    for (int row = firstRow; row < endRow; ++row) {
         const double near = std::clamp((row - 840.0) / 250.0, 0.0, 1.4);
         const double tall = size * mix(26.0, 118.0, near);
         const int blades = int(density * mix(150.0, 46.0, std::min(1.0, near)));
@@ -208,7 +208,7 @@ QImage growth(std::uint32_t seed, double firstRow, double endRow, double density
             const double inside = row - grassLine(x);
             if (inside < random.between(0.0, 22.0))
                 continue;
-            drawBlade(painter, random, {x, row},
+            drawBlade(painter, random, {x, double(row)},
                       tall * random.between(0.5, 1.1) * mix(0.6, 1.0, smoothStep(0.0, 40.0, inside)));
         }
         for (int i = 0; i < 3; ++i) {
@@ -303,7 +303,7 @@ void drawTwig(QPainter &painter, Random &random, QPointF at, double angle, doubl
 void paintMeadow(Scene &scene)
 {
     LightPicture &view = scene.view;
-    lay(view, growth(31, 850.0, 1085.0, 1.0, 1.0), 0.0, 1.0);
+    lay(view, growth(31, 850, 1085, 1.0, 1.0), 0.0, 1.0);
     // Trees behind us leave sun only here and there, and less of it on the left.
     view.fill(700, pictureHeight, [&view](int x, int y) {
         const double inside = smoothStep(-70.0, 50.0, y - grassLine(x));
@@ -312,7 +312,7 @@ void paintMeadow(Scene &scene)
         return view.at(x, y)
             * mix(Light{1.0f, 1.0f, 1.0f}, mix(Light{0.20f, 0.25f, 0.33f}, Light{1.30f, 1.0f, 0.66f}, sunny), inside);
     });
-    lay(view, outOfFocus(growth(32, 1100.0, 1190.0, 0.22, 1.45), 3.6), 0.0, 0.42);
+    lay(view, outOfFocus(growth(32, 1100, 1190, 0.22, 1.45), 3.6), 0.0, 0.42);
 }
 
 void paintBranch(Scene &scene)

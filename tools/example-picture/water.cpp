@@ -148,8 +148,10 @@ void paintShore(Scene &scene)
         if (land <= 0.0)
             return view.at(x, y);
         Light stones;
-        for (int sample = 0; sample < 4; ++sample)
-            stones = stones + pebbles(x + 0.25 + 0.5 * (sample % 2), y + 0.25 + 0.5 * (sample / 2)) * 0.25;
+        for (const double dy : {0.25, 0.75}) {
+            for (const double dx : {0.25, 0.75})
+                stones = stones + pebbles(x + dx, y + dy) * 0.25;
+        }
         Light colour = mix(view.at(x, y), wet(stones, x, y), land);
         const double foam =
             std::exp(-std::pow((above - 1.0) / 2.2, 2)) * smoothStep(-0.1, 0.5, noise(x / 14.0, 3.0, 12));
