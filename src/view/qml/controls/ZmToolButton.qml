@@ -12,6 +12,8 @@ ToolButton {
     readonly property color inkColor: checked ? (Theme.dark ? Qt.lighter(Theme.accent, 1.35) : Qt.darker(Theme.accent, 1.25))
                                               : Theme.text
 
+    // Without the mnemonic, which would be a shortcut of the button too.
+    text: action?.plainText ?? ""
     implicitHeight: Theme.controlHeight
     leftPadding: Theme.spaceM
     rightPadding: Theme.spaceM
