@@ -4,12 +4,13 @@ import QtQuick.Controls
 import ZelmoraAtelier
 
 // The selected layer's name and blending, and below it the list of all layers, which takes the height that is left.
-FocusScope {
+Item {
     id: root
 
     required property SceneObjectAdapter sceneObjectAdapter
     required property LayerRowActions actions
 
+    // A press beside the fields ends the edit of a field.
     TapHandler {
         onPressedChanged: {
             if (pressed)

@@ -51,8 +51,8 @@ Rectangle {
                 required property int index
 
                 Layout.fillWidth: true
-                Layout.minimumWidth: 40
-                Layout.preferredWidth: Math.max(implicitContentWidth + 2 * Theme.spaceS, 60)
+                Layout.minimumWidth: 34
+                Layout.preferredWidth: implicitContentWidth + 2 * Theme.spaceXS
                 visible: modelData.available
                 text: modelData.text
                 icon.name: modelData.iconName

@@ -26,6 +26,10 @@ InspectorRow {
         onEdited: value => root.edited(value)
         onEditStarted: root.editStarted()
         onEditFinished: root.editFinished()
-        onUnitClicked: root.unitClicked()
+        onUnitClicked: {
+            commit()    // what was typed counts in the old unit
+            root.unitClicked()
+            showValue()
+        }
     }
 }

@@ -19,13 +19,15 @@ ScrollView {
     }
 
     contentItem: Flickable {
+        id: flickable
+
         boundsBehavior: Flickable.StopAtBounds
 
         // A press beside the fields ends the edit of a field.
         TapHandler {
             onPressedChanged: {
                 if (pressed)
-                    root.forceActiveFocus(Qt.MouseFocusReason)
+                    flickable.forceActiveFocus(Qt.MouseFocusReason)
             }
         }
 
