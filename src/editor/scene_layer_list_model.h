@@ -28,6 +28,7 @@ public:
         HasRasterSelectionRole,
         ThumbnailSourceRole, ///< an address of the provider "layer-thumbnail"; empty while there is no thumbnail
     };
+    Q_ENUM(Role)
 
     /// The document must outlive the model.
     explicit SceneLayerListModel(Document *document, QObject *parent = nullptr);
