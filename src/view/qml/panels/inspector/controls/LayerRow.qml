@@ -39,6 +39,7 @@ Item {
     opacity: dimmed ? Theme.disabledOpacity : 1
     Accessible.role: Accessible.ListItem
     Accessible.name: hidden ? qsTr("Layer %1, hidden").arg(name) : qsTr("Layer %1").arg(name)
+    Accessible.description: hasRasterSelection ? qsTr("Has a raster selection") : ""
     Accessible.selectable: true
     Accessible.selected: selected
     Accessible.ignored: lifted
@@ -103,7 +104,7 @@ Item {
                 border.color: Theme.outline
                 visible: root.layerType !== "image"
 
-                TintedIcon {
+                ZmIcon {
                     anchors.centerIn: parent
                     size: 13
                     name: root.typeIcons[root.layerType] ?? ""
@@ -138,11 +139,9 @@ Item {
             }
         }
 
-        TintedIcon {
+        ZmIcon {
             name: "raster_selection"
             visible: root.hasRasterSelection
-            Accessible.role: Accessible.StaticText
-            Accessible.name: qsTr("Has a raster selection")
         }
 
         ZmIconButton {
@@ -157,9 +156,9 @@ Item {
             onClicked: root.mergeAction.trigger()
         }
 
-        TintedIcon {
+        ZmIcon {
             name: "drag_handle"
-            tint: Theme.mutedText
+            color: Theme.mutedText
             opacity: root.hovered || root.selected ? 1 : 0.45
 
             HoverHandler {

@@ -29,7 +29,6 @@ InspectorRow {
         onUnitClicked: {
             commit()    // what was typed counts in the old unit
             root.unitClicked()
-            showValue()
         }
     }
 }
