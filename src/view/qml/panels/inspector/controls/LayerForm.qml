@@ -30,7 +30,7 @@ ColumnLayout {
             }
 
             Layout.fillWidth: true
-            Accessible.name: qsTr("Layer name")
+            Accessible.name: qsTr("Name")
             onAccepted: {
                 commit()
                 selectAll()

@@ -25,6 +25,8 @@ Item {
 
     readonly property var typeIcons: ({ text: "tab_text_layer", shape: "tab_shape_layer", object: "tab_layers" })
     readonly property bool hovered: hover.hovered
+    // Tab does not go through a hundred rows.
+    readonly property int buttonFocus: selected && !lifted ? Qt.TabFocus : Qt.NoFocus
 
     signal hiddenRequested(bool hidden)
     signal renameRequested(string name)
@@ -77,7 +79,7 @@ Item {
 
         ZmIconButton {
             size: 26
-            focusPolicy: Qt.NoFocus     // the list has a key for it
+            focusPolicy: root.buttonFocus
             icon.name: root.hidden ? "visibility_off" : "visibility_on"
             icon.width: Theme.iconSize
             icon.height: Theme.iconSize
@@ -146,7 +148,7 @@ Item {
 
         ZmIconButton {
             size: 26
-            focusPolicy: Qt.NoFocus
+            focusPolicy: root.buttonFocus
             icon.name: "collapse_layer_down"
             icon.width: Theme.iconSize
             icon.height: Theme.iconSize
