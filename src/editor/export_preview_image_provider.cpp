@@ -6,7 +6,8 @@ namespace zm {
 
 namespace {
 
-/// The part that an id such as "7/0,1024,512,512" names: left, top, width, height. Without a part, all of it.
+/// The part that an id such as "7/0,1024,512,512" names: left, top, width, height. Without a part, all of it. What lies
+/// beside the picture is a clear pixel: a part can be asked for as the next picture of another size comes in.
 QImage partOf(const QImage &image, const QString &id)
 {
     const QStringList numbers = id.section(u'/', 1).split(u',');
@@ -14,7 +15,11 @@ QImage partOf(const QImage &image, const QString &id)
         return image;
     const QRect part(numbers.at(0).toInt(), numbers.at(1).toInt(), numbers.at(2).toInt(), numbers.at(3).toInt());
     const QRect inside = part & image.rect();
-    return inside.isEmpty() ? QImage() : image.copy(inside);
+    if (!inside.isEmpty())
+        return image.copy(inside);
+    QImage clear(1, 1, QImage::Format_ARGB32_Premultiplied);
+    clear.fill(Qt::transparent);
+    return clear;
 }
 
 } // namespace

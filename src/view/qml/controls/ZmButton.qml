@@ -5,7 +5,8 @@ import QtQuick.Controls
 Button {
     id: root
 
-    readonly property color inkColor: highlighted ? Theme.accentText : Theme.text
+    readonly property bool accented: highlighted && enabled
+    readonly property color inkColor: accented ? Theme.accentText : Theme.text
 
     implicitHeight: Theme.controlHeight
     leftPadding: Theme.spaceL
@@ -23,22 +24,22 @@ Button {
 
     background: Rectangle {
         radius: Theme.radius
-        color: root.highlighted ? (root.down ? Qt.darker(Theme.accent, 1.18)
-                                             : root.hovered ? Qt.lighter(Theme.accent, 1.08) : Theme.accent)
-                                : root.flat ? "transparent" : Theme.raised
-        border.width: root.flat || root.highlighted ? 0 : 1
+        color: root.accented ? (root.down ? Qt.darker(Theme.accent, 1.18)
+                                          : root.hovered ? Qt.lighter(Theme.accent, 1.08) : Theme.accent)
+                             : root.flat ? "transparent" : Theme.raised
+        border.width: root.flat || root.accented ? 0 : 1
         border.color: Theme.outline
 
         Rectangle {
             anchors.fill: parent
             radius: parent.radius
-            color: root.highlighted ? "transparent" : root.down ? Theme.pressedFill
-                                                                : root.hovered ? Theme.hoverFill : "transparent"
+            color: root.accented ? "transparent" : root.down ? Theme.pressedFill
+                                                             : root.hovered ? Theme.hoverFill : "transparent"
         }
 
         FocusFrame {
             control: root
-            anchors.margins: root.highlighted ? -3 : 0
+            anchors.margins: root.accented ? -3 : 0
         }
     }
 }

@@ -11,10 +11,11 @@ ZmDialog {
 
     // The session outlives the dialog, for the file dialog that follows.
     property bool preserveControllerOnHide: false
-    readonly property int minimumWidth: 560
-    readonly property int minimumHeight: 560
     readonly property int preferredWidth: 640
     readonly property int preferredHeight: 620
+    readonly property int minimumWidth: 560
+    readonly property int minimumHeight: 560
+    // What the window has room for comes before the minimum: the buttons have to be in reach.
     readonly property real spaceWidth: (parent?.width ?? preferredWidth) - 2 * Theme.spaceXXL
     readonly property real spaceHeight: (parent?.height ?? preferredHeight) - 2 * Theme.spaceM
 
@@ -30,9 +31,9 @@ ZmDialog {
     }
 
     title: qsTr("Export Settings")
-    // Most of a large window, for the preview, and what there is of a small one.
-    width: Math.min(spaceWidth, Math.max(preferredWidth, Math.min(1200, 0.84 * spaceWidth)), Math.max(minimumWidth, spaceWidth))
-    height: Math.min(spaceHeight, Math.max(preferredHeight, Math.min(960, 0.92 * spaceHeight)))
+    // Grows with the window, for the preview.
+    width: Math.min(spaceWidth, Math.max(minimumWidth, preferredWidth + 0.72 * (spaceWidth - preferredWidth)))
+    height: Math.min(spaceHeight, Math.max(minimumHeight, preferredHeight + 0.72 * (spaceHeight - preferredHeight)))
     defaultButton: saveButton
     onAboutToShow: {
         preserveControllerOnHide = false
@@ -202,16 +203,14 @@ ZmDialog {
                 }
 
                 Label {
-                    Layout.columnSpan: root.controller.qualityControlEnabled ? 1 : 2
-                    Layout.fillWidth: true
-                    Layout.minimumHeight: Theme.controlHeight
-                    verticalAlignment: Text.AlignVCenter
-                    text: root.controller.qualityControlEnabled ? qsTr("Quality") : qsTr("PNG compression")
+                    visible: root.controller.qualityControlEnabled
+                    text: qsTr("Quality")
                     color: Theme.mutedText
                 }
 
                 RowLayout {
                     Layout.columnSpan: 2
+                    Layout.fillWidth: true
                     visible: root.controller.qualityControlEnabled
                     spacing: Theme.spaceM
 
@@ -236,10 +235,20 @@ ZmDialog {
                     }
                 }
 
-                Label {
-                    Layout.alignment: Qt.AlignRight
+                RowLayout {
+                    Layout.columnSpan: 3
+                    Layout.minimumHeight: Theme.controlHeight
                     visible: !root.controller.qualityControlEnabled
-                    text: qsTr("Max")
+
+                    Label {
+                        Layout.fillWidth: true
+                        text: qsTr("PNG compression")
+                        color: Theme.mutedText
+                    }
+
+                    Label {
+                        text: qsTr("Max")
+                    }
                 }
 
                 ZmToolSeparator {

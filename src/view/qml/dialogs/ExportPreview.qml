@@ -27,7 +27,8 @@ ColumnLayout {
     property size pictureSize: Qt.size(1, 1)    // of the picture that shows
     property size loadingSize: Qt.size(1, 1)
     property point center: Qt.point(0.5, 0.5)   // what lies in the middle of the view, 0..1 of the picture
-    readonly property bool hasPicture: overview.status === Image.Ready || overview.hadPicture
+    property url shownSource                    // of the picture that shows
+    readonly property bool hasPicture: shownSource.toString()
     readonly property string progressText: busy ? qsTr("Encoding preview…")
                                                 : overview.status === Image.Loading ? qsTr("Loading preview…") : ""
 
@@ -70,6 +71,15 @@ ColumnLayout {
         return shownPart >= 1 ? 0.5 : Math.max(shownPart / 2, Math.min(1 - shownPart / 2, position))
     }
 
+    function tileParts(size) {
+        const parts = []
+        for (let y = 0; y < size.height; y += tileSide) {
+            for (let x = 0; x < size.width; x += tileSide)
+                parts.push(Qt.rect(x, y, Math.min(tileSide, size.width - x), Math.min(tileSide, size.height - y)))
+        }
+        return parts
+    }
+
     spacing: Theme.spaceS
     onSourceChanged: {
         if (source.toString()) {
@@ -78,7 +88,7 @@ ColumnLayout {
             overview.sourceSize = Qt.size(Math.max(1, Math.round(loadingSize.width * shrink)),
                                           Math.max(1, Math.round(loadingSize.height * shrink)))
         } else {
-            overview.hadPicture = false
+            shownSource = ""
             fit()
         }
         overview.source = source
@@ -126,8 +136,7 @@ ColumnLayout {
                 id: picture
 
                 readonly property real tileZoom: root.zoom * Screen.devicePixelRatio
-                readonly property bool tiled: overview.status === Image.Ready
-                                              && overview.sourceSize.width < root.pictureSize.width
+                readonly property bool tiled: root.hasPicture && overview.sourceSize.width < root.pictureSize.width
                                               && tileZoom * root.pictureSize.width > overview.sourceSize.width
 
                 x: Math.round(view.width / 2 - root.center.x * width) - clipped.x
@@ -144,35 +153,29 @@ ColumnLayout {
                 Image {
                     id: overview
 
-                    property bool hadPicture: false
-
                     anchors.fill: parent
                     asynchronous: true
                     retainWhileLoading: true
                     cache: false
-                    mipmap: root.zoom < 1
+                    mipmap: true
                     smooth: root.zoom < 2
                     onStatusChanged: {
                         if (status !== Image.Ready)
                             return
-                        hadPicture = true
                         root.pictureSize = root.loadingSize
+                        root.shownSource = source
                         root.moveTo(root.center.x, root.center.y)
                     }
                 }
 
                 Repeater {
-                    model: picture.tiled ? Math.ceil(root.pictureSize.width / root.tileSide)
-                                           * Math.ceil(root.pictureSize.height / root.tileSide) : 0
+                    model: picture.tiled ? root.tileParts(root.pictureSize) : []
 
                     ExportPreviewTile {
-                        required property int index
-                        readonly property int columns: Math.ceil(root.pictureSize.width / root.tileSide)
+                        required property rect modelData
 
-                        part: Qt.rect(index % columns * root.tileSide, Math.floor(index / columns) * root.tileSide,
-                                      root.tileSide, root.tileSide)
-                        source: root.source
-                        pictureSize: root.pictureSize
+                        part: modelData
+                        source: root.shownSource
                         zoom: root.zoom
                         transparent: root.transparent
                         view: Qt.rect(-picture.x, -picture.y, clipped.width, clipped.height)
@@ -267,7 +270,7 @@ ColumnLayout {
         Label {
             Layout.preferredWidth: 46
             horizontalAlignment: Text.AlignHCenter
-            text: qsTr("%1 %").arg(root.zoom < 0.1 ? Math.round(root.zoom * 1000) / 10 : Math.round(root.zoom * 100))
+            text: !root.hasPicture ? "" : qsTr("%1 %").arg(root.zoom < 0.1 ? Math.round(root.zoom * 1000) / 10 : Math.round(root.zoom * 100))
             color: Theme.mutedText
         }
 
@@ -297,6 +300,15 @@ ColumnLayout {
             toolTip: qsTr("Show the picture in its own size")
             checked: !root.fitted && root.zoom === 1
             onClicked: root.zoomTo(1, view.width / 2, view.height / 2)
+        }
+
+        Label {
+            Layout.fillWidth: true
+            horizontalAlignment: Text.AlignRight
+            visible: root.hasPicture
+            text: qsTr("%1 × %2 px").arg(root.pictureSize.width).arg(root.pictureSize.height)
+            color: Theme.mutedText
+            elide: Text.ElideRight
         }
     }
 }

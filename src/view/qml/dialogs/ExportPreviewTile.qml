@@ -4,23 +4,21 @@ import QtQuick
 Item {
     id: root
 
-    required property rect part         // pixels of the picture; cut at its edges
+    required property rect part         // pixels of the picture
     required property url source
-    required property size pictureSize
     required property real zoom
     required property bool transparent
     required property rect view         // what is in view, in units of the parent
 
-    readonly property real partWidth: Math.min(part.width, pictureSize.width - part.x)
-    readonly property real partHeight: Math.min(part.height, pictureSize.height - part.y)
     readonly property bool inView: x < view.x + view.width && x + width > view.x
                                    && y < view.y + view.height && y + height > view.y
 
     x: part.x * zoom
     y: part.y * zoom
-    width: partWidth * zoom
-    height: partHeight * zoom
-    visible: inView && pixels.status === Image.Ready
+    width: part.width * zoom
+    height: part.height * zoom
+    // A tile of the picture before stays until the new one is there.
+    visible: inView && (pixels.status === Image.Ready || pixels.implicitWidth > 0)
     clip: transparent
 
     // Hides what lies below, in step with the checks around it.
@@ -37,11 +35,12 @@ Item {
 
         anchors.fill: parent
         asynchronous: true
+        retainWhileLoading: true
         cache: false
-        mipmap: root.zoom < 1
+        mipmap: true
         smooth: root.zoom < 2
         source: root.inView && root.source.toString()
-                ? "%1/%2,%3,%4,%5".arg(root.source.toString()).arg(root.part.x).arg(root.part.y).arg(root.partWidth)
-                                  .arg(root.partHeight) : ""
+                ? "%1/%2,%3,%4,%5".arg(root.source.toString()).arg(root.part.x).arg(root.part.y).arg(root.part.width)
+                                  .arg(root.part.height) : ""
     }
 }

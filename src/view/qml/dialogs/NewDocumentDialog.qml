@@ -16,9 +16,9 @@ ZmDialog {
     readonly property int minimumSide: 1
     readonly property int maximumSide: 10000
     readonly property var presets: [
+        preset(qsTr("Screen"), qsTr("HD"), 1280, 720),
         preset(qsTr("Screen"), qsTr("Full HD"), 1920, 1080),
         preset(qsTr("Screen"), qsTr("4K"), 3840, 2160),
-        preset(qsTr("Screen"), qsTr("This Screen"), screenWidth, screenHeight),
         preset(qsTr("Social"), qsTr("Square"), 1080, 1080),
         preset(qsTr("Social"), qsTr("Story"), 1080, 1920),
         preset(qsTr("Photo"), qsTr("Photo 3:2"), 3000, 2000),
@@ -27,8 +27,6 @@ ZmDialog {
         preset(qsTr("Print, 300 ppi"), qsTr("A5"), 1748, 2480),
         preset(qsTr("Print, 300 ppi"), qsTr("Letter"), 2550, 3300)
     ]
-    readonly property int screenWidth: Math.round(body.Screen.width * body.Screen.devicePixelRatio)
-    readonly property int screenHeight: Math.round(body.Screen.height * body.Screen.devicePixelRatio)
     // The preset that the size is, if need be lying on its side.
     readonly property int presetIndex: {
         const upright = presets.findIndex(p => p.width === documentWidth && p.height === documentHeight)
@@ -84,8 +82,6 @@ ZmDialog {
     }
 
     contentItem: RowLayout {
-        id: body
-
         spacing: Theme.spaceXXL - Theme.spaceS
 
         Rectangle {
