@@ -187,6 +187,10 @@ private slots:
         const QImage shown = ask({});
         QCOMPARE(size, QSize(40, 30));
         QCOMPARE(ask({20, 20}).size(), QSize(20, 15));
+        const auto part = [&](const QString &id) { return provider.requestImage(id, &size, {}); };
+        QCOMPARE(part(u"1/30,10,10,15"_s), shown.copy(30, 10, 10, 15));
+        QCOMPARE(part(u"1/30,20,20,20"_s).size(), QSize(10, 10)); // cut at the edge
+        QCOMPARE(part(u"1/40,0,10,10"_s).pixelColor(0, 0).alpha(), 0);
 
         const std::pair<QUrl, QString> refusals[] = {
             {QUrl(u"https://example.org/a.jpg"_s), u"Only local save destinations are supported."_s},

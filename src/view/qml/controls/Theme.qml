@@ -44,7 +44,7 @@ QtObject {
     readonly property color accent: palette.highlight
     readonly property color accentText: palette.highlightedText
     readonly property color accentSoft: Qt.alpha(palette.highlight, dark ? 0.34 : 0.2)
-    readonly property color link: palette.link ?? accent
+    readonly property color link: dark ? Qt.lighter(palette.highlight, 1.35) : Qt.darker(palette.highlight, 1.15)
     readonly property color danger: dark ? "#ff8a80" : "#b3261e"
     readonly property color shadow: Qt.alpha("black", dark ? 0.5 : 0.22)
     readonly property real disabledOpacity: 0.4

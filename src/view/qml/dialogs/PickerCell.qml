@@ -7,6 +7,8 @@ Item {
 
     property string name
     property string previewSource
+    property string tooltipSource   // a larger picture, shown while the pointer rests on the cell
+    property size tooltipSize
     property real previewWidth: 88
     property real previewHeight: 88
     property real padding: 6
@@ -64,6 +66,35 @@ Item {
     }
 
     HoverHandler { id: hover }
+
+    Loader {
+        active: hover.hovered && root.tooltipSource
+
+        sourceComponent: ToolTip {
+            parent: root
+            delay: Application.styleHints.mousePressAndHoldInterval
+            visible: true
+            padding: Theme.spaceS
+            background: PopupSurface {}
+
+            contentItem: Item {
+                implicitWidth: large.paintedWidth
+                implicitHeight: large.paintedHeight
+
+                Image {
+                    id: large
+
+                    anchors.centerIn: parent
+                    width: root.tooltipSize.width
+                    height: root.tooltipSize.height
+                    source: root.tooltipSource
+                    sourceSize: Qt.size(width * Screen.devicePixelRatio, height * Screen.devicePixelRatio)
+                    fillMode: Image.PreserveAspectFit
+                    asynchronous: true
+                }
+            }
+        }
+    }
 
     TapHandler {
         onTapped: root.chosen()

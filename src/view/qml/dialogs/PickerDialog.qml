@@ -14,6 +14,8 @@ ZmDialog {
     property string activateText: qsTr("Choose")
     property Item focusTarget: grid
     property var sourceCategoryGroups: null     // a list of maps of `category` and `items`
+    property bool categoryNavigationEnabled: false
+    property string categoryNavigationIconRole: "iconName"
     property var categorySearchKeys: ["displayName", "filterName", "generatorId", "keywords"]
     property real categoryCellWidth: 128
     property real categoryCellHeight: 132
@@ -21,6 +23,9 @@ ZmDialog {
     property real categoryPreviewWidth: 88
     property real categoryPreviewHeight: 88
     property string categoryPreviewRole: "previewSource"
+    property string categoryTooltipPreviewRole: "tooltipPreviewSource"
+    property real categoryTooltipPreviewWidth: 420
+    property real categoryTooltipPreviewHeight: 315
     property string categoryEmptyText: qsTr("No matching items.")
     property real minimumDialogWidth: 600
     property real minimumDialogHeight: 500
@@ -84,6 +89,17 @@ ZmDialog {
         return false
     }
 
+    // Scrolls the group to the top.
+    function showCategory(index) {
+        grid.shownCategory = index
+        grid.positionViewAtIndex(grid.lines.findIndex(line => line.heading && line.categoryIndex === index),
+                                 ListView.Beginning)
+    }
+
+    function address(source) {
+        return String(source ?? "").replace(/^:/, "qrc:")
+    }
+
     function activateCurrentCategoryItem() {
         if (currentCategoryItem)
             categoryItemActivated(currentCategoryItem)
@@ -115,6 +131,7 @@ ZmDialog {
     onAboutToShow: {
         searchField.clear()
         select(-1, -1)
+        grid.shownCategory = -1
         grid.positionViewAtBeginning()
     }
     onOpened: focusTarget.forceActiveFocus()
@@ -142,125 +159,143 @@ ZmDialog {
             }
         }
 
-        ListView {
-            id: grid
+        RowLayout {
+            spacing: Theme.spaceL
 
-            readonly property int columns: Math.max(1, Math.floor(cellsWidth / root.categoryCellWidth))
-            readonly property real cellsWidth: width - Theme.spaceL
-            readonly property var lines: Groups.lines(root.groups, columns)
-            readonly property int currentLine: lines.findIndex(
-                line => line.categoryIndex === root.currentCategoryIndex && line.first <= root.currentCategoryItemIndex
-                        && root.currentCategoryItemIndex < line.first + line.items.length)
-
-            function showCurrent() {
-                if (currentLine < 0)
-                    return
-                if (lines[currentLine - 1]?.heading)
-                    positionViewAtIndex(currentLine - 1, ListView.Contain)
-                positionViewAtIndex(currentLine, ListView.Contain)
+            PickerNavigation {
+                Layout.fillHeight: true
+                visible: root.categoryNavigationEnabled
+                model: root.groups
+                iconRole: root.categoryNavigationIconRole
+                currentIndex: grid.shownCategory >= 0 ? grid.shownCategory : grid.topCategory
+                onChosen: index => root.showCategory(index)
             }
 
-            Layout.fillWidth: true
-            Layout.fillHeight: true
-            Layout.rightMargin: -Theme.spaceL
-            clip: true
-            activeFocusOnTab: true
-            keyNavigationEnabled: false
-            boundsBehavior: Flickable.StopAtBounds
-            model: lines
-            cacheBuffer: 2 * root.categoryCellHeight
-            Accessible.role: Accessible.List
-            Accessible.name: root.pickerTitle
-            ScrollBar.vertical: ZmScrollBar {}
+            ListView {
+                id: grid
 
-            Keys.onPressed: event => {
-                event.accepted = true
-                switch (event.key) {
-                case Qt.Key_Left: root.moveCategorySelection(-1); return
-                case Qt.Key_Right: root.moveCategorySelection(1); return
-                case Qt.Key_Home: root.moveCategorySelection(-Infinity); return
-                case Qt.Key_End: root.moveCategorySelection(Infinity); return
-                case Qt.Key_Down:
-                    if (root.currentCategoryIndex < 0)
-                        root.moveCategorySelection(1)
-                    else
-                        root.moveCategoryLine(1)
-                    return
-                case Qt.Key_Up:
-                    if (!root.moveCategoryLine(-1) && root.searchEnabled)
-                        searchField.forceActiveFocus()
-                    return
-                case Qt.Key_PageDown: case Qt.Key_PageUp:
-                    for (let i = Math.floor(height / root.categoryCellHeight); i > 0; --i)
-                        root.moveCategoryLine(event.key === Qt.Key_PageDown ? 1 : -1)
-                    return
-                }
-                event.accepted = root.routeToSearch(event)
-            }
+                property int shownCategory: -1      // the one gone to, until the view is scrolled
+                readonly property int topCategory: lines[indexAt(1, contentY + 1)]?.categoryIndex ?? 0
+                readonly property int columns: Math.max(1, Math.floor(cellsWidth / root.categoryCellWidth))
+                readonly property real cellsWidth: width - Theme.spaceL
+                readonly property var lines: Groups.lines(root.groups, columns)
+                readonly property int currentLine: lines.findIndex(
+                    line => line.categoryIndex === root.currentCategoryIndex && line.first <= root.currentCategoryItemIndex
+                            && root.currentCategoryItemIndex < line.first + line.items.length)
 
-            delegate: Item {
-                id: line
-
-                required property int index
-                required property var modelData
-
-                width: grid.cellsWidth
-                height: modelData.heading ? heading.height : root.categoryCellHeight
-
-                Label {
-                    id: heading
-
-                    visible: line.modelData.heading
-                    topPadding: line.index > 0 ? Theme.spaceL : 0
-                    bottomPadding: Theme.spaceS
-                    leftPadding: Theme.spaceXS
-                    text: line.modelData.heading
-                    color: Theme.mutedText
-                    font.weight: Font.DemiBold
-                    textFormat: Text.PlainText
-                    Accessible.role: Accessible.Heading
-                    Accessible.name: text
+                function showCurrent() {
+                    if (currentLine < 0)
+                        return
+                    if (lines[currentLine - 1]?.heading)
+                        positionViewAtIndex(currentLine - 1, ListView.Contain)
+                    positionViewAtIndex(currentLine, ListView.Contain)
                 }
 
-                Repeater {
-                    model: line.modelData.items
+                Layout.fillWidth: true
+                Layout.fillHeight: true
+                Layout.rightMargin: -Theme.spaceL
+                clip: true
+                onMovementStarted: shownCategory = -1
+                activeFocusOnTab: true
+                keyNavigationEnabled: false
+                boundsBehavior: Flickable.StopAtBounds
+                model: lines
+                cacheBuffer: 2 * root.categoryCellHeight
+                Accessible.role: Accessible.List
+                Accessible.name: root.pickerTitle
+                ScrollBar.vertical: ZmScrollBar {}
 
-                    PickerCell {
-                        required property int index
-                        required property var modelData
-                        readonly property int itemIndex: line.modelData.first + index
+                Keys.onPressed: event => {
+                    event.accepted = true
+                    switch (event.key) {
+                    case Qt.Key_Left: root.moveCategorySelection(-1); return
+                    case Qt.Key_Right: root.moveCategorySelection(1); return
+                    case Qt.Key_Home: root.moveCategorySelection(-Infinity); return
+                    case Qt.Key_End: root.moveCategorySelection(Infinity); return
+                    case Qt.Key_Down:
+                        if (root.currentCategoryIndex < 0)
+                            root.moveCategorySelection(1)
+                        else
+                            root.moveCategoryLine(1)
+                        return
+                    case Qt.Key_Up:
+                        if (!root.moveCategoryLine(-1) && root.searchEnabled)
+                            searchField.forceActiveFocus()
+                        return
+                    case Qt.Key_PageDown: case Qt.Key_PageUp:
+                        for (let i = Math.floor(height / root.categoryCellHeight); i > 0; --i)
+                            root.moveCategoryLine(event.key === Qt.Key_PageDown ? 1 : -1)
+                        return
+                    }
+                    event.accepted = root.routeToSearch(event)
+                }
 
-                        x: index * width
-                        width: grid.cellsWidth / grid.columns
-                        height: root.categoryCellHeight
-                        name: modelData.displayName ?? ""
-                        previewSource: String(modelData[root.categoryPreviewRole] ?? "").replace(/^:/, "qrc:")
-                        previewWidth: root.categoryPreviewWidth
-                        previewHeight: root.categoryPreviewHeight
-                        padding: root.categoryCellPadding
-                        current: root.currentCategoryIndex === line.modelData.categoryIndex
-                                 && root.currentCategoryItemIndex === itemIndex
-                        gridFocused: grid.activeFocus
-                        onChosen: {
-                            root.select(line.modelData.categoryIndex, itemIndex)
-                            grid.forceActiveFocus(Qt.MouseFocusReason)
-                        }
-                        onActivated: {
-                            root.select(line.modelData.categoryIndex, itemIndex)
-                            root.activateCurrentCategoryItem()
+                delegate: Item {
+                    id: line
+
+                    required property int index
+                    required property var modelData
+
+                    width: grid.cellsWidth
+                    height: modelData.heading ? heading.height : root.categoryCellHeight
+
+                    Label {
+                        id: heading
+
+                        visible: line.modelData.heading
+                        topPadding: line.index > 0 ? Theme.spaceL : 0
+                        bottomPadding: Theme.spaceS
+                        leftPadding: Theme.spaceXS
+                        text: line.modelData.heading
+                        color: Theme.mutedText
+                        font.weight: Font.DemiBold
+                        textFormat: Text.PlainText
+                        Accessible.role: Accessible.Heading
+                        Accessible.name: text
+                    }
+
+                    Repeater {
+                        model: line.modelData.items
+
+                        PickerCell {
+                            required property int index
+                            required property var modelData
+                            readonly property int itemIndex: line.modelData.first + index
+
+                            x: index * width
+                            width: grid.cellsWidth / grid.columns
+                            height: root.categoryCellHeight
+                            name: modelData.displayName ?? ""
+                            previewSource: root.address(modelData[root.categoryPreviewRole])
+                            tooltipSource: root.address(modelData[root.categoryTooltipPreviewRole])
+                            tooltipSize: Qt.size(root.categoryTooltipPreviewWidth, root.categoryTooltipPreviewHeight)
+                            previewWidth: root.categoryPreviewWidth
+                            previewHeight: root.categoryPreviewHeight
+                            padding: root.categoryCellPadding
+                            current: root.currentCategoryIndex === line.modelData.categoryIndex
+                                     && root.currentCategoryItemIndex === itemIndex
+                            gridFocused: grid.activeFocus
+                            onChosen: {
+                                root.select(line.modelData.categoryIndex, itemIndex)
+                                grid.forceActiveFocus(Qt.MouseFocusReason)
+                            }
+                            onActivated: {
+                                root.select(line.modelData.categoryIndex, itemIndex)
+                                root.activateCurrentCategoryItem()
+                            }
                         }
                     }
                 }
-            }
 
-            Label {
-                anchors.centerIn: parent
-                width: Math.min(implicitWidth, parent.width)
-                visible: root.groups.length === 0
-                text: root.categoryEmptyText
-                color: Theme.mutedText
-                wrapMode: Text.Wrap
-                textFormat: Text.PlainText
+                Label {
+                    anchors.centerIn: parent
+                    width: Math.min(implicitWidth, parent.width)
+                    visible: root.groups.length === 0
+                    text: root.categoryEmptyText
+                    color: Theme.mutedText
+                    wrapMode: Text.Wrap
+                    textFormat: Text.PlainText
+                }
             }
         }
     }
