@@ -13,7 +13,8 @@ ZmTextField {
     property int decimals: 0
     property string unit
     property string unitToolTip
-    property bool typing: false     // the text is not the value's any more, and not yet taken over
+    property string shownText                           // of the value
+    readonly property bool typing: text !== shownText   // and not yet taken over
 
     signal edited(real value)
     signal editStarted()
@@ -37,8 +38,8 @@ ZmTextField {
     }
 
     function showValue() {
-        typing = false
-        text = shown(value)
+        shownText = shown(value)
+        text = shownText
     }
 
     function commit() {
@@ -71,7 +72,6 @@ ZmTextField {
     Accessible.role: Accessible.SpinBox
     Accessible.description: unit
 
-    onTextEdited: typing = true
     onValueChanged: {
         if (typing && activeFocus && !stepping.running)
             return
