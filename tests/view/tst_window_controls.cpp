@@ -161,10 +161,10 @@ private slots:
         QVERIFY(m_driver->click(u"Size"_s));
         QTRY_VERIFY(m_driver->named(u"X"_s));
         m_driver->click(m_driver->named(u"X"_s));
-        const double before = document().objectAt(0)->transform().position.x();
+        const double before = document().objectAt(0)->transform().position().x();
         for (int step = 0; step < 3; ++step)
             m_driver->key(Qt::Key_Up);
-        QCOMPARE(document().objectAt(0)->transform().position.x(), before + 3);
+        QCOMPARE(document().objectAt(0)->transform().position().x(), before + 3);
         QCOMPARE(history.count(), 2);
     }
 
