@@ -3,8 +3,8 @@ import QtQuick.Controls
 import ZelmoraAtelier
 
 // The stack of layers, topmost first. Press selects, a drag moves, a double click renames. Keys: Up, Down, Home and End
-// select, with Ctrl or Alt Up and Down move the layer, Space shows and hides, F2 renames, Delete removes, Menu opens
-// the menu.
+// select, with Ctrl or Alt Up and Down move the layer, Space shows and hides, F2 renames, Delete removes, Menu or
+// Shift+F10 opens the menu.
 ScrollView {
     id: root
 
@@ -77,6 +77,10 @@ ScrollView {
         case Qt.Key_F2:
             renameSelected()
             break
+        case Qt.Key_F10:
+            if (!(event.modifiers & Qt.ShiftModifier))
+                return
+        // falls through: Shift+F10 is the menu key of keyboards without one
         case Qt.Key_Menu:
             openMenu(Qt.point(list.width / 2, (selection.row + 0.5) * rowHeight + list.originY))
             break
