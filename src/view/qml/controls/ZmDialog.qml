@@ -9,6 +9,8 @@ Dialog {
 
     property T.AbstractButton defaultButton: null
     property bool returnAccepts: true
+    // Of the window. The parent may be any item of it.
+    readonly property size room: Qt.size(Overlay.overlay?.width ?? 800, Overlay.overlay?.height ?? 520)
     readonly property Item focused: contentItem.Window.activeFocusItem
     readonly property bool listOpen: focused instanceof T.ComboBox && focused.popup.visible
 

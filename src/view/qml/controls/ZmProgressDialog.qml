@@ -10,7 +10,7 @@ ZmDialog {
     property real value: 0              // 0..1, unless indeterminate
     property bool indeterminate: true
 
-    width: Math.min(340, (parent?.width ?? 340) - 2 * Theme.spaceXXL)
+    width: Math.min(340, room.width - 2 * Theme.spaceXXL)
     topPadding: Theme.spaceXL + Theme.spaceS
     bottomPadding: Theme.spaceXXL
     closePolicy: Popup.NoAutoClose

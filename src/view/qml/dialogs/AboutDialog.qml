@@ -10,8 +10,8 @@ ZmDialog {
     required property var noticeCatalogModel    // roles name, version, licenseName, homePage, text
     property url webSite
 
-    width: Math.min(680, (parent?.width ?? 680) - 2 * Theme.spaceXXL)
-    height: Math.min(540, (parent?.height ?? 540) - 2 * Theme.spaceL)
+    width: Math.min(680, room.width - 2 * Theme.spaceXXL)
+    height: Math.min(540, room.height - 2 * Theme.spaceL)
     topPadding: Theme.spaceXXL
     defaultButton: closeButton
     onAboutToShow: {

@@ -16,8 +16,8 @@ ZmDialog {
     readonly property int minimumWidth: 560
     readonly property int minimumHeight: 560
     // What the window has room for comes before the minimum: the buttons have to be in reach.
-    readonly property real spaceWidth: (parent?.width ?? preferredWidth) - 2 * Theme.spaceXXL
-    readonly property real spaceHeight: (parent?.height ?? preferredHeight) - 2 * Theme.spaceM
+    readonly property real spaceWidth: room.width - 2 * Theme.spaceXXL
+    readonly property real spaceHeight: room.height - 2 * Theme.spaceM
 
     signal saveRequested()
     signal saveSetupCanceled()

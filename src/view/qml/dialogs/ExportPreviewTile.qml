@@ -1,6 +1,6 @@
 import QtQuick
 
-// A part of the export preview in all its pixels, loaded while it lies in view.
+// A part of the export preview, loaded while it lies in view and in as many pixels as the zoom can show.
 Item {
     id: root
 
@@ -10,6 +10,8 @@ Item {
     required property bool transparent
     required property rect view         // what is in view, in units of the parent
 
+    // A power of two, so that few steps of the zoom load anew.
+    readonly property real detail: Math.min(1, Math.pow(2, Math.ceil(Math.log2(zoom * Screen.devicePixelRatio))))
     readonly property bool inView: x < view.x + view.width && x + width > view.x
                                    && y < view.y + view.height && y + height > view.y
 
@@ -37,8 +39,8 @@ Item {
         asynchronous: true
         retainWhileLoading: true
         cache: false
-        mipmap: true
         smooth: root.zoom < 2
+        sourceSize: Qt.size(Math.ceil(root.part.width * root.detail), Math.ceil(root.part.height * root.detail))
         source: root.inView && root.source.toString()
                 ? "%1/%2,%3,%4,%5".arg(root.source.toString()).arg(root.part.x).arg(root.part.y).arg(root.part.width)
                                   .arg(root.part.height) : ""

@@ -71,8 +71,8 @@ ZmDialog {
     }
 
     title: qsTr("New Document")
-    width: Math.min(680, (parent?.width ?? 680) - 2 * Theme.spaceXXL)
-    height: Math.min(520, (parent?.height ?? 520) - 2 * Theme.spaceL)
+    width: Math.min(680, room.width - 2 * Theme.spaceXXL)
+    height: Math.min(520, room.height - 2 * Theme.spaceL)
     defaultButton: createButton
     onAboutToShow: failure = ""
     onOpened: widthInput.forceActiveFocus()

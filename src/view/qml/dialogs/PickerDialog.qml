@@ -123,8 +123,8 @@ ZmDialog {
     }
 
     title: pickerTitle
-    width: Math.max(minimumDialogWidth, Math.min(preferredDialogWidth, (parent?.width ?? Infinity) - 2 * Theme.spaceXXL))
-    height: Math.max(minimumDialogHeight, Math.min(preferredDialogHeight, (parent?.height ?? Infinity) - 2 * Theme.spaceXXL))
+    width: Math.max(minimumDialogWidth, Math.min(preferredDialogWidth, room.width - 2 * Theme.spaceXXL))
+    height: Math.max(minimumDialogHeight, Math.min(preferredDialogHeight, room.height - 2 * Theme.spaceXXL))
     defaultButton: activateButton
     onSourceCategoryGroupsChanged: retainGroups()
     onVisibleChanged: retainGroups()

@@ -12,7 +12,7 @@ ZmDialog {
     property color iconColor: Theme.accent
     default property alias extra: extraColumn.data
 
-    width: Math.min(460, (parent?.width ?? 460) - 2 * Theme.spaceXXL)
+    width: Math.min(460, room.width - 2 * Theme.spaceXXL)
     topPadding: title ? Theme.spaceS : Theme.spaceXXL
     header: null
 
