@@ -10,7 +10,7 @@ ZmDialog {
     required property var noticeCatalogModel    // roles name, version, licenseName, homePage, text
     property url webSite
 
-    width: Math.min(680, room.width - 2 * Theme.spaceXXL)
+    width: Math.min(780, room.width - 2 * Theme.spaceXXL)
     height: Math.min(540, room.height - 2 * Theme.spaceL)
     topPadding: Theme.spaceXXL
     defaultButton: closeButton
@@ -72,7 +72,7 @@ ZmDialog {
                 NoticeList {
                     id: notices
 
-                    Layout.preferredWidth: 216
+                    Layout.preferredWidth: 188
                     Layout.fillHeight: true
                     model: root.noticeCatalogModel
                 }

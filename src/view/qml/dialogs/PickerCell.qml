@@ -9,6 +9,7 @@ Item {
     property string previewSource
     property string tooltipSource   // a larger picture, shown while the pointer rests on the cell
     property size tooltipSize
+    property color previewGround: "transparent"
     property real previewWidth: 88
     property real previewHeight: 88
     property real padding: 6
@@ -33,11 +34,18 @@ Item {
         border.color: Theme.accent
     }
 
+    Rectangle {
+        anchors.fill: preview
+        anchors.margins: -Theme.spaceS
+        radius: Theme.radius
+        color: root.previewGround
+    }
+
     Image {
         id: preview
 
         anchors.horizontalCenter: parent.horizontalCenter
-        y: root.padding + Theme.spaceS
+        y: root.padding + Theme.spaceS + Theme.spaceXS
         width: root.previewWidth
         height: root.previewHeight
         source: root.previewSource
@@ -53,6 +61,7 @@ Item {
         anchors.left: parent.left
         anchors.right: parent.right
         anchors.top: preview.bottom
+        anchors.topMargin: Theme.spaceS
         anchors.bottom: parent.bottom
         anchors.leftMargin: root.padding
         anchors.rightMargin: root.padding

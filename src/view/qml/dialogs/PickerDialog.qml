@@ -22,6 +22,7 @@ ZmDialog {
     property real categoryCellPadding: 6
     property real categoryPreviewWidth: 88
     property real categoryPreviewHeight: 88
+    property color categoryPreviewGround: "transparent"     // behind pictures that have no ground of their own
     property string categoryPreviewRole: "previewSource"
     property string categoryTooltipPreviewRole: "tooltipPreviewSource"
     property real categoryTooltipPreviewWidth: 420
@@ -269,6 +270,7 @@ ZmDialog {
                             previewSource: root.address(modelData[root.categoryPreviewRole])
                             tooltipSource: root.address(modelData[root.categoryTooltipPreviewRole])
                             tooltipSize: Qt.size(root.categoryTooltipPreviewWidth, root.categoryTooltipPreviewHeight)
+                            previewGround: root.categoryPreviewGround
                             previewWidth: root.categoryPreviewWidth
                             previewHeight: root.categoryPreviewHeight
                             padding: root.categoryCellPadding

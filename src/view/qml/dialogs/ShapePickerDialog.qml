@@ -11,6 +11,7 @@ PickerDialog {
     searchPlaceholderText: qsTr("Search shapes and stickers")
     categoryEmptyText: qsTr("No matching shapes or stickers.")
     activateText: qsTr("Insert")
+    categoryPreviewGround: Theme.dark ? "#c3c9d2" : "#e4e8ee"     // sets off dark shapes and white ones
     sourceCategoryGroups: visible ? shapeModel.categoryGroups : null
     onCategoryItemActivated: item => {
         const added = item.itemKind === "sticker" ? controller.addSticker(item.generatorId)
