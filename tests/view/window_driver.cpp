@@ -72,16 +72,16 @@ bool WindowDriver::open()
 
 QQuickItem *WindowDriver::itemWhere(const std::function<bool(QQuickItem *)> &matches) const
 {
-    // What lies on top first: the children of the last item.
+    QQuickItem *found = nullptr;
     for (QList<QQuickItem *> items{m_window->contentItem()}; !items.isEmpty();) {
         QQuickItem *item = items.takeFirst();
         if (!item->isVisible())
             continue;
         if (matches(item))
-            return item;
+            found = item;
         items = item->childItems() + items;
     }
-    return nullptr;
+    return found;
 }
 
 QQuickItem *WindowDriver::item(const QString &textOrType) const
@@ -95,6 +95,13 @@ QQuickItem *WindowDriver::item(const QString &textOrType) const
 QQuickItem *WindowDriver::named(const QString &name) const
 {
     return itemWhere([&name](QQuickItem *item) { return accessibleName(item) == name; });
+}
+
+QQuickItem *WindowDriver::tab(const QString &text) const
+{
+    return itemWhere([&text](QQuickItem *item) {
+        return item->inherits("QQuickTabButton") && item->property("text").toString() == text;
+    });
 }
 
 double WindowDriver::zoom() const
@@ -169,7 +176,8 @@ bool WindowDriver::chooseFile(const char *dialogName, const QUrl &file) const
     if (!QTest::qWaitFor([&] { return shows(dialogName); }))
         return false;
     QObject *fileDialog = dialog(dialogName);
-    return fileDialog->setProperty("selectedFile", file) && QMetaObject::invokeMethod(fileDialog, "accept");
+    return fileDialog->setProperty("selectedFile", file) && QMetaObject::invokeMethod(fileDialog, "accepted")
+        && QMetaObject::invokeMethod(fileDialog, "close");
 }
 
 int runWindowTest(QObject &test, int argc, char **argv)
@@ -177,6 +185,7 @@ int runWindowTest(QObject &test, int argc, char **argv)
     const QTemporaryDir home;
     qputenv("XDG_CONFIG_HOME", home.path().toLocal8Bit());
     qputenv("XDG_DATA_HOME", home.path().toLocal8Bit());
+    QAccessible::setActive(true); // as with a screen reader
     QQuickWindow::setGraphicsApi(QSGRendererInterface::OpenGL);
     Application application(argc, argv);
     return QTest::qExec(&test, argc, argv);

@@ -29,11 +29,12 @@ public:
     /// What QML had to complain about; also printed.
     const QList<QQmlError> &warnings() const { return m_warnings; }
 
-    /// The first item that is shown and says a text, or whose QML type is so named. Null if there is none.
+    /// The item that is shown, on top of others, and says a text, or whose QML type is so named. Null if there is none.
     QQuickItem *item(const QString &textOrType) const;
     QQuickItem *itemWhere(const std::function<bool(QQuickItem *)> &matches) const;
-    /// The first item that is shown and has this name for screen readers.
+    /// The same by its name for screen readers.
     QQuickItem *named(const QString &accessibleName) const;
+    QQuickItem *tab(const QString &text) const;
     QQuickItem *canvas() const { return item(QStringLiteral("Canvas")); }
     double zoom() const;
     /// A dialog of the window, whether it is shown or not.
@@ -46,7 +47,7 @@ public:
     void drag(const QPointF &from, const QPointF &to) const;
     void key(Qt::Key key, Qt::KeyboardModifiers modifiers = Qt::NoModifier) const;
     void drop(const QList<QUrl> &urls) const;
-    /// Accepts an open file dialog with a file, as its own button would.
+    /// Answers an open file dialog with a file. How it finds one is Qt's affair.
     [[nodiscard]] bool chooseFile(const char *dialogName, const QUrl &file) const;
 
     QPointF centre(QQuickItem *item) const;

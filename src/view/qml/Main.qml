@@ -329,7 +329,7 @@ ApplicationWindow {
     minimumWidth: 800
     minimumHeight: 520
     visible: false
-    color: Theme.surface
+    color: palette.window
     title: filled(qsTr("%1%2 - %3"), [documentFileController.displayName, commandHistory.clean ? "" : "*",
                                       Application.displayName])
 

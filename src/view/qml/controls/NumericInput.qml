@@ -68,7 +68,7 @@ ZmTextField {
 
     horizontalAlignment: TextInput.AlignLeft
     inputMethodHints: Qt.ImhFormattedNumbersOnly
-    rightPadding: unitLabel.text ? unitLabel.width + Theme.spaceS : Theme.spaceM
+    rightPadding: root.unit ? unitButton.width + Theme.spaceS : Theme.spaceM
     Accessible.role: Accessible.SpinBox
     Accessible.description: unit
 
@@ -113,32 +113,40 @@ ZmTextField {
         onWheel: event => root.stepBy(event.angleDelta.y > 0 ? 1 : -1)
     }
 
-    Label {
-        id: unitLabel
+    // A button where the unit can be switched.
+    AbstractButton {
+        id: unitButton
 
         anchors.right: parent.right
         height: parent.height
+        visible: root.unit
+        enabled: root.unitToolTip
+        focusPolicy: Qt.TabFocus
+        hoverEnabled: true
         leftPadding: Theme.spaceS
         rightPadding: Theme.spaceM
-        verticalAlignment: Text.AlignVCenter
-        text: root.unit
-        color: unitArea.containsMouse ? Theme.text : Theme.mutedText
-        font.pixelSize: Theme.fontSmall
-        font.underline: unitArea.enabled && unitArea.containsMouse
+        Accessible.name: root.unitToolTip
+        Accessible.ignored: !enabled
+        onClicked: root.unitClicked()
 
-        MouseArea {
-            id: unitArea
+        contentItem: Text {
+            verticalAlignment: Text.AlignVCenter
+            text: root.unit
+            color: unitButton.enabled && unitButton.hovered ? Theme.text : Theme.mutedText
+            font.pixelSize: Theme.fontSmall
+            font.underline: unitButton.enabled && unitButton.hovered
+        }
 
-            anchors.fill: parent
-            enabled: root.unitToolTip
-            hoverEnabled: enabled
+        background: FocusFrame { control: unitButton }
+
+        HoverHandler {
+            enabled: unitButton.enabled
             cursorShape: Qt.PointingHandCursor
-            onClicked: root.unitClicked()
+        }
 
-            ZmToolTip {
-                visible: unitArea.containsMouse
-                text: root.unitToolTip
-            }
+        ZmToolTip {
+            visible: unitButton.hovered && text
+            text: root.unitToolTip
         }
     }
 }

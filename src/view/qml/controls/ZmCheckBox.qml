@@ -9,6 +9,7 @@ CheckBox {
     padding: 0
     spacing: Theme.spaceM
     opacity: enabled ? 1 : Theme.disabledOpacity
+    Accessible.name: text
 
     indicator: Rectangle {
         x: root.text ? root.leftPadding : (root.width - width) / 2

@@ -143,12 +143,14 @@ ZmInspectorPanel {
 
         SkewRow {
             label: qsTr("X")
+            accessibleName: qsTr("Skew X")
             value: root.sceneObjectAdapter.skewX
             onEdited: value => root.sceneObjectAdapter.skewX = value
         }
 
         SkewRow {
             label: qsTr("Y")
+            accessibleName: qsTr("Skew Y")
             value: root.sceneObjectAdapter.skewY
             onEdited: value => root.sceneObjectAdapter.skewY = value
         }

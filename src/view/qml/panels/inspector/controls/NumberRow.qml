@@ -5,6 +5,8 @@ import QtQuick.Layouts
 InspectorRow {
     id: root
 
+    // For screen readers, where the label alone could be another row's.
+    property string accessibleName: label
     property alias value: field.value
     property alias from: field.from
     property alias to: field.to
@@ -22,7 +24,7 @@ InspectorRow {
         id: field
 
         Layout.fillWidth: true
-        Accessible.name: root.label
+        Accessible.name: root.accessibleName
         onEdited: value => root.edited(value)
         onEditStarted: root.editStarted()
         onEditFinished: root.editFinished()
