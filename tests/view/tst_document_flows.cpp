@@ -146,6 +146,7 @@ private slots:
         QTRY_VERIFY(m_driver->shows("unsavedChangesDialog"));
         QVERIFY(m_driver->click(u"Save"_s));
         QTRY_VERIFY(m_driver->shows("exportDialog"));
+        QTRY_VERIFY(exporter().previewReady());
         m_driver->key(Qt::Key_Escape);
         QTRY_VERIFY(!m_driver->shows("exportDialog"));
         QCOMPARE(m_driver->window()->property("pendingUnsavedAction").toInt(), 0);

@@ -136,8 +136,8 @@ private slots:
         QTRY_COMPARE(names(), QStringList({u"top"_s, u"bottom"_s, u"xy"_s}));
 
         QVERIFY(m_driver->named(u"Hide layer"_s));
-        m_driver->click(m_driver->named(u"Hide layer"_s)); // of the topmost
-        QTRY_VERIFY(!document().objectAt(2)->isVisible());
+        m_driver->click(m_driver->named(u"Hide layer"_s)); // of the last row
+        QTRY_VERIFY(!document().objectAt(0)->isVisible());
 
         CommandHistory &history = m_driver->context().commandHistory;
         QCOMPARE(history.count(), 3);

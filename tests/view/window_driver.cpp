@@ -23,10 +23,11 @@ QString withoutMnemonic(QString text)
     return text.remove(u'&');
 }
 
+/// Of a control; the label beside it may say the same.
 QString accessibleName(QQuickItem *item)
 {
     const QAccessibleInterface *interface = QAccessible::queryAccessibleInterface(item);
-    return interface ? interface->text(QAccessible::Name) : QString();
+    return interface && interface->role() != QAccessible::StaticText ? interface->text(QAccessible::Name) : QString();
 }
 
 } // namespace

@@ -125,7 +125,7 @@ ZmTextField {
         hoverEnabled: true
         leftPadding: Theme.spaceS
         rightPadding: Theme.spaceM
-        Accessible.name: root.unitToolTip
+        Accessible.name: root.unitToolTip || root.unit
         Accessible.ignored: !enabled
         onClicked: root.unitClicked()
 
