@@ -533,6 +533,7 @@ ApplicationWindow {
             rasterizeLayerAction: windowActions.layers.rasterize
             mergeLayerBelowAction: windowActions.layers.collapseDown
             removeLayerAction: windowActions.layers.removeLayer
+            onTypingFinished: canvas.forceCanvasFocus()
         }
     }
 

@@ -41,7 +41,7 @@ ZmMessageDialog {
     defaultButton: saveButton
     onAboutToShow: answer = dismissed
     onOpened: saveButton.forceActiveFocus()
-    onClosed: answer()
+    onClosed: Qt.callLater(answer)       // closing ends by giving the focus back, which a next dialog would lose
 
     footer: ZmDialogFooter {
         dialog: root

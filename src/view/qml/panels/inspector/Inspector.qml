@@ -93,6 +93,9 @@ Pane {
         }
     ]
 
+    // A field has taken what was typed: keys may go to the canvas again.
+    signal typingFinished()
+
     function activateInfoTab() {
         currentPanel = Inspector.Info
     }
@@ -105,9 +108,17 @@ Pane {
             activateInfoTab()
     }
 
+    function finishTyping(event) {
+        event.accepted = Window.activeFocusItem instanceof TextField
+        if (event.accepted)
+            typingFinished()
+    }
+
     padding: 0
     implicitWidth: 300
     onActiveToolsChanged: syncToolTabSelection()
+    Keys.onReturnPressed: event => finishTyping(event)
+    Keys.onEnterPressed: event => finishTyping(event)
 
     background: Rectangle {
         color: Theme.surface
