@@ -329,7 +329,7 @@ ApplicationWindow {
     minimumWidth: 800
     minimumHeight: 520
     visible: false
-    color: palette.window
+    color: palette.window   // asked for here, so that the window has a palette to follow the theme and to hand on
     title: filled(qsTr("%1%2 - %3"), [documentFileController.displayName, commandHistory.clean ? "" : "*",
                                       Application.displayName])
 
