@@ -54,14 +54,16 @@ class Frames
 {
 public:
     explicit Frames(QQuickWindow *window)
+        : m_window(window)
     {
         QObject::connect(window, &QQuickWindow::frameSwapped, window, [this] { ++m_count; }, Qt::QueuedConnection);
     }
 
-    /// Waits for a frame that was begun after now.
+    /// Waits for a frame that was begun after now. What changed may have had its own already, so one is asked for.
     void waitForNext() const
     {
         const int first = m_count;
+        m_window->update();
         waitUntil([&] { return m_count > first; });
     }
 
@@ -78,6 +80,7 @@ public:
     }
 
 private:
+    QQuickWindow *m_window;
     int m_count = 0;
 };
 

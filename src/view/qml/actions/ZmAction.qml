@@ -6,6 +6,5 @@ Action {
     property string toolTip
     // A single key that triggers the action while the canvas has the focus. No shortcut: typing must not trigger it.
     property string toolKey
-    // A switch between two icons or texts shows which by more than its check mark.
-    readonly property string plainText: text.replace("&", "")
+    readonly property string plainText: Theme.withoutMnemonic(text)
 }

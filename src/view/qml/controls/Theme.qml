@@ -56,4 +56,9 @@ QtObject {
     function withKeys(toolTip, keys) {
         return keys ? qsTr("%1 (%2)").arg(toolTip).arg(keys) : toolTip
     }
+
+    // Some languages write the letter in brackets behind the text.
+    function withoutMnemonic(text) {
+        return text.replace(/\s*\(&\w\)/, "").replace("&", "")
+    }
 }

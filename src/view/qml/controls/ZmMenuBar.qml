@@ -11,7 +11,7 @@ MenuBar {
         id: item
 
         implicitHeight: 26
-        Accessible.name: text.replace("&", "")
+        Accessible.name: Theme.withoutMnemonic(text)
         leftPadding: Theme.spaceM + 1
         rightPadding: Theme.spaceM + 1
         topPadding: 0
