@@ -53,7 +53,8 @@ bool BundledTextureLoader::registerBundleOf(const QString &path)
             continue;
         registered = QResource::registerResource(filePath);
         if (!registered)
-            qCWarning(lcTextures).noquote() << tr("Unable to register texture resource bundle: %1").arg(filePath);
+            qCWarning(lcTextures).noquote()
+                << TextureLoader::tr("Unable to register texture resource bundle: %1").arg(filePath);
         break;
     }
     m_registeredBundles.insert(id, registered);

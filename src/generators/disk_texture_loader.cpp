@@ -59,7 +59,7 @@ void DiskTextureLoader::setSearchRoots(const QStringList &searchRoots)
 QImage DiskTextureLoader::loadImage(const QString &path)
 {
     if (!isSafePath(path)) {
-        report(u"invalid:%1"_s.arg(path), tr("Rejected unsafe texture image path: %1").arg(path));
+        report(u"invalid:%1"_s.arg(path), TextureLoader::tr("Rejected unsafe texture image path: %1").arg(path));
         return {};
     }
     QStringList roots;
@@ -73,7 +73,7 @@ QImage DiskTextureLoader::loadImage(const QString &path)
     const QString filePath = find(path, roots);
     if (filePath.isEmpty()) {
         report(u"missing:%1"_s.arg(path),
-               tr("Texture image not found: %1 (searched: %2)").arg(path, searchedText(roots)));
+               TextureLoader::tr("Texture image not found: %1 (searched: %2)").arg(path, searchedText(roots)));
         return {};
     }
     QImageReader reader(filePath);
@@ -81,8 +81,9 @@ QImage DiskTextureLoader::loadImage(const QString &path)
     QImage image = reader.read();
     if (image.isNull()) {
         const QString reason =
-            reader.errorString().isEmpty() ? tr("unknown image decoder error") : reader.errorString();
-        report(u"decode:%1"_s.arg(path), tr("Unable to load texture image %1 from %2: %3").arg(path, filePath, reason));
+            reader.errorString().isEmpty() ? TextureLoader::tr("unknown image decoder error") : reader.errorString();
+        report(u"decode:%1"_s.arg(path),
+               TextureLoader::tr("Unable to load texture image %1 from %2: %3").arg(path, filePath, reason));
         return {};
     }
     image.convertTo(QImage::Format_RGBA8888);
@@ -96,14 +97,14 @@ QImage DiskTextureLoader::loadImage(const QString &path)
 QByteArray DiskTextureLoader::loadData(const QString &path)
 {
     if (!isSafePath(path)) {
-        report(u"data-invalid:%1"_s.arg(path), tr("Rejected unsafe texture data path: %1").arg(path));
+        report(u"data-invalid:%1"_s.arg(path), TextureLoader::tr("Rejected unsafe texture data path: %1").arg(path));
         return {};
     }
     const QStringList roots = searchRoots();
     if (const QString filePath = find(path, roots); !filePath.isEmpty())
         return readData(path, filePath);
     report(u"data-missing:%1"_s.arg(path),
-           tr("Texture data not found: %1 (searched: %2)").arg(path, searchedText(roots)));
+           TextureLoader::tr("Texture data not found: %1 (searched: %2)").arg(path, searchedText(roots)));
     return {};
 }
 
@@ -112,14 +113,15 @@ QByteArray DiskTextureLoader::loadData(const QStringList &candidates)
     const QStringList roots = searchRoots();
     for (const QString &path : candidates) {
         if (!isSafePath(path))
-            report(u"data-invalid:%1"_s.arg(path), tr("Rejected unsafe texture data path: %1").arg(path));
+            report(u"data-invalid:%1"_s.arg(path),
+                   TextureLoader::tr("Rejected unsafe texture data path: %1").arg(path));
         else if (const QString filePath = find(path, roots); !filePath.isEmpty())
             return readData(path, filePath);
     }
     const QString names = candidates.join(", "_L1);
     const QString searched = searchedText(roots);
     report(u"data-candidates-missing:%1:%2"_s.arg(names, searched),
-           tr("Texture data not found for any candidate: %1 (searched: %2)").arg(names, searched));
+           TextureLoader::tr("Texture data not found for any candidate: %1 (searched: %2)").arg(names, searched));
     return {};
 }
 
@@ -150,13 +152,13 @@ QByteArray DiskTextureLoader::readData(const QString &path, const QString &fileP
         bytes = file.readAll();
     if (file.error() != QFileDevice::NoError) {
         bytes.clear();
-        reason = file.errorString().isEmpty() ? tr("unknown read error") : file.errorString();
+        reason = file.errorString().isEmpty() ? TextureLoader::tr("unknown read error") : file.errorString();
     } else if (bytes.isEmpty()) {
-        reason = tr("file is empty");
+        reason = TextureLoader::tr("file is empty");
     }
     if (bytes.isEmpty()) {
         report(u"data-read:%1"_s.arg(path),
-               tr("Unable to read texture data %1 from %2: %3").arg(path, filePath, reason));
+               TextureLoader::tr("Unable to read texture data %1 from %2: %3").arg(path, filePath, reason));
     }
     return bytes;
 }

@@ -203,29 +203,27 @@ struct ValueKind
     const char *unwritable;
 };
 
-#define ZM_TEXT(text) QT_TRANSLATE_NOOP("ZelmoraDocumentIO", text)
-
 /// By ParameterValue's alternative; the code in the file is one more.
 constexpr std::array<ValueKind, std::variant_size_v<ParameterValue>> kValueKinds{{
-    {4, decodeBoolean, ZM_TEXT("A Boolean parameter is invalid."), nullptr},
+    {4, decodeBoolean, QT_TRANSLATE_NOOP("ZelmoraDocumentIO", "A Boolean parameter is invalid."), nullptr},
     {8, decodeInteger, nullptr, nullptr},
-    {8, decodeReal, ZM_TEXT("A real parameter is not finite."), ZM_TEXT("A parameter contains a non-finite number.")},
+    {8, decodeReal, QT_TRANSLATE_NOOP("ZelmoraDocumentIO", "A real parameter is not finite."),
+     QT_TRANSLATE_NOOP("ZelmoraDocumentIO", "A parameter contains a non-finite number.")},
     {16, decodeColor, nullptr, nullptr},
-    {0, decodeString, ZM_TEXT("A parameter string value is too large."), nullptr},
-    {0, decodeAsset, ZM_TEXT("An asset parameter must be a file name, not a path."),
-     ZM_TEXT("An asset parameter must be a file name, not a path.")},
-    {20, decodeEnabledColor, ZM_TEXT("An enabled-color parameter is invalid."), nullptr},
-    {24, decodeStroke, ZM_TEXT("A stroke parameter is invalid."), ZM_TEXT("A stroke contains an invalid width.")},
-    {32, decodeGradientPosition, ZM_TEXT("A gradient parameter is invalid."),
-     ZM_TEXT("A gradient contains a non-finite position.")},
-    {64, decodeMaskTransform, ZM_TEXT("A mask transform is invalid."),
-     ZM_TEXT("A mask contains a non-finite transform.")},
-    {0, decodeShapeMask, ZM_TEXT("A parameter string value is too large."), nullptr},
-    {0, decodeLightSources, ZM_TEXT("A light list parameter is invalid."),
-     ZM_TEXT("A light list contains an invalid light.")},
+    {0, decodeString, QT_TRANSLATE_NOOP("ZelmoraDocumentIO", "A parameter string value is too large."), nullptr},
+    {0, decodeAsset, QT_TRANSLATE_NOOP("ZelmoraDocumentIO", "An asset parameter must be a file name, not a path."),
+     QT_TRANSLATE_NOOP("ZelmoraDocumentIO", "An asset parameter must be a file name, not a path.")},
+    {20, decodeEnabledColor, QT_TRANSLATE_NOOP("ZelmoraDocumentIO", "An enabled-color parameter is invalid."), nullptr},
+    {24, decodeStroke, QT_TRANSLATE_NOOP("ZelmoraDocumentIO", "A stroke parameter is invalid."),
+     QT_TRANSLATE_NOOP("ZelmoraDocumentIO", "A stroke contains an invalid width.")},
+    {32, decodeGradientPosition, QT_TRANSLATE_NOOP("ZelmoraDocumentIO", "A gradient parameter is invalid."),
+     QT_TRANSLATE_NOOP("ZelmoraDocumentIO", "A gradient contains a non-finite position.")},
+    {64, decodeMaskTransform, QT_TRANSLATE_NOOP("ZelmoraDocumentIO", "A mask transform is invalid."),
+     QT_TRANSLATE_NOOP("ZelmoraDocumentIO", "A mask contains a non-finite transform.")},
+    {0, decodeShapeMask, QT_TRANSLATE_NOOP("ZelmoraDocumentIO", "A parameter string value is too large."), nullptr},
+    {0, decodeLightSources, QT_TRANSLATE_NOOP("ZelmoraDocumentIO", "A light list parameter is invalid."),
+     QT_TRANSLATE_NOOP("ZelmoraDocumentIO", "A light list contains an invalid light.")},
 }};
-
-#undef ZM_TEXT
 
 std::optional<QByteArray> encodeValue(const ParameterValue &value, FileError &error)
 {
