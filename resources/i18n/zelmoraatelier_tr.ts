@@ -5,1207 +5,1208 @@
     <name>AboutDialog</name>
     <message>
         <source>Version %1</source>
-        <translation type="unfinished"></translation>
+        <translation>Sürüm %1</translation>
     </message>
     <message>
         <source>Licenses</source>
-        <translation type="unfinished"></translation>
+        <translation>Lisanslar</translation>
     </message>
     <message>
         <source>There is no file manager that shows the log folder.</source>
-        <translation type="unfinished"></translation>
+        <translation>Günlük klasörünü gösterecek bir dosya yöneticisi yok.</translation>
     </message>
     <message>
         <source>Web site</source>
-        <translation type="unfinished"></translation>
+        <translation>Web sitesi</translation>
     </message>
     <message>
         <source>Open Log Folder</source>
-        <translation type="unfinished"></translation>
+        <translation>Günlük Klasörünü Aç</translation>
     </message>
     <message>
         <source>Close</source>
-        <translation type="unfinished"></translation>
+        <translation>Kapat</translation>
     </message>
 </context>
 <context>
     <name>AddSceneObjectCommand</name>
     <message>
         <source>Add %1</source>
-        <translation type="unfinished"></translation>
+        <translation>%1 Ekle</translation>
     </message>
     <message>
         <source>Object</source>
-        <translation type="unfinished"></translation>
+        <translation>Nesne</translation>
     </message>
 </context>
 <context>
     <name>ArrowShapeGenerator</name>
     <message>
         <source>Arrow</source>
-        <translation type="unfinished"></translation>
+        <translation>Ok</translation>
     </message>
     <message>
         <source>Corner Radius</source>
-        <translation type="unfinished"></translation>
+        <translation>Köşe Yarıçapı</translation>
     </message>
     <message>
         <source>Tip</source>
-        <translation type="unfinished"></translation>
+        <translation>Uç</translation>
     </message>
     <message>
         <source>Tail</source>
-        <translation type="unfinished"></translation>
+        <translation>Kuyruk</translation>
     </message>
 </context>
 <context>
     <name>BurstShapeGenerator</name>
     <message>
         <source>Burst</source>
-        <translation type="unfinished"></translation>
+        <translation>Patlama</translation>
     </message>
     <message>
         <source>Rays</source>
-        <translation type="unfinished"></translation>
+        <translation>Işınlar</translation>
     </message>
     <message>
         <source>Depth</source>
-        <translation type="unfinished"></translation>
+        <translation>Derinlik</translation>
     </message>
     <message>
         <source>Corner Radius</source>
-        <translation type="unfinished"></translation>
+        <translation>Köşe Yarıçapı</translation>
     </message>
 </context>
 <context>
     <name>BusyCover</name>
     <message>
         <source>Busy</source>
-        <translation type="unfinished"></translation>
+        <translation>Meşgul</translation>
     </message>
 </context>
 <context>
     <name>BusyRing</name>
     <message>
         <source>Busy</source>
-        <translation type="unfinished"></translation>
+        <translation>Meşgul</translation>
     </message>
 </context>
 <context>
     <name>Canvas</name>
     <message>
         <source>Canvas</source>
-        <translation type="unfinished"></translation>
+        <translation>Tuval</translation>
     </message>
     <message>
         <source>The document. Drag to move the view, turn the wheel to zoom.</source>
-        <translation type="unfinished"></translation>
+        <translation>Belge. Görünümü taşımak için sürükleyin, yakınlaştırmak için tekerleği çevirin.</translation>
     </message>
 </context>
 <context>
     <name>CanvasClipModeAction</name>
     <message>
         <source>&amp;Limit Canvas to Document Bounds</source>
-        <translation type="unfinished"></translation>
+        <translation>&amp;Tuvali Belge Sınırlarıyla Kısıtla</translation>
     </message>
 </context>
 <context>
     <name>CanvasContextMenu</name>
     <message>
         <source>Rasterize Layer</source>
-        <translation type="unfinished"></translation>
+        <translation>Katmanı Rasterleştir</translation>
     </message>
 </context>
 <context>
     <name>CloudShapeGenerator</name>
     <message>
         <source>Cloud</source>
-        <translation type="unfinished"></translation>
+        <translation>Bulut</translation>
     </message>
     <message>
         <source>Form</source>
-        <translation type="unfinished"></translation>
+        <translation>Biçim</translation>
     </message>
     <message>
         <source>Puffiness</source>
-        <translation type="unfinished"></translation>
+        <translation>Kabarıklık</translation>
     </message>
 </context>
 <context>
     <name>CollapseLayerDownCommand</name>
     <message>
         <source>Combine Layers</source>
-        <translation type="unfinished"></translation>
+        <translation>Katmanları Birleştir</translation>
     </message>
 </context>
 <context>
     <name>ColorPickerButton</name>
     <message>
         <source>Choose Color</source>
-        <translation type="unfinished"></translation>
+        <translation>Renk Seç</translation>
     </message>
 </context>
 <context>
     <name>ConvertShapeToPathCommand</name>
     <message>
         <source>Convert Shape to Path</source>
-        <translation type="unfinished"></translation>
+        <translation>Şekli Yola Dönüştür</translation>
     </message>
 </context>
 <context>
     <name>CropImageLayerCommand</name>
     <message>
         <source>Crop Image</source>
-        <translation type="unfinished"></translation>
+        <translation>Görüntüyü Kırp</translation>
     </message>
 </context>
 <context>
     <name>DebugMenu</name>
     <message>
         <source>&amp;Debug</source>
-        <translation type="unfinished"></translation>
+        <translation>&amp;Hata Ayıklama</translation>
     </message>
     <message>
         <source>&amp;Runtime Flags</source>
-        <translation type="unfinished"></translation>
+        <translation>Çalışma &amp;Zamanı Bayrakları</translation>
     </message>
     <message>
         <source>&amp;Missing HEVC Codec</source>
-        <translation type="unfinished"></translation>
+        <translation>&amp;Eksik HEVC Kodeki</translation>
     </message>
     <message>
         <source>Dialog &amp;Previews</source>
-        <translation type="unfinished"></translation>
+        <translation>İletişim &amp;Kutusu Önizlemeleri</translation>
     </message>
     <message>
         <source>HEIF Help</source>
-        <translation type="unfinished"></translation>
+        <translation>HEIF Yardımı</translation>
     </message>
     <message>
         <source>Save Progress</source>
-        <translation type="unfinished"></translation>
+        <translation>Kaydetme İlerlemesi</translation>
     </message>
     <message>
         <source>Language Restart</source>
-        <translation type="unfinished"></translation>
+        <translation>Dil İçin Yeniden Başlatma</translation>
     </message>
 </context>
 <context>
     <name>DiamondShapeGenerator</name>
     <message>
         <source>Diamond</source>
-        <translation type="unfinished"></translation>
+        <translation>Karo</translation>
     </message>
     <message>
         <source>Corner Radius</source>
-        <translation type="unfinished"></translation>
+        <translation>Köşe Yarıçapı</translation>
     </message>
     <message>
         <source>Horizontal</source>
-        <translation type="unfinished"></translation>
+        <translation>Yatay</translation>
     </message>
     <message>
         <source>Vertical</source>
-        <translation type="unfinished"></translation>
+        <translation>Dikey</translation>
     </message>
 </context>
 <context>
     <name>DocumentBoundsAction</name>
     <message>
         <source>Show Document &amp;Bounds</source>
-        <translation type="unfinished"></translation>
+        <translation>&amp;Belge Sınırlarını Göster</translation>
     </message>
 </context>
 <context>
     <name>DocumentPanel</name>
     <message>
         <source>Document Size</source>
-        <translation type="unfinished"></translation>
+        <translation>Belge Boyutu</translation>
     </message>
     <message>
         <source>Width</source>
-        <translation type="unfinished"></translation>
+        <translation>Genişlik</translation>
     </message>
     <message>
         <source>Height</source>
-        <translation type="unfinished"></translation>
+        <translation>Yükseklik</translation>
     </message>
     <message>
         <source>Fit Document to Content</source>
-        <translation type="unfinished"></translation>
+        <translation>Belgeyi İçeriğe Sığdır</translation>
     </message>
     <message>
         <source>Background</source>
-        <translation type="unfinished"></translation>
+        <translation>Arka Plan</translation>
     </message>
     <message>
         <source>Color</source>
-        <translation type="unfinished"></translation>
+        <translation>Renk</translation>
     </message>
     <message>
         <source>Choose Document Background Color</source>
-        <translation type="unfinished"></translation>
+        <translation>Belgenin Arka Plan Rengini Seç</translation>
     </message>
     <message>
         <source>Background color</source>
-        <translation type="unfinished"></translation>
+        <translation>Arka plan rengi</translation>
     </message>
     <message>
         <source>px</source>
-        <translation type="unfinished"></translation>
+        <translation>px</translation>
     </message>
 </context>
 <context>
     <name>EditActions</name>
     <message>
         <source>&amp;Undo</source>
-        <translation type="unfinished"></translation>
+        <translation>&amp;Geri Al</translation>
     </message>
     <message>
         <source>Undo %1</source>
-        <translation type="unfinished"></translation>
+        <translation>Geri Al: %1</translation>
     </message>
     <message>
         <source>Undo</source>
-        <translation type="unfinished"></translation>
+        <translation>Geri Al</translation>
     </message>
     <message>
         <source>&amp;Redo</source>
-        <translation type="unfinished"></translation>
+        <translation>&amp;Yinele</translation>
     </message>
     <message>
         <source>Redo %1</source>
-        <translation type="unfinished"></translation>
+        <translation>Yinele: %1</translation>
     </message>
     <message>
         <source>Redo</source>
-        <translation type="unfinished"></translation>
+        <translation>Yinele</translation>
     </message>
     <message>
         <source>Cu&amp;t</source>
-        <translation type="unfinished"></translation>
+        <translation>K&amp;es</translation>
     </message>
     <message>
         <source>&amp;Copy</source>
-        <translation type="unfinished"></translation>
+        <translation>&amp;Kopyala</translation>
     </message>
     <message>
         <source>&amp;Paste</source>
-        <translation type="unfinished"></translation>
+        <translation>Ya&amp;pıştır</translation>
     </message>
 </context>
 <context>
     <name>EllipseShapeGenerator</name>
     <message>
         <source>Ellipse</source>
-        <translation type="unfinished"></translation>
+        <translation>Elips</translation>
     </message>
     <message>
         <source>Roundness</source>
-        <translation type="unfinished"></translation>
+        <translation>Yuvarlaklık</translation>
     </message>
     <message>
         <source>Middle</source>
-        <translation type="unfinished"></translation>
+        <translation>Orta</translation>
     </message>
 </context>
 <context>
     <name>ExportDialog</name>
     <message>
         <source>Export Settings</source>
-        <translation type="unfinished"></translation>
+        <translation>Dışa Aktarma Ayarları</translation>
     </message>
     <message>
         <source>Format</source>
-        <translation type="unfinished"></translation>
+        <translation>Biçim</translation>
     </message>
     <message>
         <source>JPEG</source>
-        <translation type="unfinished"></translation>
+        <translation>JPEG</translation>
     </message>
     <message>
         <source>WebP</source>
-        <translation type="unfinished"></translation>
+        <translation>WebP</translation>
     </message>
     <message>
         <source>WebP, transparent</source>
-        <translation type="unfinished"></translation>
+        <translation>WebP, saydam</translation>
     </message>
     <message>
         <source>PNG</source>
-        <translation type="unfinished"></translation>
+        <translation>PNG</translation>
     </message>
     <message>
         <source>PNG, transparent</source>
-        <translation type="unfinished"></translation>
+        <translation>PNG, saydam</translation>
     </message>
     <message>
         <source>This image contains transparency. Choose a transparent-background format to preserve it.</source>
-        <translation type="unfinished"></translation>
+        <translation>Bu görüntü saydamlık içeriyor. Saydamlığı korumak için saydam arka planlı bir biçim seçin.</translation>
     </message>
     <message>
         <source>Width</source>
-        <translation type="unfinished"></translation>
+        <translation>Genişlik</translation>
     </message>
     <message>
         <source>Keep the proportions</source>
-        <translation type="unfinished"></translation>
+        <translation>Oranları koru</translation>
     </message>
     <message>
         <source>Height</source>
-        <translation type="unfinished"></translation>
+        <translation>Yükseklik</translation>
     </message>
     <message>
         <source>Quality</source>
-        <translation type="unfinished"></translation>
+        <translation>Kalite</translation>
     </message>
     <message>
         <source>Quality in percent</source>
-        <translation type="unfinished"></translation>
+        <translation>Yüzde olarak kalite</translation>
     </message>
     <message>
         <source>PNG compression</source>
-        <translation type="unfinished"></translation>
+        <translation>PNG sıkıştırması</translation>
     </message>
     <message>
         <source>Max</source>
-        <translation type="unfinished"></translation>
+        <translation>En fazla</translation>
     </message>
     <message>
         <source>Lossless document file</source>
-        <translation type="unfinished"></translation>
+        <translation>Kayıpsız belge dosyası</translation>
     </message>
     <message>
         <source>Keeps every pixel of the editable document, in a larger file.</source>
-        <translation type="unfinished"></translation>
+        <translation>Düzenlenebilir belgenin her pikselini daha büyük bir dosyada korur.</translation>
     </message>
     <message>
         <source>Estimated Image Size:</source>
-        <translation type="unfinished"></translation>
+        <translation>Tahmini Görüntü Boyutu:</translation>
     </message>
     <message>
         <source>Calculating…</source>
-        <translation type="unfinished"></translation>
+        <translation>Hesaplanıyor…</translation>
     </message>
     <message>
         <source>Unavailable</source>
-        <translation type="unfinished"></translation>
+        <translation>Kullanılamıyor</translation>
     </message>
     <message>
         <source>An editable Zelmora document (.zelmora) is saved alongside the image.</source>
-        <translation type="unfinished"></translation>
+        <translation>Görüntüyle birlikte düzenlenebilir bir Zelmora belgesi (.zelmora) kaydedilir.</translation>
     </message>
     <message>
         <source>Cancel</source>
-        <translation type="unfinished"></translation>
+        <translation>İptal</translation>
     </message>
     <message>
         <source>Save…</source>
-        <translation type="unfinished"></translation>
+        <translation>Kaydet…</translation>
     </message>
 </context>
 <context>
     <name>ExportPreview</name>
     <message>
         <source>Encoding preview…</source>
-        <translation type="unfinished"></translation>
+        <translation>Önizleme kodlanıyor…</translation>
     </message>
     <message>
         <source>Loading preview…</source>
-        <translation type="unfinished"></translation>
+        <translation>Önizleme yükleniyor…</translation>
     </message>
     <message>
         <source>Preview</source>
-        <translation type="unfinished"></translation>
+        <translation>Önizleme</translation>
     </message>
     <message>
         <source>Zoom out</source>
-        <translation type="unfinished"></translation>
+        <translation>Uzaklaştır</translation>
     </message>
     <message>
         <source>%1 %</source>
-        <translation type="unfinished"></translation>
+        <translation>%%1</translation>
     </message>
     <message>
         <source>Zoom in</source>
-        <translation type="unfinished"></translation>
+        <translation>Yakınlaştır</translation>
     </message>
     <message>
         <source>Fit</source>
-        <translation type="unfinished"></translation>
+        <translation>Sığdır</translation>
     </message>
     <message>
         <source>Show the whole picture</source>
-        <translation type="unfinished"></translation>
+        <translation>Görüntünün tamamını göster</translation>
     </message>
     <message>
         <source>100 %</source>
-        <translation type="unfinished"></translation>
+        <translation>1:1</translation>
     </message>
     <message>
         <source>Show the picture in its own size</source>
-        <translation type="unfinished"></translation>
+        <translation>Görüntüyü kendi boyutunda göster</translation>
     </message>
     <message>
         <source>%1 × %2 px</source>
-        <translation type="unfinished"></translation>
+        <translation>%1 × %2 px</translation>
     </message>
 </context>
 <context>
     <name>FadeOutFilter</name>
     <message>
         <source>alpha, fade, gradient, transparent</source>
-        <translation type="unfinished"></translation>
+        <translation>alfa, solma, degrade, saydam</translation>
     </message>
     <message>
         <source>Mode</source>
-        <translation type="unfinished"></translation>
+        <translation>Mod</translation>
     </message>
     <message>
         <source>Linear</source>
-        <translation type="unfinished"></translation>
+        <translation>Doğrusal</translation>
     </message>
     <message>
         <source>Radial</source>
-        <translation type="unfinished"></translation>
+        <translation>Dairesel</translation>
     </message>
     <message>
         <source>Fade</source>
-        <translation type="unfinished"></translation>
+        <translation>Solma</translation>
     </message>
     <message>
         <source>Position Fade</source>
-        <translation type="unfinished"></translation>
+        <translation>Solmayı Konumlandır</translation>
     </message>
     <message>
         <source>Fade color</source>
-        <translation type="unfinished"></translation>
+        <translation>Solma rengi</translation>
     </message>
     <message>
         <source>Strength</source>
-        <translation type="unfinished"></translation>
+        <translation>Güç</translation>
     </message>
     <message>
         <source>Curve</source>
-        <translation type="unfinished"></translation>
+        <translation>Eğri</translation>
     </message>
     <message>
         <source>Softness</source>
-        <translation type="unfinished"></translation>
+        <translation>Yumuşaklık</translation>
     </message>
     <message>
         <source>Invert</source>
-        <translation type="unfinished"></translation>
+        <translation>Ters Çevir</translation>
     </message>
     <message>
         <source>Document color</source>
-        <translation type="unfinished"></translation>
+        <translation>Belge rengi</translation>
     </message>
     <message>
         <source>Fade Out</source>
-        <translation type="unfinished"></translation>
+        <translation>Soldur</translation>
     </message>
 </context>
 <context>
     <name>FileActions</name>
     <message>
         <source>&amp;New</source>
-        <translation type="unfinished"></translation>
+        <translation>&amp;Yeni</translation>
     </message>
     <message>
         <source>New document</source>
-        <translation type="unfinished"></translation>
+        <translation>Yeni belge</translation>
     </message>
     <message>
         <source>&amp;Open…</source>
-        <translation type="unfinished"></translation>
+        <translation>&amp;Aç…</translation>
     </message>
     <message>
         <source>Open a document or image</source>
-        <translation type="unfinished"></translation>
+        <translation>Belge veya görüntü aç</translation>
     </message>
     <message>
         <source>&amp;Save</source>
-        <translation type="unfinished"></translation>
+        <translation>&amp;Kaydet</translation>
     </message>
     <message>
         <source>Save image and document</source>
-        <translation type="unfinished"></translation>
+        <translation>Görüntüyü ve belgeyi kaydet</translation>
     </message>
     <message>
         <source>Save &amp;As…</source>
-        <translation type="unfinished"></translation>
+        <translation>&amp;Farklı Kaydet…</translation>
     </message>
     <message>
         <source>&amp;Quit</source>
-        <translation type="unfinished"></translation>
+        <translation>&amp;Çık</translation>
     </message>
 </context>
 <context>
     <name>FilterShaderCatalog</name>
     <message>
         <source>Add noise</source>
-        <translation type="unfinished"></translation>
+        <translation>Gürültü ekle</translation>
     </message>
     <message>
         <source>Box blur</source>
-        <translation type="unfinished"></translation>
+        <translation>Kutu bulanıklığı</translation>
     </message>
     <message>
         <source>Color adjust</source>
-        <translation type="unfinished"></translation>
+        <translation>Renk ayarı</translation>
     </message>
     <message>
         <source>Colorize</source>
-        <translation type="unfinished"></translation>
+        <translation>Renklendir</translation>
     </message>
     <message>
         <source>Fade out</source>
-        <translation type="unfinished"></translation>
+        <translation>Soldur</translation>
     </message>
     <message>
         <source>Gaussian blur</source>
-        <translation type="unfinished"></translation>
+        <translation>Gauss bulanıklığı</translation>
     </message>
     <message>
         <source>Grayscale</source>
-        <translation type="unfinished"></translation>
+        <translation>Gri tonlama</translation>
     </message>
     <message>
         <source>Highlights to alpha</source>
-        <translation type="unfinished"></translation>
+        <translation>Parlak alanları alfaya dönüştür</translation>
     </message>
     <message>
         <source>Inner shadow</source>
-        <translation type="unfinished"></translation>
+        <translation>İç gölge</translation>
     </message>
     <message>
         <source>Pixelate</source>
-        <translation type="unfinished"></translation>
+        <translation>Pikselleştir</translation>
     </message>
     <message>
         <source>Raise</source>
-        <translation type="unfinished"></translation>
+        <translation>Kabart</translation>
     </message>
     <message>
         <source>Sobel edge</source>
-        <translation type="unfinished"></translation>
+        <translation>Sobel kenarları</translation>
     </message>
     <message>
         <source>Soft bevel</source>
-        <translation type="unfinished"></translation>
+        <translation>Yumuşak eğim</translation>
     </message>
     <message>
         <source>Texture copy</source>
-        <translation type="unfinished"></translation>
+        <translation>Doku kopyası</translation>
     </message>
     <message>
         <source>Tone map</source>
-        <translation type="unfinished"></translation>
+        <translation>Ton eşleme</translation>
     </message>
     <message>
         <source>Water reflection</source>
-        <translation type="unfinished"></translation>
+        <translation>Su yansıması</translation>
     </message>
 </context>
 <context>
     <name>HalfCircleShapeGenerator</name>
     <message>
         <source>Half Circle</source>
-        <translation type="unfinished"></translation>
+        <translation>Yarım Daire</translation>
     </message>
     <message>
         <source>Crescent</source>
-        <translation type="unfinished"></translation>
+        <translation>Hilal</translation>
     </message>
     <message>
         <source>Corner Radius</source>
-        <translation type="unfinished"></translation>
+        <translation>Köşe Yarıçapı</translation>
     </message>
 </context>
 <context>
     <name>HeartShapeGenerator</name>
     <message>
         <source>Heart</source>
-        <translation type="unfinished"></translation>
+        <translation>Kalp</translation>
     </message>
     <message>
         <source>Lobes</source>
-        <translation type="unfinished"></translation>
+        <translation>Loblar</translation>
     </message>
     <message>
         <source>Cleft</source>
-        <translation type="unfinished"></translation>
+        <translation>Çentik</translation>
     </message>
     <message>
         <source>Tip</source>
-        <translation type="unfinished"></translation>
+        <translation>Uç</translation>
     </message>
 </context>
 <context>
     <name>HelpActions</name>
     <message>
         <source>Zelmora Atelier on the &amp;Web</source>
-        <translation type="unfinished"></translation>
+        <translation>Zelmora Atelier &amp;Web’de</translation>
     </message>
     <message>
         <source>&amp;About Zelmora Atelier</source>
-        <translation type="unfinished"></translation>
+        <translation>Zelmora Atelier &amp;Hakkında</translation>
     </message>
 </context>
 <context>
     <name>ImageLoadErrorDialog</name>
     <message>
         <source>OK</source>
-        <translation type="unfinished"></translation>
+        <translation>Tamam</translation>
     </message>
     <message>
         <source>HEIC/HEIF Support Is Unavailable</source>
-        <translation type="unfinished"></translation>
+        <translation>HEIC/HEIF Desteği Kullanılamıyor</translation>
     </message>
     <message>
         <source>Install the package kimageformat6-plugins, which gives Qt a HEIF reader, and start Zelmora Atelier again.</source>
-        <translation type="unfinished"></translation>
+        <translation>Qt’ye HEIF okuyucusu sağlayan kimageformat6-plugins paketini kurun ve Zelmora Atelier programını yeniden başlatın.</translation>
     </message>
     <message>
         <source>HEIF Image Extensions</source>
-        <translation type="unfinished"></translation>
+        <translation>HEIF Görüntü Uzantıları</translation>
     </message>
     <message>
         <source>HEVC Video Extensions</source>
-        <translation type="unfinished"></translation>
+        <translation>HEVC Video Uzantıları</translation>
     </message>
 </context>
 <context>
     <name>Inspector</name>
     <message>
         <source>Document</source>
-        <translation type="unfinished"></translation>
+        <translation>Belge</translation>
     </message>
     <message>
         <source>Paint Layer</source>
-        <translation type="unfinished"></translation>
+        <translation>Boyama Katmanı</translation>
     </message>
     <message>
         <source>Image</source>
-        <translation type="unfinished"></translation>
+        <translation>Görüntü</translation>
     </message>
     <message>
         <source>Text</source>
-        <translation type="unfinished"></translation>
+        <translation>Metin</translation>
     </message>
     <message>
         <source>Shape</source>
-        <translation type="unfinished"></translation>
+        <translation>Şekil</translation>
     </message>
     <message>
         <source>Layer</source>
-        <translation type="unfinished"></translation>
+        <translation>Katman</translation>
     </message>
     <message>
         <source>Size</source>
-        <translation type="unfinished"></translation>
+        <translation>Boyut</translation>
     </message>
 </context>
 <context>
     <name>InspectorTabBar</name>
     <message>
         <source>Inspector</source>
-        <translation type="unfinished"></translation>
+        <translation>Denetçi</translation>
     </message>
 </context>
 <context>
     <name>LanguageMenu</name>
     <message>
         <source>&amp;Language</source>
-        <translation type="unfinished"></translation>
+        <translation>Di&amp;l</translation>
     </message>
 </context>
 <context>
     <name>LanguageRestartDialog</name>
     <message>
         <source>Restart Zelmora Atelier for all changes to take effect.</source>
-        <translation type="unfinished"></translation>
+        <translation>Tüm değişikliklerin etkili olması için Zelmora Atelier programını yeniden başlatın.</translation>
     </message>
     <message>
         <source>OK</source>
-        <translation type="unfinished"></translation>
+        <translation>Tamam</translation>
     </message>
 </context>
 <context>
     <name>LayerActions</name>
     <message>
         <source>&amp;Image</source>
-        <translation type="unfinished"></translation>
+        <translation>&amp;Görüntü</translation>
     </message>
     <message>
         <source>Insert an image as a new layer</source>
-        <translation type="unfinished"></translation>
+        <translation>Yeni katman olarak görüntü ekle</translation>
     </message>
     <message>
         <source>Insert &amp;Example Image</source>
-        <translation type="unfinished"></translation>
+        <translation>Örnek &amp;Görüntü Ekle</translation>
     </message>
     <message>
         <source>&amp;Text</source>
-        <translation type="unfinished"></translation>
+        <translation>&amp;Metin</translation>
     </message>
     <message>
         <source>Insert a text layer</source>
-        <translation type="unfinished"></translation>
+        <translation>Metin katmanı ekle</translation>
     </message>
     <message>
         <source>&amp;Shape</source>
-        <translation type="unfinished"></translation>
+        <translation>&amp;Şekil</translation>
     </message>
     <message>
         <source>Insert a shape or sticker</source>
-        <translation type="unfinished"></translation>
+        <translation>Şekil veya çıkartma ekle</translation>
     </message>
     <message>
         <source>&amp;New Paint Layer</source>
-        <translation type="unfinished"></translation>
+        <translation>&amp;Yeni Boyama Katmanı</translation>
     </message>
     <message>
         <source>Show Layer</source>
-        <translation type="unfinished"></translation>
+        <translation>Katmanı Göster</translation>
     </message>
     <message>
         <source>Hide Layer</source>
-        <translation type="unfinished"></translation>
+        <translation>Katmanı Gizle</translation>
     </message>
     <message>
         <source>Move Layer &amp;Up</source>
-        <translation type="unfinished"></translation>
+        <translation>Katmanı Y&amp;ukarı Taşı</translation>
     </message>
     <message>
         <source>Move Layer &amp;Down</source>
-        <translation type="unfinished"></translation>
+        <translation>Katmanı &amp;Aşağı Taşı</translation>
     </message>
     <message>
         <source>&amp;Remove Layer</source>
-        <translation type="unfinished"></translation>
+        <translation>Katmanı Kal&amp;dır</translation>
     </message>
     <message>
         <source>R&amp;asterize Layer</source>
-        <translation type="unfinished"></translation>
+        <translation>Katmanı Ra&amp;sterleştir</translation>
     </message>
     <message>
         <source>&amp;Merge with Layer Below</source>
-        <translation type="unfinished"></translation>
+        <translation>Alttaki Katmanla &amp;Birleştir</translation>
     </message>
 </context>
 <context>
     <name>LayerFilterAdapter</name>
     <message>
         <source>Basics</source>
-        <translation type="unfinished"></translation>
+        <translation>Temel</translation>
     </message>
     <message>
         <source>Edges</source>
-        <translation type="unfinished"></translation>
+        <translation>Kenarlar</translation>
     </message>
     <message>
         <source>Recolor, Tone, add FX</source>
-        <translation type="unfinished"></translation>
+        <translation>Renk, Ton, Efekt</translation>
     </message>
     <message>
         <source>Styletransfers</source>
-        <translation type="unfinished"></translation>
+        <translation>Stil Aktarımları</translation>
     </message>
     <message>
         <source>Frames</source>
-        <translation type="unfinished"></translation>
+        <translation>Çerçeveler</translation>
     </message>
     <message>
         <source>Photomontages, Fun &amp; Art</source>
-        <translation type="unfinished"></translation>
+        <translation>Fotomontaj, Eğlence ve Sanat</translation>
     </message>
     <message>
         <source>Glitter &amp; Bling</source>
-        <translation type="unfinished"></translation>
+        <translation>Işıltı ve Parıltı</translation>
     </message>
     <message>
         <source>Effect</source>
-        <translation type="unfinished"></translation>
+        <translation>Efekt</translation>
     </message>
 </context>
 <context>
     <name>LayerForm</name>
     <message>
         <source>Name</source>
-        <translation type="unfinished"></translation>
+        <translation>Ad</translation>
     </message>
     <message>
         <source>Opacity</source>
-        <translation type="unfinished"></translation>
+        <translation>Opaklık</translation>
     </message>
     <message>
         <source>%1%</source>
-        <translation type="unfinished"></translation>
+        <translation>%%1</translation>
     </message>
     <message>
         <source>Blend Mode</source>
-        <translation type="unfinished"></translation>
+        <translation>Karıştırma Modu</translation>
     </message>
     <message>
         <source>Blend mode</source>
-        <translation type="unfinished"></translation>
+        <translation>Karıştırma modu</translation>
     </message>
 </context>
 <context>
     <name>LayerList</name>
     <message>
         <source>Layers</source>
-        <translation type="unfinished"></translation>
+        <translation>Katmanlar</translation>
     </message>
 </context>
 <context>
     <name>LayerMenu</name>
     <message>
         <source>Rename</source>
-        <translation type="unfinished"></translation>
+        <translation>Yeniden Adlandır</translation>
     </message>
 </context>
 <context>
     <name>LayerPanel</name>
     <message>
         <source>Layer</source>
-        <translation type="unfinished"></translation>
+        <translation>Katman</translation>
     </message>
     <message>
         <source>Select a layer to manage it.</source>
-        <translation type="unfinished"></translation>
+        <translation>Yönetmek için bir katman seçin.</translation>
     </message>
     <message>
         <source>Layers</source>
-        <translation type="unfinished"></translation>
+        <translation>Katmanlar</translation>
     </message>
     <message>
         <source>No layers yet.</source>
-        <translation type="unfinished"></translation>
+        <translation>Henüz katman yok.</translation>
     </message>
 </context>
 <context>
     <name>LayerRow</name>
     <message>
         <source>Layer %1, hidden</source>
-        <translation type="unfinished"></translation>
+        <translation>Katman %1, gizli</translation>
     </message>
     <message>
         <source>Layer %1</source>
-        <translation type="unfinished"></translation>
+        <translation>Katman %1</translation>
     </message>
     <message>
         <source>Has a raster selection</source>
-        <translation type="unfinished"></translation>
+        <translation>Raster seçimi var</translation>
     </message>
     <message>
         <source>Show layer</source>
-        <translation type="unfinished"></translation>
+        <translation>Katmanı göster</translation>
     </message>
     <message>
         <source>Hide layer</source>
-        <translation type="unfinished"></translation>
+        <translation>Katmanı gizle</translation>
     </message>
     <message>
         <source>Merge with layer below</source>
-        <translation type="unfinished"></translation>
+        <translation>Alttaki katmanla birleştir</translation>
     </message>
 </context>
 <context>
     <name>LayerSummary</name>
     <message>
         <source>Look of the layer</source>
-        <translation type="unfinished"></translation>
+        <translation>Katmanın görünüşü</translation>
     </message>
     <message>
         <source>Kind</source>
-        <translation type="unfinished"></translation>
+        <translation>Tür</translation>
     </message>
     <message>
         <source>Size</source>
-        <translation type="unfinished"></translation>
+        <translation>Boyut</translation>
     </message>
     <message>
         <source>%1 × %2 px</source>
-        <translation type="unfinished"></translation>
+        <translation>%1 × %2 px</translation>
     </message>
     <message>
         <source>Position</source>
-        <translation type="unfinished"></translation>
+        <translation>Konum</translation>
     </message>
     <message>
         <source>%1, %2 px</source>
-        <translation type="unfinished"></translation>
+        <translation>%1, %2 px</translation>
     </message>
 </context>
 <context>
     <name>LightningBoltShapeGenerator</name>
     <message>
         <source>Lightning</source>
-        <translation type="unfinished"></translation>
+        <translation>Şimşek</translation>
     </message>
     <message>
         <source>Bend</source>
-        <translation type="unfinished"></translation>
+        <translation>Bükülme</translation>
     </message>
     <message>
         <source>Corner Radius</source>
-        <translation type="unfinished"></translation>
+        <translation>Köşe Yarıçapı</translation>
     </message>
 </context>
 <context>
     <name>Main</name>
     <message>
         <source>Show in Finder</source>
-        <translation type="unfinished"></translation>
+        <translation>Finder’da Göster</translation>
     </message>
     <message>
         <source>Show in Explorer</source>
-        <translation type="unfinished"></translation>
+        <translation>Gezgin’de Göster</translation>
     </message>
     <message>
         <source>Image exported to %1.
 Editable document saved as %2.</source>
-        <translation type="unfinished"></translation>
+        <translation>Görüntü şuraya aktarıldı: %1.
+Düzenlenebilir belge şu adla kaydedildi: %2.</translation>
     </message>
     <message>
         <source>Could not open the folder containing the image.</source>
-        <translation type="unfinished"></translation>
+        <translation>Görüntünün bulunduğu klasör açılamadı.</translation>
     </message>
     <message>
         <source>%1%2 - %3</source>
-        <translation type="unfinished"></translation>
+        <translation>%1%2 - %3</translation>
     </message>
     <message>
         <source>Please wait for the current save to finish.</source>
-        <translation type="unfinished"></translation>
+        <translation>Lütfen geçerli kaydetme işleminin bitmesini bekleyin.</translation>
     </message>
 </context>
 <context>
     <name>MainMenuBar</name>
     <message>
         <source>&amp;File</source>
-        <translation type="unfinished"></translation>
+        <translation>&amp;Dosya</translation>
     </message>
     <message>
         <source>&amp;Edit</source>
-        <translation type="unfinished"></translation>
+        <translation>Dü&amp;zen</translation>
     </message>
     <message>
         <source>&amp;Select</source>
-        <translation type="unfinished"></translation>
+        <translation>&amp;Seç</translation>
     </message>
     <message>
         <source>&amp;View</source>
-        <translation type="unfinished"></translation>
+        <translation>&amp;Görünüm</translation>
     </message>
     <message>
         <source>&amp;Rulers</source>
-        <translation type="unfinished"></translation>
+        <translation>&amp;Cetveller</translation>
     </message>
     <message>
         <source>I&amp;nspector Position</source>
-        <translation type="unfinished"></translation>
+        <translation>&amp;Denetçi Konumu</translation>
     </message>
     <message>
         <source>&amp;Theme</source>
-        <translation type="unfinished"></translation>
+        <translation>T&amp;ema</translation>
     </message>
     <message>
         <source>&amp;Layer</source>
-        <translation type="unfinished"></translation>
+        <translation>&amp;Katman</translation>
     </message>
     <message>
         <source>&amp;Insert</source>
-        <translation type="unfinished"></translation>
+        <translation>&amp;Ekle</translation>
     </message>
     <message>
         <source>&amp;Image…</source>
-        <translation type="unfinished"></translation>
+        <translation>&amp;Görüntü…</translation>
     </message>
     <message>
         <source>&amp;Text</source>
-        <translation type="unfinished"></translation>
+        <translation>&amp;Metin</translation>
     </message>
     <message>
         <source>&amp;Shape…</source>
-        <translation type="unfinished"></translation>
+        <translation>&amp;Şekil…</translation>
     </message>
     <message>
         <source>&amp;Help</source>
-        <translation type="unfinished"></translation>
+        <translation>&amp;Yardım</translation>
     </message>
 </context>
 <context>
     <name>MainToolBar</name>
     <message>
         <source>Main tool bar</source>
-        <translation type="unfinished"></translation>
+        <translation>Ana araç çubuğu</translation>
     </message>
     <message>
         <source>More ways to save</source>
-        <translation type="unfinished"></translation>
+        <translation>Diğer kaydetme yolları</translation>
     </message>
     <message>
         <source>More of the history</source>
-        <translation type="unfinished"></translation>
+        <translation>Geçmişin devamı</translation>
     </message>
     <message>
         <source>Insert:</source>
-        <translation type="unfinished"></translation>
+        <translation>Ekle:</translation>
     </message>
 </context>
 <context>
     <name>MoveSceneObjectCommand</name>
     <message>
         <source>Move Layer Up</source>
-        <translation type="unfinished"></translation>
+        <translation>Katmanı Yukarı Taşı</translation>
     </message>
     <message>
         <source>Move Layer Down</source>
-        <translation type="unfinished"></translation>
+        <translation>Katmanı Aşağı Taşı</translation>
     </message>
 </context>
 <context>
     <name>NewDocumentDialog</name>
     <message>
         <source>Screen</source>
-        <translation type="unfinished"></translation>
+        <translation>Ekran</translation>
     </message>
     <message>
         <source>HD</source>
-        <translation type="unfinished"></translation>
+        <translation>HD</translation>
     </message>
     <message>
         <source>Full HD</source>
-        <translation type="unfinished"></translation>
+        <translation>Full HD</translation>
     </message>
     <message>
         <source>4K</source>
-        <translation type="unfinished"></translation>
+        <translation>4K</translation>
     </message>
     <message>
         <source>Social</source>
-        <translation type="unfinished"></translation>
+        <translation>Sosyal Medya</translation>
     </message>
     <message>
         <source>Square</source>
-        <translation type="unfinished"></translation>
+        <translation>Kare</translation>
     </message>
     <message>
         <source>Story</source>
-        <translation type="unfinished"></translation>
+        <translation>Hikâye</translation>
     </message>
     <message>
         <source>Photo</source>
-        <translation type="unfinished"></translation>
+        <translation>Fotoğraf</translation>
     </message>
     <message>
         <source>Photo 3:2</source>
-        <translation type="unfinished"></translation>
+        <translation>Fotoğraf 3:2</translation>
     </message>
     <message>
         <source>Photo 4:3</source>
-        <translation type="unfinished"></translation>
+        <translation>Fotoğraf 4:3</translation>
     </message>
     <message>
         <source>Print, 300 ppi</source>
-        <translation type="unfinished"></translation>
+        <translation>Baskı, 300 ppi</translation>
     </message>
     <message>
         <source>A4</source>
-        <translation type="unfinished"></translation>
+        <translation>A4</translation>
     </message>
     <message>
         <source>A5</source>
-        <translation type="unfinished"></translation>
+        <translation>A5</translation>
     </message>
     <message>
         <source>Letter</source>
-        <translation type="unfinished"></translation>
+        <translation>Letter</translation>
     </message>
     <message>
         <source>New Document</source>
-        <translation type="unfinished"></translation>
+        <translation>Yeni Belge</translation>
     </message>
     <message>
         <source>Presets</source>
-        <translation type="unfinished"></translation>
+        <translation>Ön Ayarlar</translation>
     </message>
     <message>
         <source>%1 × %2 px   ·   %3   ·   %4 megapixels</source>
-        <translation type="unfinished"></translation>
+        <translation>%1 × %2 px   ·   %3   ·   %4 megapiksel</translation>
     </message>
     <message>
         <source>Size</source>
-        <translation type="unfinished"></translation>
+        <translation>Boyut</translation>
     </message>
     <message>
         <source>Width</source>
-        <translation type="unfinished"></translation>
+        <translation>Genişlik</translation>
     </message>
     <message>
         <source>Swap width and height</source>
-        <translation type="unfinished"></translation>
+        <translation>Genişlik ile yüksekliği değiştir</translation>
     </message>
     <message>
         <source>Height</source>
-        <translation type="unfinished"></translation>
+        <translation>Yükseklik</translation>
     </message>
     <message>
         <source>Background</source>
-        <translation type="unfinished"></translation>
+        <translation>Arka Plan</translation>
     </message>
     <message>
         <source>White</source>
-        <translation type="unfinished"></translation>
+        <translation>Beyaz</translation>
     </message>
     <message>
         <source>Black</source>
-        <translation type="unfinished"></translation>
+        <translation>Siyah</translation>
     </message>
     <message>
         <source>Transparent</source>
-        <translation type="unfinished"></translation>
+        <translation>Saydam</translation>
     </message>
     <message>
         <source>Custom</source>
-        <translation type="unfinished"></translation>
+        <translation>Özel</translation>
     </message>
     <message>
         <source>Choose Background Color</source>
-        <translation type="unfinished"></translation>
+        <translation>Arka Plan Rengini Seç</translation>
     </message>
     <message>
         <source>Cancel</source>
-        <translation type="unfinished"></translation>
+        <translation>İptal</translation>
     </message>
     <message>
         <source>Create</source>
-        <translation type="unfinished"></translation>
+        <translation>Oluştur</translation>
     </message>
 </context>
 <context>
     <name>NewDocumentPreset</name>
     <message>
         <source>%1, %2 by %3 pixels</source>
-        <translation type="unfinished"></translation>
+        <translation>%1, %2 × %3 piksel</translation>
     </message>
 </context>
 <context>
     <name>NoticeList</name>
     <message>
         <source>Licenses</source>
-        <translation type="unfinished"></translation>
+        <translation>Lisanslar</translation>
     </message>
 </context>
 <context>
     <name>OpenGLProgram</name>
     <message>
         <source>Shader error</source>
-        <translation type="unfinished"></translation>
+        <translation>Gölgelendirici hatası</translation>
     </message>
     <message>
         <source>Program: %1
@@ -1214,35 +1215,40 @@ Resource: %3
 Target: %4
 Log:
 %5</source>
-        <translation type="unfinished"></translation>
+        <translation>Program: %1
+Aşama: %2
+Kaynak: %3
+Hedef: %4
+Günlük:
+%5</translation>
     </message>
     <message>
         <source>vertex</source>
-        <translation type="unfinished"></translation>
+        <translation>köşe</translation>
     </message>
     <message>
         <source>fragment</source>
-        <translation type="unfinished"></translation>
+        <translation>parça</translation>
     </message>
     <message>
         <source>&lt;none&gt;</source>
-        <translation type="unfinished"></translation>
+        <translation>&lt;yok&gt;</translation>
     </message>
     <message>
         <source>&lt;empty compiler log&gt;</source>
-        <translation type="unfinished"></translation>
+        <translation>&lt;boş derleyici günlüğü&gt;</translation>
     </message>
     <message>
         <source>Vertex shader compilation failed</source>
-        <translation type="unfinished"></translation>
+        <translation>Köşe gölgelendiricisi derlenemedi</translation>
     </message>
     <message>
         <source>Fragment shader compilation failed</source>
-        <translation type="unfinished"></translation>
+        <translation>Parça gölgelendiricisi derlenemedi</translation>
     </message>
     <message>
         <source>Unable to load shader</source>
-        <translation type="unfinished"></translation>
+        <translation>Gölgelendirici yüklenemedi</translation>
     </message>
     <message>
         <source>Program: %1
@@ -1250,1908 +1256,1912 @@ Vertex target: %2
 Fragment target: %3
 Log:
 %4</source>
-        <translation type="unfinished"></translation>
+        <translation>Program: %1
+Köşe hedefi: %2
+Parça hedefi: %3
+Günlük:
+%4</translation>
     </message>
     <message>
         <source>&lt;empty linker log&gt;</source>
-        <translation type="unfinished"></translation>
+        <translation>&lt;boş bağlayıcı günlüğü&gt;</translation>
     </message>
     <message>
         <source>Shader link failed</source>
-        <translation type="unfinished"></translation>
+        <translation>Gölgelendirici bağlanamadı</translation>
     </message>
     <message>
         <source>Could not open %1: %2</source>
-        <translation type="unfinished"></translation>
+        <translation>%1 açılamadı: %2</translation>
     </message>
     <message>
         <source>Invalid serialized QSB shader: %1</source>
-        <translation type="unfinished"></translation>
+        <translation>Geçersiz serileştirilmiş QSB gölgelendiricisi: %1</translation>
     </message>
     <message>
         <source>No compatible GLSL variant in %1. Tried: %2</source>
-        <translation type="unfinished"></translation>
+        <translation>%1 içinde uyumlu bir GLSL çeşidi yok. Denenenler: %2</translation>
     </message>
 </context>
 <context>
     <name>PaintImageLayerCommand</name>
     <message>
         <source>Paint Image</source>
-        <translation type="unfinished"></translation>
+        <translation>Görüntüyü Boya</translation>
     </message>
 </context>
 <context>
     <name>PaintSpotShapeGenerator</name>
     <message>
         <source>Paint Spot</source>
-        <translation type="unfinished"></translation>
+        <translation>Boya Lekesi</translation>
     </message>
     <message>
         <source>Form</source>
-        <translation type="unfinished"></translation>
+        <translation>Biçim</translation>
     </message>
     <message>
         <source>Length</source>
-        <translation type="unfinished"></translation>
+        <translation>Uzunluk</translation>
     </message>
     <message>
         <source>Spikes</source>
-        <translation type="unfinished"></translation>
+        <translation>Dikenler</translation>
     </message>
 </context>
 <context>
     <name>PickerDialog</name>
     <message>
         <source>Search</source>
-        <translation type="unfinished"></translation>
+        <translation>Ara</translation>
     </message>
     <message>
         <source>Choose</source>
-        <translation type="unfinished"></translation>
+        <translation>Seç</translation>
     </message>
     <message>
         <source>No matching items.</source>
-        <translation type="unfinished"></translation>
+        <translation>Eşleşen öğe yok.</translation>
     </message>
     <message>
         <source>Cancel</source>
-        <translation type="unfinished"></translation>
+        <translation>İptal</translation>
     </message>
 </context>
 <context>
     <name>PickerNavigation</name>
     <message>
         <source>Categories</source>
-        <translation type="unfinished"></translation>
+        <translation>Kategoriler</translation>
     </message>
 </context>
 <context>
     <name>PolygonShapeGenerator</name>
     <message>
         <source>Polygon</source>
-        <translation type="unfinished"></translation>
+        <translation>Çokgen</translation>
     </message>
     <message>
         <source>Sides</source>
-        <translation type="unfinished"></translation>
+        <translation>Kenarlar</translation>
     </message>
     <message>
         <source>Corner Radius</source>
-        <translation type="unfinished"></translation>
+        <translation>Köşe Yarıçapı</translation>
     </message>
 </context>
 <context>
     <name>RecentFilesMenu</name>
     <message>
         <source>Open &amp;Recent</source>
-        <translation type="unfinished"></translation>
+        <translation>&amp;Son Kullanılanları Aç</translation>
     </message>
     <message>
         <source>%1. %2</source>
-        <translation type="unfinished"></translation>
+        <translation>%1. %2</translation>
     </message>
 </context>
 <context>
     <name>RemoveSceneObjectCommand</name>
     <message>
         <source>Remove %1</source>
-        <translation type="unfinished"></translation>
+        <translation>%1 Kaldır</translation>
     </message>
     <message>
         <source>Object</source>
-        <translation type="unfinished"></translation>
+        <translation>Nesne</translation>
     </message>
 </context>
 <context>
     <name>RenameField</name>
     <message>
         <source>Layer name</source>
-        <translation type="unfinished"></translation>
+        <translation>Katman adı</translation>
     </message>
 </context>
 <context>
     <name>RenameSceneObjectCommand</name>
     <message>
         <source>Rename Object</source>
-        <translation type="unfinished"></translation>
+        <translation>Nesneyi Yeniden Adlandır</translation>
     </message>
 </context>
 <context>
     <name>ReplaceSceneObjectCommand</name>
     <message>
         <source>Rasterize Layer</source>
-        <translation type="unfinished"></translation>
+        <translation>Katmanı Rasterleştir</translation>
     </message>
 </context>
 <context>
     <name>ResizeImageLayerCommand</name>
     <message>
         <source>Resize Image</source>
-        <translation type="unfinished"></translation>
+        <translation>Görüntüyü Yeniden Boyutlandır</translation>
     </message>
 </context>
 <context>
     <name>ResizeTextLayerCommand</name>
     <message>
         <source>Resize Text</source>
-        <translation type="unfinished"></translation>
+        <translation>Metni Yeniden Boyutlandır</translation>
     </message>
 </context>
 <context>
     <name>RhombusShapeGenerator</name>
     <message>
         <source>Rhombus</source>
-        <translation type="unfinished"></translation>
+        <translation>Eşkenar Dörtgen</translation>
     </message>
     <message>
         <source>Corner Radius</source>
-        <translation type="unfinished"></translation>
+        <translation>Köşe Yarıçapı</translation>
     </message>
     <message>
         <source>Horizontal</source>
-        <translation type="unfinished"></translation>
+        <translation>Yatay</translation>
     </message>
     <message>
         <source>Vertical</source>
-        <translation type="unfinished"></translation>
+        <translation>Dikey</translation>
     </message>
 </context>
 <context>
     <name>RibbonShapeGenerator</name>
     <message>
         <source>Ribbon</source>
-        <translation type="unfinished"></translation>
+        <translation>Kurdele</translation>
     </message>
     <message>
         <source>Form</source>
-        <translation type="unfinished"></translation>
+        <translation>Biçim</translation>
     </message>
     <message>
         <source>Depth</source>
-        <translation type="unfinished"></translation>
+        <translation>Derinlik</translation>
     </message>
     <message>
         <source>Corner Radius</source>
-        <translation type="unfinished"></translation>
+        <translation>Köşe Yarıçapı</translation>
     </message>
 </context>
 <context>
     <name>RoundedRectShapeGenerator</name>
     <message>
         <source>Rectangle</source>
-        <translation type="unfinished"></translation>
+        <translation>Dikdörtgen</translation>
     </message>
     <message>
         <source>Corner Radius</source>
-        <translation type="unfinished"></translation>
+        <translation>Köşe Yarıçapı</translation>
     </message>
 </context>
 <context>
     <name>SceneObjectAdapter</name>
     <message>
         <source>Normal</source>
-        <translation type="unfinished"></translation>
+        <translation>Normal</translation>
     </message>
     <message>
         <source>Multiply</source>
-        <translation type="unfinished"></translation>
+        <translation>Çoğalt</translation>
     </message>
     <message>
         <source>Screen</source>
-        <translation type="unfinished"></translation>
+        <translation>Ekran</translation>
     </message>
     <message>
         <source>Overlay</source>
-        <translation type="unfinished"></translation>
+        <translation>Kaplama</translation>
     </message>
     <message>
         <source>Darken</source>
-        <translation type="unfinished"></translation>
+        <translation>Koyulaştır</translation>
     </message>
     <message>
         <source>Lighten</source>
-        <translation type="unfinished"></translation>
+        <translation>Açıklaştır</translation>
     </message>
     <message>
         <source>Color Dodge</source>
-        <translation type="unfinished"></translation>
+        <translation>Renk Soldurma</translation>
     </message>
     <message>
         <source>Color Burn</source>
-        <translation type="unfinished"></translation>
+        <translation>Renk Yakma</translation>
     </message>
     <message>
         <source>Hard Light</source>
-        <translation type="unfinished"></translation>
+        <translation>Sert Işık</translation>
     </message>
     <message>
         <source>Soft Light</source>
-        <translation type="unfinished"></translation>
+        <translation>Yumuşak Işık</translation>
     </message>
     <message>
         <source>Difference</source>
-        <translation type="unfinished"></translation>
+        <translation>Fark</translation>
     </message>
     <message>
         <source>Exclusion</source>
-        <translation type="unfinished"></translation>
+        <translation>Dışlama</translation>
     </message>
     <message>
         <source>Hue</source>
-        <translation type="unfinished"></translation>
+        <translation>Renk Tonu</translation>
     </message>
     <message>
         <source>Saturation</source>
-        <translation type="unfinished"></translation>
+        <translation>Doygunluk</translation>
     </message>
     <message>
         <source>Color</source>
-        <translation type="unfinished"></translation>
+        <translation>Renk</translation>
     </message>
     <message>
         <source>Luminosity</source>
-        <translation type="unfinished"></translation>
+        <translation>Parlaklık</translation>
     </message>
 </context>
 <context>
     <name>SelectionActions</name>
     <message>
         <source>&amp;Rectangular Selection</source>
-        <translation type="unfinished"></translation>
+        <translation>&amp;Dikdörtgen Seçim</translation>
     </message>
     <message>
         <source>Create a rectangular raster selection</source>
-        <translation type="unfinished"></translation>
+        <translation>Dikdörtgen bir raster seçim oluştur</translation>
     </message>
     <message>
         <source>&amp;Elliptical Selection</source>
-        <translation type="unfinished"></translation>
+        <translation>&amp;Elips Seçim</translation>
     </message>
     <message>
         <source>Create an elliptical raster selection</source>
-        <translation type="unfinished"></translation>
+        <translation>Elips biçiminde bir raster seçim oluştur</translation>
     </message>
     <message>
         <source>Magic &amp;Wand Selection</source>
-        <translation type="unfinished"></translation>
+        <translation>&amp;Sihirli Değnekle Seçim</translation>
     </message>
     <message>
         <source>Select a contiguous color region</source>
-        <translation type="unfinished"></translation>
+        <translation>Bitişik bir renk bölgesi seç</translation>
     </message>
     <message>
         <source>&amp;Polygon Selection</source>
-        <translation type="unfinished"></translation>
+        <translation>Ço&amp;kgen Seçim</translation>
     </message>
     <message>
         <source>Edit the raster selection path</source>
-        <translation type="unfinished"></translation>
+        <translation>Raster seçimin yolunu düzenle</translation>
     </message>
     <message>
         <source>&amp;Clear Raster Selection</source>
-        <translation type="unfinished"></translation>
+        <translation>Raster Seçimi Te&amp;mizle</translation>
     </message>
     <message>
         <source>Clear the raster selection</source>
-        <translation type="unfinished"></translation>
+        <translation>Raster seçimi temizle</translation>
     </message>
     <message>
         <source>&amp;Invert Raster Selection</source>
-        <translation type="unfinished"></translation>
+        <translation>Raster Seçimi &amp;Tersine Çevir</translation>
     </message>
     <message>
         <source>E&amp;xtract Selection to New Layer</source>
-        <translation type="unfinished"></translation>
+        <translation>Seçimi &amp;Yeni Katmana Çıkar</translation>
     </message>
 </context>
 <context>
     <name>SetDocumentBackgroundCommand</name>
     <message>
         <source>Change Document Background</source>
-        <translation type="unfinished"></translation>
+        <translation>Belge Arka Planını Değiştir</translation>
     </message>
 </context>
 <context>
     <name>SetSceneObjectBlendModeCommand</name>
     <message>
         <source>Change Blend Mode</source>
-        <translation type="unfinished"></translation>
+        <translation>Karıştırma Modunu Değiştir</translation>
     </message>
 </context>
 <context>
     <name>SetSceneObjectVisibilityCommand</name>
     <message>
         <source>Show Layer</source>
-        <translation type="unfinished"></translation>
+        <translation>Katmanı Göster</translation>
     </message>
     <message>
         <source>Hide Layer</source>
-        <translation type="unfinished"></translation>
+        <translation>Katmanı Gizle</translation>
     </message>
 </context>
 <context>
     <name>ShapePickerDialog</name>
     <message>
         <source>Insert Shape or Sticker</source>
-        <translation type="unfinished"></translation>
+        <translation>Şekil veya Çıkartma Ekle</translation>
     </message>
     <message>
         <source>Search shapes and stickers</source>
-        <translation type="unfinished"></translation>
+        <translation>Şekil ve çıkartma ara</translation>
     </message>
     <message>
         <source>No matching shapes or stickers.</source>
-        <translation type="unfinished"></translation>
+        <translation>Eşleşen şekil veya çıkartma yok.</translation>
     </message>
     <message>
         <source>Insert</source>
-        <translation type="unfinished"></translation>
+        <translation>Ekle</translation>
     </message>
 </context>
 <context>
     <name>ShapeToolFilter</name>
     <message>
         <source>mask, cutout, crop, shape</source>
-        <translation type="unfinished"></translation>
+        <translation>maske, dekupe, kırpma, şekil</translation>
     </message>
     <message>
         <source>Position</source>
-        <translation type="unfinished"></translation>
+        <translation>Konum</translation>
     </message>
     <message>
         <source>Position Shape</source>
-        <translation type="unfinished"></translation>
+        <translation>Şekli Konumlandır</translation>
     </message>
     <message>
         <source>Shape</source>
-        <translation type="unfinished"></translation>
+        <translation>Şekil</translation>
     </message>
     <message>
         <source>Outline</source>
-        <translation type="unfinished"></translation>
+        <translation>Dış Çizgi</translation>
     </message>
     <message>
         <source>Feather</source>
-        <translation type="unfinished"></translation>
+        <translation>Geçiş Yumuşatma</translation>
     </message>
     <message>
         <source>Invert</source>
-        <translation type="unfinished"></translation>
+        <translation>Ters Çevir</translation>
     </message>
     <message>
         <source>Shape Editor</source>
-        <translation type="unfinished"></translation>
+        <translation>Şekil Düzenleyici</translation>
     </message>
     <message>
         <source>Cut to Shape</source>
-        <translation type="unfinished"></translation>
+        <translation>Şekle Göre Kes</translation>
     </message>
 </context>
 <context>
     <name>ShieldBadgeShapeGenerator</name>
     <message>
         <source>Shield Badge</source>
-        <translation type="unfinished"></translation>
+        <translation>Kalkan Rozeti</translation>
     </message>
     <message>
         <source>Form</source>
-        <translation type="unfinished"></translation>
+        <translation>Biçim</translation>
     </message>
     <message>
         <source>Point</source>
-        <translation type="unfinished"></translation>
+        <translation>Uç</translation>
     </message>
     <message>
         <source>Corner Radius</source>
-        <translation type="unfinished"></translation>
+        <translation>Köşe Yarıçapı</translation>
     </message>
 </context>
 <context>
     <name>SizePanel</name>
     <message>
         <source>Select a layer to edit its transform.</source>
-        <translation type="unfinished"></translation>
+        <translation>Dönüşümünü düzenlemek için bir katman seçin.</translation>
     </message>
     <message>
         <source>Geometry</source>
-        <translation type="unfinished"></translation>
+        <translation>Geometri</translation>
     </message>
     <message>
         <source>X</source>
-        <translation type="unfinished"></translation>
+        <translation>X</translation>
     </message>
     <message>
         <source>px</source>
-        <translation type="unfinished"></translation>
+        <translation>px</translation>
     </message>
     <message>
         <source>Y</source>
-        <translation type="unfinished"></translation>
+        <translation>Y</translation>
     </message>
     <message>
         <source>Width</source>
-        <translation type="unfinished"></translation>
+        <translation>Genişlik</translation>
     </message>
     <message>
         <source>Height</source>
-        <translation type="unfinished"></translation>
+        <translation>Yükseklik</translation>
     </message>
     <message>
         <source>Keep Aspect Ratio</source>
-        <translation type="unfinished"></translation>
+        <translation>En Boy Oranını Koru</translation>
     </message>
     <message>
         <source>Flip</source>
-        <translation type="unfinished"></translation>
+        <translation>Çevir</translation>
     </message>
     <message>
         <source>Flip Horizontally</source>
-        <translation type="unfinished"></translation>
+        <translation>Yatay Çevir</translation>
     </message>
     <message>
         <source>Flip Vertically</source>
-        <translation type="unfinished"></translation>
+        <translation>Dikey Çevir</translation>
     </message>
     <message>
         <source>Rotation</source>
-        <translation type="unfinished"></translation>
+        <translation>Döndürme</translation>
     </message>
     <message>
         <source>Angle</source>
-        <translation type="unfinished"></translation>
+        <translation>Açı</translation>
     </message>
     <message>
         <source>deg</source>
-        <translation type="unfinished"></translation>
+        <translation>°</translation>
     </message>
     <message>
         <source>Pivot X</source>
-        <translation type="unfinished"></translation>
+        <translation>Eksen X</translation>
     </message>
     <message>
         <source>Pivot Y</source>
-        <translation type="unfinished"></translation>
+        <translation>Eksen Y</translation>
     </message>
     <message>
         <source>Skew</source>
-        <translation type="unfinished"></translation>
+        <translation>Eğriltme</translation>
     </message>
     <message>
         <source>Start skew</source>
-        <translation type="unfinished"></translation>
+        <translation>Eğriltmeyi başlat</translation>
     </message>
     <message>
         <source>Skew X</source>
-        <translation type="unfinished"></translation>
+        <translation>Eğriltme X</translation>
     </message>
     <message>
         <source>Skew Y</source>
-        <translation type="unfinished"></translation>
+        <translation>Eğriltme Y</translation>
     </message>
     <message>
         <source>%</source>
-        <translation type="unfinished"></translation>
+        <translation>%</translation>
     </message>
     <message>
         <source>Switch size unit</source>
-        <translation type="unfinished"></translation>
+        <translation>Boyut birimini değiştir</translation>
     </message>
 </context>
 <context>
     <name>SpeechBubbleShapeGenerator</name>
     <message>
         <source>Speech</source>
-        <translation type="unfinished"></translation>
+        <translation>Konuşma</translation>
     </message>
     <message>
         <source>Corner Radius</source>
-        <translation type="unfinished"></translation>
+        <translation>Köşe Yarıçapı</translation>
     </message>
     <message>
         <source>Pointer</source>
-        <translation type="unfinished"></translation>
+        <translation>Kuyruk</translation>
     </message>
     <message>
         <source>Form</source>
-        <translation type="unfinished"></translation>
+        <translation>Biçim</translation>
     </message>
 </context>
 <context>
     <name>SplodgeShapeGenerator</name>
     <message>
         <source>Splodge</source>
-        <translation type="unfinished"></translation>
+        <translation>Leke</translation>
     </message>
     <message>
         <source>Form</source>
-        <translation type="unfinished"></translation>
+        <translation>Biçim</translation>
     </message>
     <message>
         <source>Corner Radius</source>
-        <translation type="unfinished"></translation>
+        <translation>Köşe Yarıçapı</translation>
     </message>
 </context>
 <context>
     <name>StarShapeGenerator</name>
     <message>
         <source>Star</source>
-        <translation type="unfinished"></translation>
+        <translation>Yıldız</translation>
     </message>
     <message>
         <source>Spikes</source>
-        <translation type="unfinished"></translation>
+        <translation>Kollar</translation>
     </message>
     <message>
         <source>Tip</source>
-        <translation type="unfinished"></translation>
+        <translation>Uç</translation>
     </message>
 </context>
 <context>
     <name>StatusBar</name>
     <message>
         <source>Status bar</source>
-        <translation type="unfinished"></translation>
+        <translation>Durum çubuğu</translation>
     </message>
     <message>
         <source>Layer: %1 × %2 px</source>
-        <translation type="unfinished"></translation>
+        <translation>Katman: %1 × %2 px</translation>
     </message>
     <message>
         <source>No layer selected</source>
-        <translation type="unfinished"></translation>
+        <translation>Katman seçilmedi</translation>
     </message>
     <message>
         <source>Zoom out</source>
-        <translation type="unfinished"></translation>
+        <translation>Uzaklaştır</translation>
     </message>
     <message>
         <source>%1%</source>
-        <translation type="unfinished"></translation>
+        <translation>%%1</translation>
     </message>
     <message>
         <source>Reset zoom to 100%</source>
-        <translation type="unfinished"></translation>
+        <translation>Yakınlaştırmayı yüzde yüze sıfırla</translation>
     </message>
     <message>
         <source>Zoom in</source>
-        <translation type="unfinished"></translation>
+        <translation>Yakınlaştır</translation>
     </message>
 </context>
 <context>
     <name>TextLayer</name>
     <message>
         <source>Text</source>
-        <translation type="unfinished"></translation>
+        <translation>Metin</translation>
     </message>
 </context>
 <context>
     <name>TextureLoader</name>
     <message>
         <source>Unable to register texture resource bundle: %1</source>
-        <translation type="unfinished"></translation>
+        <translation>Doku kaynak paketi kaydedilemedi: %1</translation>
     </message>
     <message>
         <source>Rejected unsafe texture image path: %1</source>
-        <translation type="unfinished"></translation>
+        <translation>Güvenli olmayan doku görüntüsü yolu reddedildi: %1</translation>
     </message>
     <message>
         <source>Texture image not found: %1 (searched: %2)</source>
-        <translation type="unfinished"></translation>
+        <translation>Doku görüntüsü bulunamadı: %1 (aranan yerler: %2)</translation>
     </message>
     <message>
         <source>unknown image decoder error</source>
-        <translation type="unfinished"></translation>
+        <translation>bilinmeyen görüntü kod çözücü hatası</translation>
     </message>
     <message>
         <source>Unable to load texture image %1 from %2: %3</source>
-        <translation type="unfinished"></translation>
+        <translation>%1 doku görüntüsü yüklenemedi (%2): %3</translation>
     </message>
     <message>
         <source>Rejected unsafe texture data path: %1</source>
-        <translation type="unfinished"></translation>
+        <translation>Güvenli olmayan doku verisi yolu reddedildi: %1</translation>
     </message>
     <message>
         <source>Texture data not found: %1 (searched: %2)</source>
-        <translation type="unfinished"></translation>
+        <translation>Doku verisi bulunamadı: %1 (aranan yerler: %2)</translation>
     </message>
     <message>
         <source>Texture data not found for any candidate: %1 (searched: %2)</source>
-        <translation type="unfinished"></translation>
+        <translation>Hiçbir aday için doku verisi bulunamadı: %1 (aranan yerler: %2)</translation>
     </message>
     <message>
         <source>unknown read error</source>
-        <translation type="unfinished"></translation>
+        <translation>bilinmeyen okuma hatası</translation>
     </message>
     <message>
         <source>file is empty</source>
-        <translation type="unfinished"></translation>
+        <translation>dosya boş</translation>
     </message>
     <message>
         <source>Unable to read texture data %1 from %2: %3</source>
-        <translation type="unfinished"></translation>
+        <translation>%1 doku verisi okunamadı (%2): %3</translation>
     </message>
 </context>
 <context>
     <name>Theme</name>
     <message>
         <source>%1 (%2)</source>
-        <translation type="unfinished"></translation>
+        <translation>%1 (%2)</translation>
     </message>
 </context>
 <context>
     <name>ThoughtBubbleShapeGenerator</name>
     <message>
         <source>Thought</source>
-        <translation type="unfinished"></translation>
+        <translation>Düşünce</translation>
     </message>
     <message>
         <source>Corner Radius</source>
-        <translation type="unfinished"></translation>
+        <translation>Köşe Yarıçapı</translation>
     </message>
     <message>
         <source>Tip</source>
-        <translation type="unfinished"></translation>
+        <translation>Uç</translation>
     </message>
     <message>
         <source>Form</source>
-        <translation type="unfinished"></translation>
+        <translation>Biçim</translation>
     </message>
 </context>
 <context>
     <name>ToolModeActions</name>
     <message>
         <source>&amp;Select</source>
-        <translation type="unfinished"></translation>
+        <translation>&amp;Seç</translation>
     </message>
     <message>
         <source>Select layers</source>
-        <translation type="unfinished"></translation>
+        <translation>Katmanları seç</translation>
     </message>
     <message>
         <source>S&amp;kew</source>
-        <translation type="unfinished"></translation>
+        <translation>Eğ&amp;rilt</translation>
     </message>
     <message>
         <source>Skew the selected layer</source>
-        <translation type="unfinished"></translation>
+        <translation>Seçili katmanı eğrilt</translation>
     </message>
     <message>
         <source>&amp;Crop</source>
-        <translation type="unfinished"></translation>
+        <translation>&amp;Kırp</translation>
     </message>
     <message>
         <source>Crop the selected layer</source>
-        <translation type="unfinished"></translation>
+        <translation>Seçili katmanı kırp</translation>
     </message>
     <message>
         <source>&amp;Path</source>
-        <translation type="unfinished"></translation>
+        <translation>&amp;Yol</translation>
     </message>
     <message>
         <source>Edit the selected shape path, or draw a new path</source>
-        <translation type="unfinished"></translation>
+        <translation>Seçili şeklin yolunu düzenle veya yeni bir yol çiz</translation>
     </message>
     <message>
         <source>&amp;Draw</source>
-        <translation type="unfinished"></translation>
+        <translation>Çi&amp;z</translation>
     </message>
     <message>
         <source>Draw with a freehand brush</source>
-        <translation type="unfinished"></translation>
+        <translation>Serbest fırçayla çiz</translation>
     </message>
     <message>
         <source>&amp;Erase</source>
-        <translation type="unfinished"></translation>
+        <translation>Si&amp;l</translation>
     </message>
     <message>
         <source>Erase pixels from the selected layer</source>
-        <translation type="unfinished"></translation>
+        <translation>Seçili katmandan pikselleri sil</translation>
     </message>
     <message>
         <source>C&amp;lone</source>
-        <translation type="unfinished"></translation>
+        <translation>Klo&amp;nla</translation>
     </message>
     <message>
         <source>Clone pixels</source>
-        <translation type="unfinished"></translation>
+        <translation>Pikselleri klonla</translation>
     </message>
     <message>
         <source>E&amp;xposure</source>
-        <translation type="unfinished"></translation>
+        <translation>&amp;Pozlama</translation>
     </message>
     <message>
         <source>Lighten or darken pixels with the Exposure brush</source>
-        <translation type="unfinished"></translation>
+        <translation>Pozlama fırçasıyla pikselleri açıklaştır veya koyulaştır</translation>
     </message>
     <message>
         <source>&amp;Fill Selection</source>
-        <translation type="unfinished"></translation>
+        <translation>Seçimi &amp;Doldur</translation>
     </message>
     <message>
         <source>Fill the active raster selection</source>
-        <translation type="unfinished"></translation>
+        <translation>Etkin raster seçimi doldur</translation>
     </message>
 </context>
 <context>
     <name>ToolRail</name>
     <message>
         <source>Tools</source>
-        <translation type="unfinished"></translation>
+        <translation>Araçlar</translation>
     </message>
 </context>
 <context>
     <name>TriangleShapeGenerator</name>
     <message>
         <source>Triangle</source>
-        <translation type="unfinished"></translation>
+        <translation>Üçgen</translation>
     </message>
     <message>
         <source>Sides</source>
-        <translation type="unfinished"></translation>
+        <translation>Kenarlar</translation>
     </message>
     <message>
         <source>Corner Radius</source>
-        <translation type="unfinished"></translation>
+        <translation>Köşe Yarıçapı</translation>
     </message>
 </context>
 <context>
     <name>UnsavedChangesDialog</name>
     <message>
         <source>Save changes before exiting?</source>
-        <translation type="unfinished"></translation>
+        <translation>Çıkmadan önce değişiklikler kaydedilsin mi?</translation>
     </message>
     <message>
         <source>Save changes before creating a new document?</source>
-        <translation type="unfinished"></translation>
+        <translation>Yeni belge oluşturmadan önce değişiklikler kaydedilsin mi?</translation>
     </message>
     <message>
         <source>Save changes before opening another document?</source>
-        <translation type="unfinished"></translation>
+        <translation>Başka bir belge açmadan önce değişiklikler kaydedilsin mi?</translation>
     </message>
     <message>
         <source>This document has unsaved changes. If you exit without saving, your changes will be lost.</source>
-        <translation type="unfinished"></translation>
+        <translation>Bu belgede kaydedilmemiş değişiklikler var. Kaydetmeden çıkarsanız değişiklikleriniz kaybolur.</translation>
     </message>
     <message>
         <source>This document has unsaved changes. If you create a new document without saving, your changes will be lost.</source>
-        <translation type="unfinished"></translation>
+        <translation>Bu belgede kaydedilmemiş değişiklikler var. Kaydetmeden yeni bir belge oluşturursanız değişiklikleriniz kaybolur.</translation>
     </message>
     <message>
         <source>This document has unsaved changes. If you open another document without saving, your changes will be lost.</source>
-        <translation type="unfinished"></translation>
+        <translation>Bu belgede kaydedilmemiş değişiklikler var. Kaydetmeden başka bir belge açarsanız değişiklikleriniz kaybolur.</translation>
     </message>
     <message>
         <source>Exit Anyway</source>
-        <translation type="unfinished"></translation>
+        <translation>Yine de Çık</translation>
     </message>
     <message>
         <source>Create Anyway</source>
-        <translation type="unfinished"></translation>
+        <translation>Yine de Oluştur</translation>
     </message>
     <message>
         <source>Open Anyway</source>
-        <translation type="unfinished"></translation>
+        <translation>Yine de Aç</translation>
     </message>
     <message>
         <source>Cancel</source>
-        <translation type="unfinished"></translation>
+        <translation>İptal</translation>
     </message>
     <message>
         <source>Save</source>
-        <translation type="unfinished"></translation>
+        <translation>Kaydet</translation>
     </message>
 </context>
 <context>
     <name>ViewActions</name>
     <message>
         <source>Zoom &amp;In</source>
-        <translation type="unfinished"></translation>
+        <translation>&amp;Yakınlaştır</translation>
     </message>
     <message>
         <source>Zoom &amp;Out</source>
-        <translation type="unfinished"></translation>
+        <translation>&amp;Uzaklaştır</translation>
     </message>
     <message>
         <source>Zoom to &amp;Fit</source>
-        <translation type="unfinished"></translation>
+        <translation>&amp;Pencereye Sığdır</translation>
     </message>
     <message>
         <source>&amp;Actual Size</source>
-        <translation type="unfinished"></translation>
+        <translation>&amp;Gerçek Boyut</translation>
     </message>
     <message>
         <source>F&amp;ull Screen</source>
-        <translation type="unfinished"></translation>
+        <translation>Ta&amp;m Ekran</translation>
     </message>
     <message>
         <source>Unlimited &amp;Canvas Mode</source>
-        <translation type="unfinished"></translation>
+        <translation>&amp;Sınırsız Tuval Modu</translation>
     </message>
     <message>
         <source>&amp;Off</source>
-        <translation type="unfinished"></translation>
+        <translation>&amp;Kapalı</translation>
     </message>
     <message>
         <source>&amp;Top and Left</source>
-        <translation type="unfinished"></translation>
+        <translation>Üst ve &amp;Sol</translation>
     </message>
     <message>
         <source>&amp;Bottom and Right</source>
-        <translation type="unfinished"></translation>
+        <translation>&amp;Alt ve Sağ</translation>
     </message>
     <message>
         <source>&amp;Left</source>
-        <translation type="unfinished"></translation>
+        <translation>&amp;Sol</translation>
     </message>
     <message>
         <source>&amp;Right</source>
-        <translation type="unfinished"></translation>
+        <translation>S&amp;ağ</translation>
     </message>
     <message>
         <source>&amp;System</source>
-        <translation type="unfinished"></translation>
+        <translation>&amp;Sistem</translation>
     </message>
     <message>
         <source>&amp;Light</source>
-        <translation type="unfinished"></translation>
+        <translation>&amp;Açık</translation>
     </message>
     <message>
         <source>&amp;Dark</source>
-        <translation type="unfinished"></translation>
+        <translation>&amp;Koyu</translation>
     </message>
 </context>
 <context>
     <name>VignetteShapeGenerator</name>
     <message>
         <source>Vignette</source>
-        <translation type="unfinished"></translation>
+        <translation>Vinyet</translation>
     </message>
     <message>
         <source>Corner Radius</source>
-        <translation type="unfinished"></translation>
+        <translation>Köşe Yarıçapı</translation>
     </message>
 </context>
 <context>
     <name>WindowDialogs</name>
     <message>
         <source>Open Document or Image</source>
-        <translation type="unfinished"></translation>
+        <translation>Belge veya Görüntü Aç</translation>
     </message>
     <message>
         <source>All supported files (%1 *.zelmora)</source>
-        <translation type="unfinished"></translation>
+        <translation>Desteklenen tüm dosyalar (%1 *.zelmora)</translation>
     </message>
     <message>
         <source>All image files (%1)</source>
-        <translation type="unfinished"></translation>
+        <translation>Tüm görüntü dosyaları (%1)</translation>
     </message>
     <message>
         <source>Zelmora documents (*.zelmora)</source>
-        <translation type="unfinished"></translation>
+        <translation>Zelmora belgeleri (*.zelmora)</translation>
     </message>
     <message>
         <source>All files (*)</source>
-        <translation type="unfinished"></translation>
+        <translation>Tüm dosyalar (*)</translation>
     </message>
     <message>
         <source>Insert Image Layer</source>
-        <translation type="unfinished"></translation>
+        <translation>Görüntü Katmanı Ekle</translation>
     </message>
     <message>
         <source>Save Image As</source>
-        <translation type="unfinished"></translation>
+        <translation>Görüntüyü Farklı Kaydet</translation>
     </message>
     <message>
         <source>Save</source>
-        <translation type="unfinished"></translation>
+        <translation>Kaydet</translation>
     </message>
     <message>
         <source>Unable to Open File</source>
-        <translation type="unfinished"></translation>
+        <translation>Dosya Açılamadı</translation>
     </message>
     <message>
         <source>Unable to Insert Image</source>
-        <translation type="unfinished"></translation>
+        <translation>Görüntü Eklenemedi</translation>
     </message>
     <message>
         <source>Unable to Save Image</source>
-        <translation type="unfinished"></translation>
+        <translation>Görüntü Kaydedilemedi</translation>
     </message>
     <message>
         <source>Saving…</source>
-        <translation type="unfinished"></translation>
+        <translation>Kaydediliyor…</translation>
     </message>
 </context>
 <context>
     <name>ZelmoraDocumentIO</name>
     <message>
         <source>The .zelmora file is truncated or unreadable: %1</source>
-        <translation type="unfinished"></translation>
+        <translation>.zelmora dosyası yarım veya okunamıyor: %1</translation>
     </message>
     <message>
         <source>Could not decode a .zelmora layer section.</source>
-        <translation type="unfinished"></translation>
+        <translation>Bir .zelmora katman bölümünün kodu çözülemedi.</translation>
     </message>
     <message>
         <source>The .zelmora file contains a duplicated layer ID.</source>
-        <translation type="unfinished"></translation>
+        <translation>.zelmora dosyası yinelenen bir katman kimliği içeriyor.</translation>
     </message>
     <message>
         <source>The first .zelmora section is not document properties.</source>
-        <translation type="unfinished"></translation>
+        <translation>İlk .zelmora bölümü belge özellikleri değil.</translation>
     </message>
     <message>
         <source>The document-properties section has an invalid size.</source>
-        <translation type="unfinished"></translation>
+        <translation>Belge özellikleri bölümünün boyutu geçersiz.</translation>
     </message>
     <message>
         <source>The document-properties payload version is unsupported.</source>
-        <translation type="unfinished"></translation>
+        <translation>Belge özellikleri verisinin sürümü desteklenmiyor.</translation>
     </message>
     <message>
         <source>A .zelmora section header is invalid.</source>
-        <translation type="unfinished"></translation>
+        <translation>Bir .zelmora bölüm başlığı geçersiz.</translation>
     </message>
     <message>
         <source>This is not a .zelmora document.</source>
-        <translation type="unfinished"></translation>
+        <translation>Bu bir .zelmora belgesi değil.</translation>
     </message>
     <message>
         <source>This .zelmora format version is not supported.</source>
-        <translation type="unfinished"></translation>
+        <translation>Bu .zelmora biçim sürümü desteklenmiyor.</translation>
     </message>
     <message>
         <source>The .zelmora document dimensions are invalid.</source>
-        <translation type="unfinished"></translation>
+        <translation>.zelmora belgesinin boyutları geçersiz.</translation>
     </message>
     <message>
         <source>The .zelmora section count is invalid.</source>
-        <translation type="unfinished"></translation>
+        <translation>.zelmora bölüm sayısı geçersiz.</translation>
     </message>
     <message>
         <source>The .zelmora file contains duplicate document properties.</source>
-        <translation type="unfinished"></translation>
+        <translation>.zelmora dosyası yinelenen belge özellikleri içeriyor.</translation>
     </message>
     <message>
         <source>The source device is not readable.</source>
-        <translation type="unfinished"></translation>
+        <translation>Kaynak aygıt okunamıyor.</translation>
     </message>
     <message>
         <source>The .zelmora file has trailing data.</source>
-        <translation type="unfinished"></translation>
+        <translation>.zelmora dosyasının sonunda fazladan veri var.</translation>
     </message>
     <message>
         <source>Could not write the .zelmora file: %1</source>
-        <translation type="unfinished"></translation>
+        <translation>.zelmora dosyası yazılamadı: %1</translation>
     </message>
     <message>
         <source>A .zelmora section is too large.</source>
-        <translation type="unfinished"></translation>
+        <translation>Bir .zelmora bölümü çok büyük.</translation>
     </message>
     <message>
         <source>The document contains an unsupported scene object.</source>
-        <translation type="unfinished"></translation>
+        <translation>Belge desteklenmeyen bir sahne nesnesi içeriyor.</translation>
     </message>
     <message>
         <source>The document contains a duplicated layer ID.</source>
-        <translation type="unfinished"></translation>
+        <translation>Belge yinelenen bir katman kimliği içeriyor.</translation>
     </message>
     <message>
         <source>The destination device is not writable.</source>
-        <translation type="unfinished"></translation>
+        <translation>Hedef aygıta yazılamıyor.</translation>
     </message>
     <message>
         <source>The document dimensions cannot be stored in .zelmora format.</source>
-        <translation type="unfinished"></translation>
+        <translation>Belge boyutları .zelmora biçiminde saklanamıyor.</translation>
     </message>
     <message>
         <source>The document contains too many layers.</source>
-        <translation type="unfinished"></translation>
+        <translation>Belge çok fazla katman içeriyor.</translation>
     </message>
     <message>
         <source>out of memory</source>
-        <translation type="unfinished"></translation>
+        <translation>bellek yetersiz</translation>
     </message>
     <message>
         <source>out of memory while writing the bitstream</source>
-        <translation type="unfinished"></translation>
+        <translation>bit akışı yazılırken bellek yetersiz kaldı</translation>
     </message>
     <message>
         <source>a required encoder parameter is missing</source>
-        <translation type="unfinished"></translation>
+        <translation>gerekli bir kodlayıcı parametresi eksik</translation>
     </message>
     <message>
         <source>the encoder configuration is invalid</source>
-        <translation type="unfinished"></translation>
+        <translation>kodlayıcı yapılandırması geçersiz</translation>
     </message>
     <message>
         <source>the image dimensions are invalid</source>
-        <translation type="unfinished"></translation>
+        <translation>görüntü boyutları geçersiz</translation>
     </message>
     <message>
         <source>an encoder partition is too large</source>
-        <translation type="unfinished"></translation>
+        <translation>bir kodlayıcı bölmesi çok büyük</translation>
     </message>
     <message>
         <source>the encoded data could not be written</source>
-        <translation type="unfinished"></translation>
+        <translation>kodlanan veri yazılamadı</translation>
     </message>
     <message>
         <source>the encoded image is too large</source>
-        <translation type="unfinished"></translation>
+        <translation>kodlanan görüntü çok büyük</translation>
     </message>
     <message>
         <source>encoding was cancelled</source>
-        <translation type="unfinished"></translation>
+        <translation>kodlama iptal edildi</translation>
     </message>
     <message>
         <source>unknown encoder error (code %1)</source>
-        <translation type="unfinished"></translation>
+        <translation>bilinmeyen kodlayıcı hatası (kod %1)</translation>
     </message>
     <message>
         <source>An image cannot be represented as WebP.</source>
-        <translation type="unfinished"></translation>
+        <translation>Bir görüntü WebP olarak gösterilemiyor.</translation>
     </message>
     <message>
         <source>Could not initialize the WebP encoder.</source>
-        <translation type="unfinished"></translation>
+        <translation>WebP kodlayıcısı başlatılamadı.</translation>
     </message>
     <message>
         <source>The WebP encoder configuration is invalid.</source>
-        <translation type="unfinished"></translation>
+        <translation>WebP kodlayıcısının yapılandırması geçersiz.</translation>
     </message>
     <message>
         <source>Could not prepare the image for WebP encoding.</source>
-        <translation type="unfinished"></translation>
+        <translation>Görüntü WebP kodlaması için hazırlanamadı.</translation>
     </message>
     <message>
         <source>Could not prepare the image for WebP encoding: %1</source>
-        <translation type="unfinished"></translation>
+        <translation>Görüntü WebP kodlaması için hazırlanamadı: %1</translation>
     </message>
     <message>
         <source>Could not encode WebP: %1</source>
-        <translation type="unfinished"></translation>
+        <translation>WebP kodlanamadı: %1</translation>
     </message>
     <message>
         <source>The WebP encoder produced no data.</source>
-        <translation type="unfinished"></translation>
+        <translation>WebP kodlayıcısı veri üretmedi.</translation>
     </message>
     <message>
         <source>The encoded WebP image is too large.</source>
-        <translation type="unfinished"></translation>
+        <translation>Kodlanan WebP görüntüsü çok büyük.</translation>
     </message>
     <message>
         <source>An embedded WebP has invalid dimensions.</source>
-        <translation type="unfinished"></translation>
+        <translation>Gömülü bir WebP’nin boyutları geçersiz.</translation>
     </message>
     <message>
         <source>Could not open an embedded image.</source>
-        <translation type="unfinished"></translation>
+        <translation>Gömülü bir görüntü açılamadı.</translation>
     </message>
     <message>
         <source>Could not decode WebP: %1</source>
-        <translation type="unfinished"></translation>
+        <translation>WebP kodu çözülemedi: %1</translation>
     </message>
     <message>
         <source>An image cannot be represented as raw RGBA data.</source>
-        <translation type="unfinished"></translation>
+        <translation>Bir görüntü ham RGBA verisi olarak gösterilemiyor.</translation>
     </message>
     <message>
         <source>A raw RGBA image has invalid dimensions.</source>
-        <translation type="unfinished"></translation>
+        <translation>Ham bir RGBA görüntüsünün boyutları geçersiz.</translation>
     </message>
     <message>
         <source>A raw RGBA image has an invalid byte length.</source>
-        <translation type="unfinished"></translation>
+        <translation>Ham bir RGBA görüntüsünün bayt uzunluğu geçersiz.</translation>
     </message>
     <message>
         <source>Could not allocate a raw RGBA image.</source>
-        <translation type="unfinished"></translation>
+        <translation>Ham bir RGBA görüntüsü için bellek ayrılamadı.</translation>
     </message>
     <message>
         <source>A gradient fill uses an unsupported type.</source>
-        <translation type="unfinished"></translation>
+        <translation>Bir degrade dolgu desteklenmeyen bir tür kullanıyor.</translation>
     </message>
     <message>
         <source>A gradient fill has an invalid position.</source>
-        <translation type="unfinished"></translation>
+        <translation>Bir degrade dolgunun konumu geçersiz.</translation>
     </message>
     <message>
         <source>A gradient fill has an invalid stop count.</source>
-        <translation type="unfinished"></translation>
+        <translation>Bir degrade dolgunun durak sayısı geçersiz.</translation>
     </message>
     <message>
         <source>A gradient fill has an invalid color stop.</source>
-        <translation type="unfinished"></translation>
+        <translation>Bir degrade dolgunun renk durağı geçersiz.</translation>
     </message>
     <message>
         <source>A fill uses an unsupported texture mapping.</source>
-        <translation type="unfinished"></translation>
+        <translation>Bir dolgu desteklenmeyen bir doku eşlemesi kullanıyor.</translation>
     </message>
     <message>
         <source>A texture fill has an invalid transform.</source>
-        <translation type="unfinished"></translation>
+        <translation>Bir doku dolgusunun dönüşümü geçersiz.</translation>
     </message>
     <message>
         <source>A fill generator ID is too large.</source>
-        <translation type="unfinished"></translation>
+        <translation>Bir dolgu üreteci kimliği çok büyük.</translation>
     </message>
     <message>
         <source>A solid fill contains unexpected data.</source>
-        <translation type="unfinished"></translation>
+        <translation>Düz bir dolgu beklenmeyen veri içeriyor.</translation>
     </message>
     <message>
         <source>A texture fill record is invalid.</source>
-        <translation type="unfinished"></translation>
+        <translation>Bir doku dolgusu kaydı geçersiz.</translation>
     </message>
     <message>
         <source>A texture parameter block has trailing data.</source>
-        <translation type="unfinished"></translation>
+        <translation>Bir doku parametre bloğunun sonunda fazladan veri var.</translation>
     </message>
     <message>
         <source>A texture fill transform or size is invalid.</source>
-        <translation type="unfinished"></translation>
+        <translation>Bir doku dolgusunun dönüşümü veya boyutu geçersiz.</translation>
     </message>
     <message>
         <source>A gradient fill record is invalid.</source>
-        <translation type="unfinished"></translation>
+        <translation>Bir degrade dolgu kaydı geçersiz.</translation>
     </message>
     <message>
         <source>A fill record is truncated or invalid.</source>
-        <translation type="unfinished"></translation>
+        <translation>Bir dolgu kaydı yarım veya geçersiz.</translation>
     </message>
     <message>
         <source>A fill uses an unknown texture mapping.</source>
-        <translation type="unfinished"></translation>
+        <translation>Bir dolgu bilinmeyen bir doku eşlemesi kullanıyor.</translation>
     </message>
     <message>
         <source>A filter has a null instance ID.</source>
-        <translation type="unfinished"></translation>
+        <translation>Bir filtrenin örnek kimliği boş.</translation>
     </message>
     <message>
         <source>A filter record is truncated or invalid.</source>
-        <translation type="unfinished"></translation>
+        <translation>Bir filtre kaydı yarım veya geçersiz.</translation>
     </message>
     <message>
         <source>A filter parameter block has trailing data.</source>
-        <translation type="unfinished"></translation>
+        <translation>Bir filtre parametre bloğunun sonunda fazladan veri var.</translation>
     </message>
     <message>
         <source>A shape generator ID is empty or too large.</source>
-        <translation type="unfinished"></translation>
+        <translation>Bir şekil üreteci kimliği boş veya çok büyük.</translation>
     </message>
     <message>
         <source>A parametric shape record is invalid.</source>
-        <translation type="unfinished"></translation>
+        <translation>Bir parametrik şekil kaydı geçersiz.</translation>
     </message>
     <message>
         <source>A shape generator ID is empty.</source>
-        <translation type="unfinished"></translation>
+        <translation>Bir şekil üreteci kimliği boş.</translation>
     </message>
     <message>
         <source>A parametric shape has trailing data.</source>
-        <translation type="unfinished"></translation>
+        <translation>Bir parametrik şeklin sonunda fazladan veri var.</translation>
     </message>
     <message>
         <source>A shape uses an unknown geometry type.</source>
-        <translation type="unfinished"></translation>
+        <translation>Bir şekil bilinmeyen bir geometri türü kullanıyor.</translation>
     </message>
     <message>
         <source>An SVG layer has no source data.</source>
-        <translation type="unfinished"></translation>
+        <translation>Bir SVG katmanının kaynak verisi yok.</translation>
     </message>
     <message>
         <source>An image layer has no supported source.</source>
-        <translation type="unfinished"></translation>
+        <translation>Bir görüntü katmanının desteklenen bir kaynağı yok.</translation>
     </message>
     <message>
         <source>A raster selection must be an editable path.</source>
-        <translation type="unfinished"></translation>
+        <translation>Raster seçim düzenlenebilir bir yol olmalıdır.</translation>
     </message>
     <message>
         <source>A raster layer has invalid pixel dimensions.</source>
-        <translation type="unfinished"></translation>
+        <translation>Bir raster katmanın piksel boyutları geçersiz.</translation>
     </message>
     <message>
         <source>An SVG layer contains raster dimensions.</source>
-        <translation type="unfinished"></translation>
+        <translation>Bir SVG katmanı raster boyutları içeriyor.</translation>
     </message>
     <message>
         <source>An SVG layer contains invalid SVG data.</source>
-        <translation type="unfinished"></translation>
+        <translation>Bir SVG katmanı geçersiz SVG verisi içeriyor.</translation>
     </message>
     <message>
         <source>An image layer uses an unknown source encoding.</source>
-        <translation type="unfinished"></translation>
+        <translation>Bir görüntü katmanı bilinmeyen bir kaynak kodlaması kullanıyor.</translation>
     </message>
     <message>
         <source>An image layer has invalid dimensions or data.</source>
-        <translation type="unfinished"></translation>
+        <translation>Bir görüntü katmanının boyutları veya verisi geçersiz.</translation>
     </message>
     <message>
         <source>An image layer payload is invalid.</source>
-        <translation type="unfinished"></translation>
+        <translation>Bir görüntü katmanının verisi geçersiz.</translation>
     </message>
     <message>
         <source>An image layer has an unknown raster surface policy.</source>
-        <translation type="unfinished"></translation>
+        <translation>Bir görüntü katmanının raster yüzey ilkesi bilinmiyor.</translation>
     </message>
     <message>
         <source>The document contains an unsupported layer type.</source>
-        <translation type="unfinished"></translation>
+        <translation>Belge desteklenmeyen bir katman türü içeriyor.</translation>
     </message>
     <message>
         <source>A section is not a supported layer type.</source>
-        <translation type="unfinished"></translation>
+        <translation>Bir bölüm desteklenen bir katman türü değil.</translation>
     </message>
     <message>
         <source>A layer has too many filters.</source>
-        <translation type="unfinished"></translation>
+        <translation>Bir katmanda çok fazla filtre var.</translation>
     </message>
     <message>
         <source>A layer contains a duplicated filter instance ID.</source>
-        <translation type="unfinished"></translation>
+        <translation>Bir katman yinelenen bir filtre örnek kimliği içeriyor.</translation>
     </message>
     <message>
         <source>A layer has invalid identity or transform properties.</source>
-        <translation type="unfinished"></translation>
+        <translation>Bir katmanın kimlik veya dönüşüm özellikleri geçersiz.</translation>
     </message>
     <message>
         <source>A layer name or blend-mode ID is too large.</source>
-        <translation type="unfinished"></translation>
+        <translation>Bir katman adı veya karıştırma modu kimliği çok büyük.</translation>
     </message>
     <message>
         <source>A layer type does not match its content.</source>
-        <translation type="unfinished"></translation>
+        <translation>Bir katmanın türü içeriğiyle eşleşmiyor.</translation>
     </message>
     <message>
         <source>A layer section is too large.</source>
-        <translation type="unfinished"></translation>
+        <translation>Bir katman bölümü çok büyük.</translation>
     </message>
     <message>
         <source>A layer payload header is invalid.</source>
-        <translation type="unfinished"></translation>
+        <translation>Bir katman verisinin başlığı geçersiz.</translation>
     </message>
     <message>
         <source>A layer has an empty blend-mode ID.</source>
-        <translation type="unfinished"></translation>
+        <translation>Bir katmanın karıştırma modu kimliği boş.</translation>
     </message>
     <message>
         <source>A layer section has trailing data.</source>
-        <translation type="unfinished"></translation>
+        <translation>Bir katman bölümünün sonunda fazladan veri var.</translation>
     </message>
     <message>
         <source>Could not restore a layer filter stack.</source>
-        <translation type="unfinished"></translation>
+        <translation>Bir katmanın filtre yığını geri yüklenemedi.</translation>
     </message>
     <message>
         <source>A parameter string value is too large.</source>
-        <translation type="unfinished"></translation>
+        <translation>Bir parametrenin metin değeri çok büyük.</translation>
     </message>
     <message>
         <source>A light list contains too many lights.</source>
-        <translation type="unfinished"></translation>
+        <translation>Bir ışık listesi çok fazla ışık içeriyor.</translation>
     </message>
     <message>
         <source>An asset parameter has an invalid byte length.</source>
-        <translation type="unfinished"></translation>
+        <translation>Bir varlık parametresinin bayt uzunluğu geçersiz.</translation>
     </message>
     <message>
         <source>A Boolean parameter is invalid.</source>
-        <translation type="unfinished"></translation>
+        <translation>Bir Boole parametresi geçersiz.</translation>
     </message>
     <message>
         <source>A real parameter is not finite.</source>
-        <translation type="unfinished"></translation>
+        <translation>Bir gerçek sayı parametresi sonlu değil.</translation>
     </message>
     <message>
         <source>A parameter contains a non-finite number.</source>
-        <translation type="unfinished"></translation>
+        <translation>Bir parametre sonlu olmayan bir sayı içeriyor.</translation>
     </message>
     <message>
         <source>An asset parameter must be a file name, not a path.</source>
-        <translation type="unfinished"></translation>
+        <translation>Varlık parametresi bir yol değil, dosya adı olmalıdır.</translation>
     </message>
     <message>
         <source>An enabled-color parameter is invalid.</source>
-        <translation type="unfinished"></translation>
+        <translation>Etkinleştirilebilir bir renk parametresi geçersiz.</translation>
     </message>
     <message>
         <source>A stroke parameter is invalid.</source>
-        <translation type="unfinished"></translation>
+        <translation>Bir kontur parametresi geçersiz.</translation>
     </message>
     <message>
         <source>A stroke contains an invalid width.</source>
-        <translation type="unfinished"></translation>
+        <translation>Bir kontur geçersiz bir genişlik içeriyor.</translation>
     </message>
     <message>
         <source>A gradient parameter is invalid.</source>
-        <translation type="unfinished"></translation>
+        <translation>Bir degrade parametresi geçersiz.</translation>
     </message>
     <message>
         <source>A gradient contains a non-finite position.</source>
-        <translation type="unfinished"></translation>
+        <translation>Bir degrade sonlu olmayan bir konum içeriyor.</translation>
     </message>
     <message>
         <source>A mask transform is invalid.</source>
-        <translation type="unfinished"></translation>
+        <translation>Bir maske dönüşümü geçersiz.</translation>
     </message>
     <message>
         <source>A mask contains a non-finite transform.</source>
-        <translation type="unfinished"></translation>
+        <translation>Bir maske sonlu olmayan bir dönüşüm içeriyor.</translation>
     </message>
     <message>
         <source>A light list parameter is invalid.</source>
-        <translation type="unfinished"></translation>
+        <translation>Bir ışık listesi parametresi geçersiz.</translation>
     </message>
     <message>
         <source>A light list contains an invalid light.</source>
-        <translation type="unfinished"></translation>
+        <translation>Bir ışık listesi geçersiz bir ışık içeriyor.</translation>
     </message>
     <message>
         <source>The .zelmora file uses an unknown parameter type.</source>
-        <translation type="unfinished"></translation>
+        <translation>.zelmora dosyası bilinmeyen bir parametre türü kullanıyor.</translation>
     </message>
     <message>
         <source>A parameter value has an invalid byte length.</source>
-        <translation type="unfinished"></translation>
+        <translation>Bir parametre değerinin bayt uzunluğu geçersiz.</translation>
     </message>
     <message>
         <source>A parameter key is duplicated.</source>
-        <translation type="unfinished"></translation>
+        <translation>Bir parametre anahtarı yineleniyor.</translation>
     </message>
     <message>
         <source>A parameter collection is too large.</source>
-        <translation type="unfinished"></translation>
+        <translation>Bir parametre koleksiyonu çok büyük.</translation>
     </message>
     <message>
         <source>A parameter header is truncated.</source>
-        <translation type="unfinished"></translation>
+        <translation>Bir parametre başlığı yarım.</translation>
     </message>
     <message>
         <source>A parameter value is truncated.</source>
-        <translation type="unfinished"></translation>
+        <translation>Bir parametre değeri yarım.</translation>
     </message>
     <message>
         <source>An editable path node is invalid.</source>
-        <translation type="unfinished"></translation>
+        <translation>Düzenlenebilir bir yol düğümü geçersiz.</translation>
     </message>
     <message>
         <source>An editable path node ID is duplicated.</source>
-        <translation type="unfinished"></translation>
+        <translation>Düzenlenebilir bir yol düğümünün kimliği yineleniyor.</translation>
     </message>
     <message>
         <source>An editable path node uses an unknown type.</source>
-        <translation type="unfinished"></translation>
+        <translation>Düzenlenebilir bir yol düğümü bilinmeyen bir tür kullanıyor.</translation>
     </message>
     <message>
         <source>An editable path contour is invalid.</source>
-        <translation type="unfinished"></translation>
+        <translation>Düzenlenebilir bir yol çevriti geçersiz.</translation>
     </message>
     <message>
         <source>An editable path has too many contours.</source>
-        <translation type="unfinished"></translation>
+        <translation>Düzenlenebilir bir yolda çok fazla çevrit var.</translation>
     </message>
     <message>
         <source>An editable path contour has too many nodes.</source>
-        <translation type="unfinished"></translation>
+        <translation>Düzenlenebilir bir yol çevritinde çok fazla düğüm var.</translation>
     </message>
     <message>
         <source>An editable path record is invalid.</source>
-        <translation type="unfinished"></translation>
+        <translation>Düzenlenebilir bir yol kaydı geçersiz.</translation>
     </message>
     <message>
         <source>An editable path has trailing data.</source>
-        <translation type="unfinished"></translation>
+        <translation>Düzenlenebilir bir yolun sonunda fazladan veri var.</translation>
     </message>
     <message>
         <source>The .zelmora file contains an invalid color.</source>
-        <translation type="unfinished"></translation>
+        <translation>.zelmora dosyası geçersiz bir renk içeriyor.</translation>
     </message>
     <message>
         <source>The .zelmora file contains a null object identifier.</source>
-        <translation type="unfinished"></translation>
+        <translation>.zelmora dosyası boş bir nesne kimliği içeriyor.</translation>
     </message>
     <message>
         <source>A registry key is not valid 7-bit ASCII.</source>
-        <translation type="unfinished"></translation>
+        <translation>Bir kayıt anahtarı geçerli 7 bit ASCII değil.</translation>
     </message>
     <message>
         <source>A registry key is empty or not null-terminated.</source>
-        <translation type="unfinished"></translation>
+        <translation>Bir kayıt anahtarı boş veya null ile bitmiyor.</translation>
     </message>
     <message>
         <source>A registry key has nonzero padding.</source>
-        <translation type="unfinished"></translation>
+        <translation>Bir kayıt anahtarında sıfır olmayan dolgu var.</translation>
     </message>
     <message>
         <source>A filter or parameter key does not fit its 32-byte field.</source>
-        <translation type="unfinished"></translation>
+        <translation>Bir filtre veya parametre anahtarı 32 baytlık alanına sığmıyor.</translation>
     </message>
     <message>
         <source>Filter and parameter keys must use 7-bit ASCII.</source>
-        <translation type="unfinished"></translation>
+        <translation>Filtre ve parametre anahtarları 7 bit ASCII kullanmalıdır.</translation>
     </message>
     <message>
         <source>A .zelmora record exceeds the 32-bit size limit.</source>
-        <translation type="unfinished"></translation>
+        <translation>Bir .zelmora kaydı 32 bitlik boyut sınırını aşıyor.</translation>
     </message>
     <message>
         <source>A shape layer has invalid dimensions or stroke.</source>
-        <translation type="unfinished"></translation>
+        <translation>Bir şekil katmanının boyutları veya konturu geçersiz.</translation>
     </message>
     <message>
         <source>A shape layer payload is invalid.</source>
-        <translation type="unfinished"></translation>
+        <translation>Bir şekil katmanının verisi geçersiz.</translation>
     </message>
     <message>
         <source>A shape layer payload is truncated.</source>
-        <translation type="unfinished"></translation>
+        <translation>Bir şekil katmanının verisi yarım.</translation>
     </message>
     <message>
         <source>A text paragraph is invalid.</source>
-        <translation type="unfinished"></translation>
+        <translation>Bir metin paragrafı geçersiz.</translation>
     </message>
     <message>
         <source>A text paragraph uses an unsupported alignment.</source>
-        <translation type="unfinished"></translation>
+        <translation>Bir metin paragrafı desteklenmeyen bir hizalama kullanıyor.</translation>
     </message>
     <message>
         <source>A text paragraph uses an unsupported direction.</source>
-        <translation type="unfinished"></translation>
+        <translation>Bir metin paragrafı desteklenmeyen bir yön kullanıyor.</translation>
     </message>
     <message>
         <source>A text paragraph record is invalid.</source>
-        <translation type="unfinished"></translation>
+        <translation>Bir metin paragrafı kaydı geçersiz.</translation>
     </message>
     <message>
         <source>A text paragraph uses an unknown alignment.</source>
-        <translation type="unfinished"></translation>
+        <translation>Bir metin paragrafı bilinmeyen bir hizalama kullanıyor.</translation>
     </message>
     <message>
         <source>A text paragraph uses an unknown direction.</source>
-        <translation type="unfinished"></translation>
+        <translation>Bir metin paragrafı bilinmeyen bir yön kullanıyor.</translation>
     </message>
     <message>
         <source>A text paragraph has trailing data.</source>
-        <translation type="unfinished"></translation>
+        <translation>Bir metin paragrafının sonunda fazladan veri var.</translation>
     </message>
     <message>
         <source>A text layer has invalid dimensions or too many paragraphs.</source>
-        <translation type="unfinished"></translation>
+        <translation>Bir metin katmanının boyutları geçersiz veya çok fazla paragrafı var.</translation>
     </message>
     <message>
         <source>A text layer payload is invalid.</source>
-        <translation type="unfinished"></translation>
+        <translation>Bir metin katmanının verisi geçersiz.</translation>
     </message>
     <message>
         <source>A text layer has trailing data.</source>
-        <translation type="unfinished"></translation>
+        <translation>Bir metin katmanının sonunda fazladan veri var.</translation>
     </message>
     <message>
         <source>A text run is too large.</source>
-        <translation type="unfinished"></translation>
+        <translation>Bir metin parçası çok büyük.</translation>
     </message>
     <message>
         <source>A font family record is invalid.</source>
-        <translation type="unfinished"></translation>
+        <translation>Bir yazı tipi ailesi kaydı geçersiz.</translation>
     </message>
     <message>
         <source>A font family block has trailing data.</source>
-        <translation type="unfinished"></translation>
+        <translation>Bir yazı tipi ailesi bloğunun sonunda fazladan veri var.</translation>
     </message>
     <message>
         <source>A text run uses an unknown font style.</source>
-        <translation type="unfinished"></translation>
+        <translation>Bir metin parçası bilinmeyen bir yazı tipi stili kullanıyor.</translation>
     </message>
     <message>
         <source>A text run uses an unknown capitalization mode.</source>
-        <translation type="unfinished"></translation>
+        <translation>Bir metin parçası bilinmeyen bir büyük harf modu kullanıyor.</translation>
     </message>
     <message>
         <source>A text run uses an unknown letter-spacing mode.</source>
-        <translation type="unfinished"></translation>
+        <translation>Bir metin parçası bilinmeyen bir harf aralığı modu kullanıyor.</translation>
     </message>
     <message>
         <source>A text run uses an unknown font hinting mode.</source>
-        <translation type="unfinished"></translation>
+        <translation>Bir metin parçası bilinmeyen bir yazı tipi ipucu (hinting) modu kullanıyor.</translation>
     </message>
     <message>
         <source>A text run has no valid font size.</source>
-        <translation type="unfinished"></translation>
+        <translation>Bir metin parçasının geçerli bir yazı tipi boyutu yok.</translation>
     </message>
     <message>
         <source>A text run has too many font families.</source>
-        <translation type="unfinished"></translation>
+        <translation>Bir metin parçasında çok fazla yazı tipi ailesi var.</translation>
     </message>
     <message>
         <source>A text run has invalid numeric font properties.</source>
-        <translation type="unfinished"></translation>
+        <translation>Bir metin parçasının sayısal yazı tipi özellikleri geçersiz.</translation>
     </message>
     <message>
         <source>A text run record is invalid.</source>
-        <translation type="unfinished"></translation>
+        <translation>Bir metin parçası kaydı geçersiz.</translation>
     </message>
     <message>
         <source>A text run is truncated.</source>
-        <translation type="unfinished"></translation>
+        <translation>Bir metin parçası yarım.</translation>
     </message>
     <message>
         <source>Could not open %1 for reading: %2</source>
-        <translation type="unfinished"></translation>
+        <translation>%1 okumak için açılamadı: %2</translation>
     </message>
     <message>
         <source>Could not open %1 for writing: %2</source>
-        <translation type="unfinished"></translation>
+        <translation>%1 yazmak için açılamadı: %2</translation>
     </message>
     <message>
         <source>The target is not a regular file.</source>
-        <translation type="unfinished"></translation>
+        <translation>Hedef normal bir dosya değil.</translation>
     </message>
     <message>
         <source>Could not finish writing %1: %2</source>
-        <translation type="unfinished"></translation>
+        <translation>%1 yazma işlemi tamamlanamadı: %2</translation>
     </message>
 </context>
 <context>
     <name>ZmSearchField</name>
     <message>
         <source>Clear</source>
-        <translation type="unfinished"></translation>
+        <translation>Temizle</translation>
     </message>
 </context>
 <context>
     <name>zm::ApplicationInfoController</name>
     <message>
         <source>© %1 %2</source>
-        <translation type="unfinished"></translation>
+        <translation>© %1 %2</translation>
     </message>
 </context>
 <context>
     <name>zm::DocumentFileController</name>
     <message>
         <source>Could not replace the current document.</source>
-        <translation type="unfinished"></translation>
+        <translation>Geçerli belge değiştirilemedi.</translation>
     </message>
     <message>
         <source>Choose an existing file.</source>
-        <translation type="unfinished"></translation>
+        <translation>Var olan bir dosya seçin.</translation>
     </message>
     <message>
         <source>Could not open the selected image file.</source>
-        <translation type="unfinished"></translation>
+        <translation>Seçilen görüntü dosyası açılamadı.</translation>
     </message>
     <message>
         <source>Could not load the selected SVG image.</source>
-        <translation type="unfinished"></translation>
+        <translation>Seçilen SVG görüntüsü yüklenemedi.</translation>
     </message>
     <message>
         <source>Windows could not decode the selected HEIC/HEIF image.</source>
-        <translation type="unfinished"></translation>
+        <translation>Windows, seçilen HEIC/HEIF görüntüsünün kodunu çözemedi.</translation>
     </message>
     <message>
         <source>Could not load the selected image file.</source>
-        <translation type="unfinished"></translation>
+        <translation>Seçilen görüntü dosyası yüklenemedi.</translation>
     </message>
     <message>
         <source>The selected image does not have a usable size.</source>
-        <translation type="unfinished"></translation>
+        <translation>Seçilen görüntünün kullanılabilir bir boyutu yok.</translation>
     </message>
     <message>
         <source>Could not create a document from the selected image.</source>
-        <translation type="unfinished"></translation>
+        <translation>Seçilen görüntüden belge oluşturulamadı.</translation>
     </message>
     <message>
         <source>Image</source>
-        <translation type="unfinished"></translation>
+        <translation>Görüntü</translation>
     </message>
     <message>
         <source>Untitled</source>
-        <translation type="unfinished"></translation>
+        <translation>Adsız</translation>
     </message>
     <message>
         <source>%1 (%2)</source>
-        <translation type="unfinished"></translation>
+        <translation>%1 (%2)</translation>
     </message>
     <message>
         <source>Enter a valid width and height.</source>
-        <translation type="unfinished"></translation>
+        <translation>Geçerli bir genişlik ve yükseklik girin.</translation>
     </message>
     <message>
         <source>Could not create a new document.</source>
-        <translation type="unfinished"></translation>
+        <translation>Yeni belge oluşturulamadı.</translation>
     </message>
     <message>
         <source>Only local files are supported.</source>
-        <translation type="unfinished"></translation>
+        <translation>Yalnızca yerel dosyalar desteklenir.</translation>
     </message>
     <message>
         <source>Choose a file name before saving the document.</source>
-        <translation type="unfinished"></translation>
+        <translation>Belgeyi kaydetmeden önce bir dosya adı seçin.</translation>
     </message>
 </context>
 <context>
     <name>zm::DocumentPropertiesAdapter</name>
     <message>
         <source>Resize Document</source>
-        <translation type="unfinished"></translation>
+        <translation>Belgeyi Yeniden Boyutlandır</translation>
     </message>
     <message>
         <source>Fit Document Bounds to Content</source>
-        <translation type="unfinished"></translation>
+        <translation>Belge Sınırlarını İçeriğe Sığdır</translation>
     </message>
     <message>
         <source>Move Object</source>
-        <translation type="unfinished"></translation>
+        <translation>Nesneyi Taşı</translation>
     </message>
 </context>
 <context>
     <name>zm::EditorController</name>
     <message>
         <source>Choose an existing image file.</source>
-        <translation type="unfinished"></translation>
+        <translation>Var olan bir görüntü dosyası seçin.</translation>
     </message>
     <message>
         <source>Zelmora Atelier could not load the selected image.</source>
-        <translation type="unfinished"></translation>
+        <translation>Zelmora Atelier seçilen görüntüyü yükleyemedi.</translation>
     </message>
     <message>
         <source>Only local image files are supported.</source>
-        <translation type="unfinished"></translation>
+        <translation>Yalnızca yerel görüntü dosyaları desteklenir.</translation>
     </message>
     <message>
         <source>Could not add the selected image to the document.</source>
-        <translation type="unfinished"></translation>
+        <translation>Seçilen görüntü belgeye eklenemedi.</translation>
     </message>
     <message>
         <source>Zelmora Example</source>
-        <translation type="unfinished"></translation>
+        <translation>Zelmora Örneği</translation>
     </message>
     <message>
         <source>Zelmora Atelier could not load the example image.</source>
-        <translation type="unfinished"></translation>
+        <translation>Zelmora Atelier örnek görüntüyü yükleyemedi.</translation>
     </message>
     <message>
         <source>Could not add the example image to the document.</source>
-        <translation type="unfinished"></translation>
+        <translation>Örnek görüntü belgeye eklenemedi.</translation>
     </message>
     <message>
         <source>Path</source>
-        <translation type="unfinished"></translation>
+        <translation>Yol</translation>
     </message>
 </context>
 <context>
     <name>zm::ExportController</name>
     <message>
         <source>An enabled style transfer filter cannot be exported yet. Disable or remove the filter before exporting.</source>
-        <translation type="unfinished"></translation>
+        <translation>Etkin bir stil aktarımı filtresi henüz dışa aktarılamıyor. Dışa aktarmadan önce filtreyi devre dışı bırakın veya kaldırın.</translation>
     </message>
     <message>
         <source>Could not encode the preview: %1</source>
-        <translation type="unfinished"></translation>
+        <translation>Önizleme kodlanamadı: %1</translation>
     </message>
     <message>
         <source>Could not encode the saved image: %1</source>
-        <translation type="unfinished"></translation>
+        <translation>Kaydedilen görüntü kodlanamadı: %1</translation>
     </message>
     <message>
         <source>Could not create the in-memory image buffer.</source>
-        <translation type="unfinished"></translation>
+        <translation>Bellekteki görüntü arabelleği oluşturulamadı.</translation>
     </message>
     <message>
         <source>Could not render the image.</source>
-        <translation type="unfinished"></translation>
+        <translation>Görüntü işlenemedi.</translation>
     </message>
     <message>
         <source>Could not reopen the in-memory image buffer.</source>
-        <translation type="unfinished"></translation>
+        <translation>Bellekteki görüntü arabelleği yeniden açılamadı.</translation>
     </message>
     <message>
         <source>Could not decode the encoded preview: %1</source>
-        <translation type="unfinished"></translation>
+        <translation>Kodlanan önizlemenin kodu çözülemedi: %1</translation>
     </message>
     <message>
         <source>JPEG images (*.jpg *.jpeg)</source>
-        <translation type="unfinished"></translation>
+        <translation>JPEG görüntüleri (*.jpg *.jpeg)</translation>
     </message>
     <message>
         <source>WebP images (*.webp)</source>
-        <translation type="unfinished"></translation>
+        <translation>WebP görüntüleri (*.webp)</translation>
     </message>
     <message>
         <source>PNG images (*.png)</source>
-        <translation type="unfinished"></translation>
+        <translation>PNG görüntüleri (*.png)</translation>
     </message>
     <message>
         <source>The target is not a regular file.</source>
-        <translation type="unfinished"></translation>
+        <translation>Hedef normal bir dosya değil.</translation>
     </message>
     <message>
         <source>Could not save the image: %1</source>
-        <translation type="unfinished"></translation>
+        <translation>Görüntü kaydedilemedi: %1</translation>
     </message>
     <message>
         <source>Wait for the current save to finish.</source>
-        <translation type="unfinished"></translation>
+        <translation>Geçerli kaydetme işleminin bitmesini bekleyin.</translation>
     </message>
     <message>
         <source>The image preview is not ready.</source>
-        <translation type="unfinished"></translation>
+        <translation>Görüntü önizlemesi hazır değil.</translation>
     </message>
     <message>
         <source>Only local save destinations are supported.</source>
-        <translation type="unfinished"></translation>
+        <translation>Yalnızca yerel kaydetme hedefleri desteklenir.</translation>
     </message>
     <message>
         <source>The filename extension does not match the selected image format: %1</source>
-        <translation type="unfinished"></translation>
+        <translation>Dosya adı uzantısı seçilen görüntü biçimiyle eşleşmiyor: %1</translation>
     </message>
     <message>
         <source>Choose a filename for the image.</source>
-        <translation type="unfinished"></translation>
+        <translation>Görüntü için bir dosya adı seçin.</translation>
     </message>
     <message>
         <source>The image was saved, but the editable .zelmora file could not be saved: %1</source>
-        <translation type="unfinished"></translation>
+        <translation>Görüntü kaydedildi ancak düzenlenebilir .zelmora dosyası kaydedilemedi: %1</translation>
     </message>
     <message>
         <source>Choose save settings before saving this image.</source>
-        <translation type="unfinished"></translation>
+        <translation>Bu görüntüyü kaydetmeden önce kaydetme ayarlarını seçin.</translation>
     </message>
     <message>
         <source>Close the Export Settings dialog before saving.</source>
-        <translation type="unfinished"></translation>
+        <translation>Kaydetmeden önce Dışa Aktarma Ayarları penceresini kapatın.</translation>
     </message>
     <message>
         <source>Could not save the editable .zelmora file: %1</source>
-        <translation type="unfinished"></translation>
+        <translation>Düzenlenebilir .zelmora dosyası kaydedilemedi: %1</translation>
     </message>
     <message>
         <source>The encoder did not produce an image.</source>
-        <translation type="unfinished"></translation>
+        <translation>Kodlayıcı bir görüntü üretmedi.</translation>
     </message>
     <message>
         <source>The editable .zelmora file was saved, but the image could not be updated: %1</source>
-        <translation type="unfinished"></translation>
+        <translation>Düzenlenebilir .zelmora dosyası kaydedildi ancak görüntü güncellenemedi: %1</translation>
     </message>
 </context>
 <context>
     <name>zm::FileManagerController</name>
     <message>
         <source>Could not open the folder containing the image.</source>
-        <translation type="unfinished"></translation>
+        <translation>Görüntünün bulunduğu klasör açılamadı.</translation>
     </message>
 </context>
 <context>
     <name>zm::ImageLayer</name>
     <message>
         <source>Paint</source>
-        <translation type="unfinished"></translation>
+        <translation>Boyama</translation>
     </message>
 </context>
 <context>
     <name>zm::NoticeCatalogModel</name>
     <message>
         <source>SPDX identifier: %1</source>
-        <translation type="unfinished"></translation>
+        <translation>SPDX tanımlayıcısı: %1</translation>
     </message>
     <message>
         <source>Full text on Debian: %1</source>
-        <translation type="unfinished"></translation>
+        <translation>Debian’da tam metin: %1</translation>
     </message>
     <message>
         <source>Copyright notices on Debian: %1</source>
-        <translation type="unfinished"></translation>
+        <translation>Debian’da telif hakkı bildirimleri: %1</translation>
     </message>
     <message>
         <source>MIT License</source>
-        <translation type="unfinished"></translation>
+        <translation>MIT Lisansı</translation>
     </message>
     <message>
         <source>GNU Lesser General Public License, version 3</source>
-        <translation type="unfinished"></translation>
+        <translation>GNU Lesser General Public License, sürüm 3</translation>
     </message>
     <message>
         <source>Draws the interface and reads and writes most picture formats. Linked dynamically, so that it can be replaced: Qt Core, Gui, OpenGL, Svg, Concurrent, D-Bus, Network, Qml, Quick, Quick Controls, Quick Layouts, Quick Dialogs, and the plug-ins for picture formats.</source>
-        <translation type="unfinished"></translation>
+        <translation>Arayüzü çizer, çoğu görüntü biçimini okur ve yazar. Değiştirilebilmesi için dinamik olarak bağlanmıştır: Qt Core, Gui, OpenGL, Svg, Concurrent, D-Bus, Network, Qml, Quick, Quick Controls, Quick Layouts, Quick Dialogs ve görüntü biçimi eklentileri.</translation>
     </message>
     <message>
         <source>Qt brings or uses works of others, among them FreeType, HarfBuzz, libpng, libjpeg-turbo, PCRE2 and zlib. Their notices stand with Qt&apos;s own.</source>
-        <translation type="unfinished"></translation>
+        <translation>Qt; FreeType, HarfBuzz, libpng, libjpeg-turbo, PCRE2 ve zlib dâhil başkalarının çalışmalarını içerir veya kullanır. Bunların bildirimleri Qt’nin kendi bildirimleriyle birlikte yer alır.</translation>
     </message>
     <message>
         <source>BSD 3-Clause License</source>
-        <translation type="unfinished"></translation>
+        <translation>BSD 3 Maddeli Lisansı</translation>
     </message>
     <message>
         <source>Encodes the pictures in documents and exported WebP files. Linked dynamically, with its part libsharpyuv.</source>
-        <translation type="unfinished"></translation>
+        <translation>Belgelerdeki görüntüleri ve dışa aktarılan WebP dosyalarını kodlar. libsharpyuv parçasıyla birlikte dinamik olarak bağlanmıştır.</translation>
     </message>
     <message>
         <source>Finds the OpenGL of the graphics driver, which is not part of this program. Linked dynamically.</source>
-        <translation type="unfinished"></translation>
+        <translation>Bu programın parçası olmayan grafik sürücüsünün OpenGL’ini bulur. Dinamik olarak bağlanmıştır.</translation>
     </message>
     <message>
         <source>GNU General Public License, version 3 or later, with the GCC Runtime Library Exception</source>
-        <translation type="unfinished"></translation>
+        <translation>GNU General Public License, sürüm 3 veya üstü, GCC Runtime Library Exception ile</translation>
     </message>
     <message>
         <source>The C++ standard library and the support routines of the compiler, linked dynamically. The exception lets programs under any license use them.</source>
-        <translation type="unfinished"></translation>
+        <translation>C++ standart kitaplığı ve derleyicinin destek yordamları; dinamik olarak bağlanmıştır. İstisna, herhangi bir lisansa sahip programların bunları kullanmasına izin verir.</translation>
     </message>
     <message>
         <source>GNU Lesser General Public License, version 2.1 or later</source>
-        <translation type="unfinished"></translation>
+        <translation>GNU Lesser General Public License, sürüm 2.1 veya üstü</translation>
     </message>
     <message>
         <source>The C library of the system, linked dynamically.</source>
-        <translation type="unfinished"></translation>
+        <translation>Sistemin C kitaplığı; dinamik olarak bağlanmıştır.</translation>
     </message>
 </context>
 <context>
     <name>zm::SceneObjectAdapter</name>
     <message>
         <source>Change Opacity</source>
-        <translation type="unfinished"></translation>
+        <translation>Opaklığı Değiştir</translation>
     </message>
     <message>
         <source>Rotate Object</source>
-        <translation type="unfinished"></translation>
+        <translation>Nesneyi Döndür</translation>
     </message>
     <message>
         <source>Move Object</source>
-        <translation type="unfinished"></translation>
+        <translation>Nesneyi Taşı</translation>
     </message>
     <message>
         <source>Skew Object</source>
-        <translation type="unfinished"></translation>
+        <translation>Nesneyi Eğrilt</translation>
     </message>
     <message>
         <source>Set Transform Pivot</source>
-        <translation type="unfinished"></translation>
+        <translation>Dönüşüm Eksenini Ayarla</translation>
     </message>
     <message>
         <source>Scale Object</source>
-        <translation type="unfinished"></translation>
+        <translation>Nesneyi Ölçekle</translation>
     </message>
     <message>
         <source>Flip Horizontally</source>
-        <translation type="unfinished"></translation>
+        <translation>Yatay Çevir</translation>
     </message>
     <message>
         <source>Flip Vertically</source>
-        <translation type="unfinished"></translation>
+        <translation>Dikey Çevir</translation>
     </message>
 </context>
 <context>
     <name>zm::ShapePickerModel</name>
     <message>
         <source>Basic</source>
-        <translation type="unfinished"></translation>
+        <translation>Temel</translation>
     </message>
     <message>
         <source>Dynamic</source>
-        <translation type="unfinished"></translation>
+        <translation>Dinamik</translation>
     </message>
 </context>
 </TS>
