@@ -15,22 +15,36 @@ Item {
         works = works.concat([work])
     }
 
+    function carryOutNext() {
+        const work = works[0]
+        work()
+        works = works.slice(1)
+        if (!running)
+            finished()
+    }
+
     visible: running
     Accessible.role: Accessible.Indicator
     Accessible.name: qsTr("Busy")
     Accessible.ignored: !running
 
+    // The cover is on the screen.
+    Connections {
+        target: root.Window.window
+        enabled: root.running
+
+        function onFrameSwapped() {
+            if (root.running)
+                root.carryOutNext()
+        }
+    }
+
+    // A window that is not shown has no frames.
     Timer {
-        interval: 20        // a frame
+        interval: 50
         repeat: true
         running: root.running
-        onTriggered: {
-            const work = root.works[0]
-            work()
-            root.works = root.works.slice(1)
-            if (!root.running)
-                root.finished()
-        }
+        onTriggered: root.carryOutNext()
     }
 
     MouseArea {

@@ -59,9 +59,8 @@ Item {
     }
 
     function previewHeifHelp() {
-        imageLoadErrorDialog.showHeifInstallHelp = true
+        imageLoadErrorDialog.previewsHelp = true
         imageLoadErrorDialog.open()
-        imageLoadErrorDialog.showHeifInstallHelp = Qt.binding(() => editor.lastErrorOffersHeifInstallHelp)
     }
 
     function previewSaveProgress() {
@@ -121,9 +120,12 @@ Item {
     ImageLoadErrorDialog {
         id: imageLoadErrorDialog
 
+        property bool previewsHelp: false       // for developers
+
         title: qsTr("Unable to Insert Image")
         message: root.editor.lastError
-        showHeifInstallHelp: root.editor.lastErrorOffersHeifInstallHelp
+        showHeifInstallHelp: previewsHelp || root.editor.lastErrorOffersHeifInstallHelp
+        onClosed: previewsHelp = false
     }
 
     ImageLoadErrorDialog {
