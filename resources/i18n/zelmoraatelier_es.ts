@@ -424,7 +424,7 @@
     </message>
     <message>
         <source>%1 %</source>
-        <translation>%1 %</translation>
+        <translation>%1&#xa0;%</translation>
     </message>
     <message>
         <source>Zoom in</source>
@@ -440,7 +440,7 @@
     </message>
     <message>
         <source>100 %</source>
-        <translation>100 %</translation>
+        <translation>100&#xa0;%</translation>
     </message>
     <message>
         <source>Show the picture in its own size</source>
@@ -842,7 +842,7 @@
     </message>
     <message>
         <source>%1%</source>
-        <translation>%1 %</translation>
+        <translation>%1&#xa0;%</translation>
     </message>
     <message>
         <source>Blend Mode</source>
@@ -1836,11 +1836,11 @@ Registro:
     </message>
     <message>
         <source>%1%</source>
-        <translation>%1 %</translation>
+        <translation>%1&#xa0;%</translation>
     </message>
     <message>
         <source>Reset zoom to 100%</source>
-        <translation>Restablecer zoom al 100 %</translation>
+        <translation>Restablecer zoom al 100&#xa0;%</translation>
     </message>
     <message>
         <source>Zoom in</source>

@@ -263,7 +263,7 @@
     </message>
     <message>
         <source>Undo %1</source>
-        <translation>Annuler : %1</translation>
+        <translation>Annuler&#xa0;: %1</translation>
     </message>
     <message>
         <source>Undo</source>
@@ -275,7 +275,7 @@
     </message>
     <message>
         <source>Redo %1</source>
-        <translation>Rétablir : %1</translation>
+        <translation>Rétablir&#xa0;: %1</translation>
     </message>
     <message>
         <source>Redo</source>
@@ -381,7 +381,7 @@
     </message>
     <message>
         <source>Estimated Image Size:</source>
-        <translation>Taille estimée de l’image :</translation>
+        <translation>Taille estimée de l’image&#xa0;:</translation>
     </message>
     <message>
         <source>Calculating…</source>
@@ -424,7 +424,7 @@
     </message>
     <message>
         <source>%1 %</source>
-        <translation>%1 %</translation>
+        <translation>%1&#xa0;%</translation>
     </message>
     <message>
         <source>Zoom in</source>
@@ -440,7 +440,7 @@
     </message>
     <message>
         <source>100 %</source>
-        <translation>100 %</translation>
+        <translation>100&#xa0;%</translation>
     </message>
     <message>
         <source>Show the picture in its own size</source>
@@ -842,7 +842,7 @@
     </message>
     <message>
         <source>%1%</source>
-        <translation>%1 %</translation>
+        <translation>%1&#xa0;%</translation>
     </message>
     <message>
         <source>Blend Mode</source>
@@ -1055,7 +1055,7 @@ Document modifiable enregistré sous %2.</translation>
     </message>
     <message>
         <source>Insert:</source>
-        <translation>Insérer :</translation>
+        <translation>Insérer&#xa0;:</translation>
     </message>
 </context>
 <context>
@@ -1215,11 +1215,11 @@ Resource: %3
 Target: %4
 Log:
 %5</source>
-        <translation>Programme : %1
-Étape : %2
-Ressource : %3
-Cible : %4
-Journal :
+        <translation>Programme&#xa0;: %1
+Étape&#xa0;: %2
+Ressource&#xa0;: %3
+Cible&#xa0;: %4
+Journal&#xa0;:
 %5</translation>
     </message>
     <message>
@@ -1256,10 +1256,10 @@ Vertex target: %2
 Fragment target: %3
 Log:
 %4</source>
-        <translation>Programme : %1
-Cible du vertex shader : %2
-Cible du fragment shader : %3
-Journal :
+        <translation>Programme&#xa0;: %1
+Cible du vertex shader&#xa0;: %2
+Cible du fragment shader&#xa0;: %3
+Journal&#xa0;:
 %4</translation>
     </message>
     <message>
@@ -1272,15 +1272,15 @@ Journal :
     </message>
     <message>
         <source>Could not open %1: %2</source>
-        <translation>Impossible d’ouvrir %1 : %2</translation>
+        <translation>Impossible d’ouvrir %1&#xa0;: %2</translation>
     </message>
     <message>
         <source>Invalid serialized QSB shader: %1</source>
-        <translation>Shader QSB sérialisé non valide : %1</translation>
+        <translation>Shader QSB sérialisé non valide&#xa0;: %1</translation>
     </message>
     <message>
         <source>No compatible GLSL variant in %1. Tried: %2</source>
-        <translation>Aucune variante GLSL compatible dans %1. Essais : %2</translation>
+        <translation>Aucune variante GLSL compatible dans %1. Essais&#xa0;: %2</translation>
     </message>
 </context>
 <context>
@@ -1824,7 +1824,7 @@ Journal :
     </message>
     <message>
         <source>Layer: %1 × %2 px</source>
-        <translation>Calque : %1 × %2 px</translation>
+        <translation>Calque&#xa0;: %1 × %2 px</translation>
     </message>
     <message>
         <source>No layer selected</source>
@@ -1836,11 +1836,11 @@ Journal :
     </message>
     <message>
         <source>%1%</source>
-        <translation>%1 %</translation>
+        <translation>%1&#xa0;%</translation>
     </message>
     <message>
         <source>Reset zoom to 100%</source>
-        <translation>Rétablir le zoom à 100 %</translation>
+        <translation>Rétablir le zoom à 100&#xa0;%</translation>
     </message>
     <message>
         <source>Zoom in</source>
@@ -1858,15 +1858,15 @@ Journal :
     <name>TextureLoader</name>
     <message>
         <source>Unable to register texture resource bundle: %1</source>
-        <translation>Impossible d’enregistrer le lot de ressources de texture : %1</translation>
+        <translation>Impossible d’enregistrer le lot de ressources de texture&#xa0;: %1</translation>
     </message>
     <message>
         <source>Rejected unsafe texture image path: %1</source>
-        <translation>Chemin d’image de texture non sûr refusé : %1</translation>
+        <translation>Chemin d’image de texture non sûr refusé&#xa0;: %1</translation>
     </message>
     <message>
         <source>Texture image not found: %1 (searched: %2)</source>
-        <translation>Image de texture introuvable : %1 (emplacements parcourus : %2)</translation>
+        <translation>Image de texture introuvable&#xa0;: %1 (emplacements parcourus&#xa0;: %2)</translation>
     </message>
     <message>
         <source>unknown image decoder error</source>
@@ -1874,19 +1874,19 @@ Journal :
     </message>
     <message>
         <source>Unable to load texture image %1 from %2: %3</source>
-        <translation>Impossible de charger l’image de texture %1 depuis %2 : %3</translation>
+        <translation>Impossible de charger l’image de texture %1 depuis %2&#xa0;: %3</translation>
     </message>
     <message>
         <source>Rejected unsafe texture data path: %1</source>
-        <translation>Chemin de données de texture non sûr refusé : %1</translation>
+        <translation>Chemin de données de texture non sûr refusé&#xa0;: %1</translation>
     </message>
     <message>
         <source>Texture data not found: %1 (searched: %2)</source>
-        <translation>Données de texture introuvables : %1 (emplacements parcourus : %2)</translation>
+        <translation>Données de texture introuvables&#xa0;: %1 (emplacements parcourus&#xa0;: %2)</translation>
     </message>
     <message>
         <source>Texture data not found for any candidate: %1 (searched: %2)</source>
-        <translation>Données de texture introuvables pour tous les candidats : %1 (emplacements parcourus : %2)</translation>
+        <translation>Données de texture introuvables pour tous les candidats&#xa0;: %1 (emplacements parcourus&#xa0;: %2)</translation>
     </message>
     <message>
         <source>unknown read error</source>
@@ -1898,7 +1898,7 @@ Journal :
     </message>
     <message>
         <source>Unable to read texture data %1 from %2: %3</source>
-        <translation>Impossible de lire les données de texture %1 depuis %2 : %3</translation>
+        <translation>Impossible de lire les données de texture %1 depuis %2&#xa0;: %3</translation>
     </message>
 </context>
 <context>
@@ -2028,15 +2028,15 @@ Journal :
     <name>UnsavedChangesDialog</name>
     <message>
         <source>Save changes before exiting?</source>
-        <translation>Enregistrer les modifications avant de quitter ?</translation>
+        <translation>Enregistrer les modifications avant de quitter&#xa0;?</translation>
     </message>
     <message>
         <source>Save changes before creating a new document?</source>
-        <translation>Enregistrer les modifications avant de créer un nouveau document ?</translation>
+        <translation>Enregistrer les modifications avant de créer un nouveau document&#xa0;?</translation>
     </message>
     <message>
         <source>Save changes before opening another document?</source>
-        <translation>Enregistrer les modifications avant d’ouvrir un autre document ?</translation>
+        <translation>Enregistrer les modifications avant d’ouvrir un autre document&#xa0;?</translation>
     </message>
     <message>
         <source>This document has unsaved changes. If you exit without saving, your changes will be lost.</source>
@@ -2196,7 +2196,7 @@ Journal :
     <name>ZelmoraDocumentIO</name>
     <message>
         <source>The .zelmora file is truncated or unreadable: %1</source>
-        <translation>Le fichier .zelmora est tronqué ou illisible : %1</translation>
+        <translation>Le fichier .zelmora est tronqué ou illisible&#xa0;: %1</translation>
     </message>
     <message>
         <source>Could not decode a .zelmora layer section.</source>
@@ -2252,7 +2252,7 @@ Journal :
     </message>
     <message>
         <source>Could not write the .zelmora file: %1</source>
-        <translation>Impossible d’écrire le fichier .zelmora : %1</translation>
+        <translation>Impossible d’écrire le fichier .zelmora&#xa0;: %1</translation>
     </message>
     <message>
         <source>A .zelmora section is too large.</source>
@@ -2336,11 +2336,11 @@ Journal :
     </message>
     <message>
         <source>Could not prepare the image for WebP encoding: %1</source>
-        <translation>Impossible de préparer l’image pour l’encodage WebP : %1</translation>
+        <translation>Impossible de préparer l’image pour l’encodage WebP&#xa0;: %1</translation>
     </message>
     <message>
         <source>Could not encode WebP: %1</source>
-        <translation>Impossible d’encoder le WebP : %1</translation>
+        <translation>Impossible d’encoder le WebP&#xa0;: %1</translation>
     </message>
     <message>
         <source>The WebP encoder produced no data.</source>
@@ -2360,7 +2360,7 @@ Journal :
     </message>
     <message>
         <source>Could not decode WebP: %1</source>
-        <translation>Impossible de décoder le WebP : %1</translation>
+        <translation>Impossible de décoder le WebP&#xa0;: %1</translation>
     </message>
     <message>
         <source>An image cannot be represented as raw RGBA data.</source>
@@ -2808,11 +2808,11 @@ Journal :
     </message>
     <message>
         <source>Could not open %1 for reading: %2</source>
-        <translation>Impossible d’ouvrir %1 en lecture : %2</translation>
+        <translation>Impossible d’ouvrir %1 en lecture&#xa0;: %2</translation>
     </message>
     <message>
         <source>Could not open %1 for writing: %2</source>
-        <translation>Impossible d’ouvrir %1 en écriture : %2</translation>
+        <translation>Impossible d’ouvrir %1 en écriture&#xa0;: %2</translation>
     </message>
     <message>
         <source>The target is not a regular file.</source>
@@ -2820,7 +2820,7 @@ Journal :
     </message>
     <message>
         <source>Could not finish writing %1: %2</source>
-        <translation>Impossible de terminer l’écriture de %1 : %2</translation>
+        <translation>Impossible de terminer l’écriture de %1&#xa0;: %2</translation>
     </message>
 </context>
 <context>
@@ -2958,11 +2958,11 @@ Journal :
     </message>
     <message>
         <source>Could not encode the preview: %1</source>
-        <translation>Impossible d’encoder l’aperçu : %1</translation>
+        <translation>Impossible d’encoder l’aperçu&#xa0;: %1</translation>
     </message>
     <message>
         <source>Could not encode the saved image: %1</source>
-        <translation>Impossible d’encoder l’image enregistrée : %1</translation>
+        <translation>Impossible d’encoder l’image enregistrée&#xa0;: %1</translation>
     </message>
     <message>
         <source>Could not create the in-memory image buffer.</source>
@@ -2978,7 +2978,7 @@ Journal :
     </message>
     <message>
         <source>Could not decode the encoded preview: %1</source>
-        <translation>Impossible de décoder l’aperçu encodé : %1</translation>
+        <translation>Impossible de décoder l’aperçu encodé&#xa0;: %1</translation>
     </message>
     <message>
         <source>JPEG images (*.jpg *.jpeg)</source>
@@ -2998,7 +2998,7 @@ Journal :
     </message>
     <message>
         <source>Could not save the image: %1</source>
-        <translation>Impossible d’enregistrer l’image : %1</translation>
+        <translation>Impossible d’enregistrer l’image&#xa0;: %1</translation>
     </message>
     <message>
         <source>Wait for the current save to finish.</source>
@@ -3014,7 +3014,7 @@ Journal :
     </message>
     <message>
         <source>The filename extension does not match the selected image format: %1</source>
-        <translation>L’extension du nom de fichier ne correspond pas au format d’image sélectionné : %1</translation>
+        <translation>L’extension du nom de fichier ne correspond pas au format d’image sélectionné&#xa0;: %1</translation>
     </message>
     <message>
         <source>Choose a filename for the image.</source>
@@ -3022,7 +3022,7 @@ Journal :
     </message>
     <message>
         <source>The image was saved, but the editable .zelmora file could not be saved: %1</source>
-        <translation>L’image a été enregistrée, mais le fichier .zelmora modifiable n’a pas pu l’être : %1</translation>
+        <translation>L’image a été enregistrée, mais le fichier .zelmora modifiable n’a pas pu l’être&#xa0;: %1</translation>
     </message>
     <message>
         <source>Choose save settings before saving this image.</source>
@@ -3034,7 +3034,7 @@ Journal :
     </message>
     <message>
         <source>Could not save the editable .zelmora file: %1</source>
-        <translation>Impossible d’enregistrer le fichier .zelmora modifiable : %1</translation>
+        <translation>Impossible d’enregistrer le fichier .zelmora modifiable&#xa0;: %1</translation>
     </message>
     <message>
         <source>The encoder did not produce an image.</source>
@@ -3042,7 +3042,7 @@ Journal :
     </message>
     <message>
         <source>The editable .zelmora file was saved, but the image could not be updated: %1</source>
-        <translation>Le fichier .zelmora modifiable a été enregistré, mais l’image n’a pas pu être mise à jour : %1</translation>
+        <translation>Le fichier .zelmora modifiable a été enregistré, mais l’image n’a pas pu être mise à jour&#xa0;: %1</translation>
     </message>
 </context>
 <context>
@@ -3063,15 +3063,15 @@ Journal :
     <name>zm::NoticeCatalogModel</name>
     <message>
         <source>SPDX identifier: %1</source>
-        <translation>Identifiant SPDX : %1</translation>
+        <translation>Identifiant SPDX&#xa0;: %1</translation>
     </message>
     <message>
         <source>Full text on Debian: %1</source>
-        <translation>Texte intégral sous Debian : %1</translation>
+        <translation>Texte intégral sous Debian&#xa0;: %1</translation>
     </message>
     <message>
         <source>Copyright notices on Debian: %1</source>
-        <translation>Mentions de droits d’auteur sous Debian : %1</translation>
+        <translation>Mentions de droits d’auteur sous Debian&#xa0;: %1</translation>
     </message>
     <message>
         <source>MIT License</source>
@@ -3083,7 +3083,7 @@ Journal :
     </message>
     <message>
         <source>Draws the interface and reads and writes most picture formats. Linked dynamically, so that it can be replaced: Qt Core, Gui, OpenGL, Svg, Concurrent, D-Bus, Network, Qml, Quick, Quick Controls, Quick Layouts, Quick Dialogs, and the plug-ins for picture formats.</source>
-        <translation>Dessine l’interface et lit et écrit la plupart des formats d’image. Lié dynamiquement, afin de pouvoir être remplacé : Qt Core, Gui, OpenGL, Svg, Concurrent, D-Bus, Network, Qml, Quick, Quick Controls, Quick Layouts, Quick Dialogs et les modules pour les formats d’image.</translation>
+        <translation>Dessine l’interface et lit et écrit la plupart des formats d’image. Lié dynamiquement, afin de pouvoir être remplacé&#xa0;: Qt Core, Gui, OpenGL, Svg, Concurrent, D-Bus, Network, Qml, Quick, Quick Controls, Quick Layouts, Quick Dialogs et les modules pour les formats d’image.</translation>
     </message>
     <message>
         <source>Qt brings or uses works of others, among them FreeType, HarfBuzz, libpng, libjpeg-turbo, PCRE2 and zlib. Their notices stand with Qt&apos;s own.</source>
