@@ -118,7 +118,7 @@ QByteArray svgBytes(const ShapeGenerator &generator, const ParameterValues &valu
     xml.writeTextElement(u"title"_s, generator.label());
     xml.writeEmptyElement(u"path"_s);
     xml.writeAttribute(u"fill"_s, generator.defaultFillColor().name());
-    if (const Stroke stroke = shapePreviewStroke(generator); stroke.width > 0.0) {
+    if (const Stroke stroke = defaultShapeStroke(generator); stroke.width > 0.0) {
         xml.writeAttribute(u"stroke"_s, stroke.color.name());
         xml.writeAttribute(u"stroke-width"_s, svgNumber(stroke.width));
         xml.writeAttribute(u"stroke-linecap"_s, u"square"_s);

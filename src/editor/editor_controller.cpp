@@ -176,7 +176,7 @@ bool EditorController::addShape(const QString &generatorId)
     if (isPlacementTarget(target) && !size.isEmpty())
         size.scale(target.size() * kShapeShareOfView, Qt::KeepAspectRatio);
     const GeneratorGeometry geometry{generator->id(), completeParameters(generator->parameters(), {})};
-    return addShapeLayer(std::make_unique<ShapeLayer>(geometry, size, shapePreviewStroke(*generator),
+    return addShapeLayer(std::make_unique<ShapeLayer>(geometry, size, defaultShapeStroke(*generator),
                                                       generator->defaultFillColor(), generator->label()));
 }
 

@@ -204,6 +204,8 @@ void ExportController::takeSettings(bool clipToDocument)
         m_settings.formatKey = m_prefersTransparentExport ? u"webpTransparent"_s : u"jpeg"_s;
         m_settings.quality = kDefaultExportQuality;
         m_settings.size = defaultExportSize(m_rectangle, m_maximumDimension);
+        m_keepAspectRatio = true;
+        m_losslessDocumentFile = false;
     }
     m_settings.clipToDocument = clipToDocument;
 }

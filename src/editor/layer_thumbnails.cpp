@@ -50,6 +50,8 @@ LayerThumbnails::LayerThumbnails(Document *document, const ScenePresentationMode
     m_delay.setInterval(kDelayMs);
     connect(&m_delay, &QTimer::timeout, this, &LayerThumbnails::refresh);
     connect(&m_job, &QFutureWatcherBase::finished, this, &LayerThumbnails::publish);
+    // At once: another object may come with the same id, as it does when a file is opened again.
+    connect(document, &Document::objectRemoved, this, [this](qsizetype, const QUuid &id) { forget(id); });
     connect(scene, &ScenePresentationModel::sceneImageChanged, this, &LayerThumbnails::requestRefresh);
     requestRefresh();
 }
@@ -67,23 +69,21 @@ void LayerThumbnails::requestRefresh()
 
 void LayerThumbnails::refresh()
 {
-    if (m_job.isRunning())
+    if (m_jobRunning)
         return; // its end asks again
-    forgetRemovedLayers();
     const QList<LayerPicture> pictures = takeChangedPictures();
-    if (!pictures.isEmpty())
-        m_job.setFuture(QtConcurrent::run(&LayerThumbnails::reduced, pictures));
+    if (pictures.isEmpty())
+        return;
+    m_jobRunning = true;
+    m_job.setFuture(QtConcurrent::run(&LayerThumbnails::reduced, pictures));
 }
 
-void LayerThumbnails::forgetRemovedLayers()
+void LayerThumbnails::forget(const QUuid &layerId)
 {
-    for (const QUuid &layerId : m_looks.keys()) {
-        if (m_document->object(layerId))
-            continue;
-        m_looks.remove(layerId);
-        m_store->remove(layerId);
-        emit thumbnailChanged(layerId, {});
-    }
+    if (!m_looks.remove(layerId))
+        return;
+    m_store->remove(layerId);
+    emit thumbnailChanged(layerId, {});
 }
 
 QList<LayerThumbnails::LayerPicture> LayerThumbnails::takeChangedPictures()
@@ -123,6 +123,7 @@ QList<LayerThumbnails::LayerPicture> LayerThumbnails::reduced(QList<LayerPicture
 
 void LayerThumbnails::publish()
 {
+    m_jobRunning = false;
     for (const LayerPicture &picture : m_job.result()) {
         if (!m_looks.contains(picture.layerId))
             continue;

@@ -57,7 +57,7 @@ private:
 
     void requestRefresh();
     void refresh();
-    void forgetRemovedLayers();
+    void forget(const QUuid &layerId);
     QList<LayerPicture> takeChangedPictures();
     void publish();
 
@@ -71,6 +71,7 @@ private:
     quint64 m_revision = 0; // makes every address a new one
     QTimer m_delay;
     QFutureWatcher<QList<LayerPicture>> m_job;
+    bool m_jobRunning = false; // until its results are published, which is later than its end
 };
 
 /// The largest size with the picture's proportions that fits the box, at least 1 by 1; never an enlargement.

@@ -8,16 +8,16 @@
 
 namespace zm {
 
-Stroke shapePreviewStroke(const ShapeGenerator &generator)
+Stroke defaultShapeStroke(const ShapeGenerator &generator)
 {
     const QColor color = generator.defaultStrokeColor();
-    return color.isValid() ? Stroke{color, kPreviewStrokeWidth} : Stroke();
+    return color.isValid() ? Stroke{color, kDefaultShapeStrokeWidth} : Stroke();
 }
 
 QPainterPath shapePreviewOutline(const ShapeGenerator &generator, const ParameterValues &values,
                                  const QSizeF &logicalSize)
 {
-    return painterPath(outlineInBox(generator, values, sizeOfAtLeastOne(logicalSize), shapePreviewStroke(generator)));
+    return painterPath(outlineInBox(generator, values, sizeOfAtLeastOne(logicalSize), defaultShapeStroke(generator)));
 }
 
 QImage shapePreview(const ShapeGenerator &generator, const ParameterValues &values, const QSizeF &logicalSize,
@@ -32,7 +32,7 @@ QImage shapePreview(const ShapeGenerator &generator, const ParameterValues &valu
     painter.setRenderHint(QPainter::Antialiasing);
     painter.scale(image.width() / size.width(), image.height() / size.height());
     painter.setBrush(generator.defaultFillColor());
-    painter.setPen(outlinePen(shapePreviewStroke(generator)));
+    painter.setPen(outlinePen(defaultShapeStroke(generator)));
     painter.drawPath(shapePreviewOutline(generator, values, size));
     return image;
 }

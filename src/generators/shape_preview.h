@@ -15,10 +15,10 @@ class ShapeGenerator;
 // How a generator looks as a shape layer with its own colours, for pickers and sheets.
 
 /// The width of the line around a shape that has a stroke colour, in layer units.
-inline constexpr double kPreviewStrokeWidth = 2.0;
+inline constexpr double kDefaultShapeStrokeWidth = 2.0;
 
 /// Width 0 for a generator without a stroke colour.
-Stroke shapePreviewStroke(const ShapeGenerator &generator);
+Stroke defaultShapeStroke(const ShapeGenerator &generator);
 
 /// The outline in a layer's box of this size, in layer units: inset so that the line stays in the box.
 QPainterPath shapePreviewOutline(const ShapeGenerator &generator, const ParameterValues &values,

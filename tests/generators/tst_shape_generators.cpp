@@ -337,7 +337,7 @@ private slots:
     {
         for (const auto &shape : m_registry.generators()) {
             const QSizeF size = shape->defaultSize();
-            const ShapeLayer layer(GeneratorGeometry{shape->id(), {}}, size, shapePreviewStroke(*shape),
+            const ShapeLayer layer(GeneratorGeometry{shape->id(), {}}, size, defaultShapeStroke(*shape),
                                    Fill(shape->defaultFillColor()), {});
             const QImage preview = shapePreview(*shape, {}, size, size.toSize());
             QVERIFY2(preview == layer.renderContent(nullptr).image, qPrintable(shape->id()));

@@ -139,6 +139,24 @@ private slots:
         QCOMPARE(m_driver->window()->property("pendingUnsavedAction").toInt(), 0);
     }
 
+    void failedExportEndsItsSession()
+    {
+        makeDirty();
+        saveAs(file(u"good.jpg"_s));
+        m_driver->key(Qt::Key_S, Qt::ControlModifier | Qt::ShiftModifier);
+        QTRY_VERIFY(m_driver->shows("exportDialog"));
+        QTRY_VERIFY(exporter().previewReady());
+        m_driver->key(Qt::Key_Return);
+        QVERIFY(m_driver->chooseFile("exportFileDialog", file(u"no/such/folder/x.jpg"_s)));
+        QTRY_VERIFY(m_driver->shows("exportErrorDialog"));
+        m_driver->key(Qt::Key_Return);
+        QTRY_VERIFY(!m_driver->shows("exportErrorDialog"));
+        makeDirty();
+        m_driver->key(Qt::Key_S, Qt::ControlModifier); // where the good one went
+        QTRY_VERIFY(m_driver->context().commandHistory.isClean());
+        QTRY_VERIFY(!exporter().sessionSaveBusy());
+    }
+
     void givingUpTheExportGivesUpWhatWaitedForIt()
     {
         makeDirty();

@@ -167,9 +167,11 @@ private slots:
             m_driver->key(Qt::Key_Up);
         QCOMPARE(document().objectAt(0)->transform().position().x(), before + 3);
         QCOMPARE(history.count(), 2);
-        m_driver->key(Qt::Key_Return); // gives the keys back to the canvas
-        m_driver->key(Qt::Key_Z, Qt::ControlModifier);
+        m_driver->key(Qt::Key_Z, Qt::ControlModifier); // nothing is typed: the document's step
         QCOMPARE(document().objectAt(0)->transform().position().x(), before);
+        m_driver->key(Qt::Key_Return); // gives the keys back to the canvas
+        m_driver->key(Qt::Key_T);
+        QCOMPARE(document().objectCount(), 2);
     }
 
     void tabsFollowTheSelection()

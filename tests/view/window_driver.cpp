@@ -7,6 +7,7 @@
 #include <QMimeData>
 #include <QQmlContext>
 #include <QQuickItem>
+#include <QSignalBlocker>
 #include <QTest>
 #include <QtQml/qqmlextensionplugin.h>
 
@@ -177,8 +178,13 @@ bool WindowDriver::chooseFile(const char *dialogName, const QUrl &file) const
     if (!QTest::qWaitFor([&] { return shows(dialogName); }))
         return false;
     QObject *fileDialog = dialog(dialogName);
-    return fileDialog->setProperty("selectedFile", file) && QMetaObject::invokeMethod(fileDialog, "accepted")
-        && QMetaObject::invokeMethod(fileDialog, "close");
+    const bool accepted =
+        fileDialog->setProperty("selectedFile", file) && QMetaObject::invokeMethod(fileDialog, "accepted");
+    {
+        const QSignalBlocker silent(fileDialog); // closed like this it would also tell of a rejection
+        QMetaObject::invokeMethod(fileDialog, "close");
+    }
+    return accepted && QMetaObject::invokeMethod(fileDialog, "visibleChanged");
 }
 
 int runWindowTest(QObject &test, int argc, char **argv)

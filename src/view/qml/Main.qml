@@ -33,6 +33,7 @@ ApplicationWindow {
     property bool viewFitted: false
     property bool fitting: false
 
+    readonly property UnsavedChangesDialog unsavedQuestion: windowDialogs.unsavedChangesDialog
     readonly property bool fullScreen: visibility === Window.FullScreen
     property int visibilityBeforeFullScreen: Window.Maximized
 
@@ -54,7 +55,7 @@ ApplicationWindow {
         pendingUnsavedAction = action
         pendingRecentFilePath = recentFilePath
         pendingOpenFileUrl = openFileUrl
-        windowDialogs.unsavedChangesDialog.showForAction(dialogAction)
+        unsavedQuestion.showForAction(dialogAction)
     }
 
     function executeUnsavedAction(action, recentFilePath, openFileUrl) {
@@ -110,24 +111,24 @@ ApplicationWindow {
     // --- New and open ---
 
     function requestNewDocument() {
-        requestUnsavedAction(newDocumentPendingUnsavedAction, windowDialogs.unsavedChangesDialog.createDocumentAction, "", "")
+        requestUnsavedAction(newDocumentPendingUnsavedAction, unsavedQuestion.createDocumentAction, "", "")
     }
 
     function requestOpenDocument() {
-        requestUnsavedAction(openDocumentPendingUnsavedAction, windowDialogs.unsavedChangesDialog.openDocumentAction, "", "")
+        requestUnsavedAction(openDocumentPendingUnsavedAction, unsavedQuestion.openDocumentAction, "", "")
     }
 
     function requestOpenRecent(path) {
         canvas.commitTextEditing()
-        requestUnsavedAction(openRecentPendingUnsavedAction, windowDialogs.unsavedChangesDialog.openDocumentAction, path, "")
+        requestUnsavedAction(openRecentPendingUnsavedAction, unsavedQuestion.openDocumentAction, path, "")
     }
 
     function requestOpenFile(url, applicationRequest) {
         if ((applicationFileOpenActive && !applicationRequest) || windowActions.file.saveInProgress)
             return
         canvas.commitTextEditing()
-        requestUnsavedAction(applicationRequest ? applicationFileOpenPendingUnsavedAction : openFilePendingUnsavedAction,
-                             windowDialogs.unsavedChangesDialog.openDocumentAction, "", url)
+        const action = applicationRequest ? applicationFileOpenPendingUnsavedAction : openFilePendingUnsavedAction
+        requestUnsavedAction(action, unsavedQuestion.openDocumentAction, "", url)
     }
 
     function loadDocumentFile(url) {
@@ -144,12 +145,13 @@ ApplicationWindow {
         })
     }
 
-    // For the next file dialog, which begins where the last picture was found.
     function loadChosenFile(url) {
         busyCover.during(() => {
-            if (!documentFileController.load(url))
+            if (!documentFileController.load(url)) {
                 windowDialogs.documentFileErrorDialog.open()
-            else if (!documentFileController.hasDocumentUrl)
+                return
+            }
+            if (!documentFileController.hasDocumentUrl)
                 applicationSettings.rememberImageImportFolder(url)
             fitLoadedDocumentToView()
         })
@@ -167,6 +169,11 @@ ApplicationWindow {
     }
 
     // --- Files that the system asks to open ---
+
+    // Carries out work that holds the thread, once a frame has told of it.
+    function carryOut(work) {
+        busyCover.during(work)
+    }
 
     // Takes the oldest request, if nothing stands in the way. Whatever ends a request calls this again.
     function processPendingApplicationFileOpenRequest() {
@@ -210,12 +217,15 @@ ApplicationWindow {
     }
 
     function exportTo(url) {
-        if (exportController.exportTo(url)) {
-            applicationSettings.rememberExportFolder(url)
-        } else {
-            windowDialogs.exportErrorDialog.open()
-            abandonPendingUnsavedAction()
-        }
+        busyCover.during(() => {
+            if (exportController.exportTo(url)) {
+                applicationSettings.rememberExportFolder(url)
+            } else {
+                exportController.end()
+                windowDialogs.exportErrorDialog.open()
+                abandonPendingUnsavedAction()
+            }
+        })
     }
 
     function showSaveSucceeded(imageUrl) {
@@ -228,7 +238,7 @@ ApplicationWindow {
 
     function revealImage(imageUrl) {
         if (!fileManager.reveal(imageUrl))
-            Toast.show(qsTr("Could not open the folder containing the image."), { durationMs: 2500 })
+            Toast.show(qsTr("Could not open the folder containing the image."), Toast.failure)
     }
 
     // --- Layers from files ---
@@ -244,7 +254,7 @@ ApplicationWindow {
     }
 
     function handleDroppedFiles(urls) {
-        if (applicationFileOpenActive)
+        if (applicationFileOpenActive || applicationFileOpenUiBlocked)
             return
         const document = urls.find(url => url.toString().toLowerCase().endsWith(".zelmora"))
         if (document !== undefined) {
@@ -286,6 +296,12 @@ ApplicationWindow {
     function fitAgain() {
         if (viewFitted)
             Qt.callLater(fitDocument)
+    }
+
+    // For fields, which take the keys of undo and redo.
+    function stepHistory(redo) {
+        if (!applicationFileOpenUiBlocked)
+            (redo ? windowActions.edit.redo : windowActions.edit.undo).trigger()
     }
 
     function toggleFullScreen() {
@@ -348,7 +364,7 @@ ApplicationWindow {
     onClosing: close => {
         if (windowActions.file.saveInProgress) {
             close.accepted = false
-            Toast.show(qsTr("Please wait for the current save to finish."), { durationMs: 2500 })
+            Toast.show(qsTr("Please wait for the current save to finish."), Toast.failure)
             return
         }
         if (!unsavedChangesWarningEnabled)
@@ -357,7 +373,7 @@ ApplicationWindow {
         if (closeConfirmed || commandHistory.clean)
             return
         close.accepted = false
-        requestUnsavedAction(closePendingUnsavedAction, windowDialogs.unsavedChangesDialog.exitApplicationAction, "", "")
+        requestUnsavedAction(closePendingUnsavedAction, unsavedQuestion.exitApplicationAction, "", "")
     }
 
     Connections {
@@ -510,6 +526,7 @@ ApplicationWindow {
             StatusBar {
                 Layout.fillWidth: true
                 canvas: canvas
+                actions: windowActions
                 layerPixelSize: scenePresentationModel.selectedLayerPixelSize
             }
         }

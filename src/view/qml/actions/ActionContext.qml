@@ -38,7 +38,7 @@ QtObject {
     // Toasts why `controller` could not do what it was asked for.
     function report(done, controller) {
         if (!done)
-            Toast.show(controller.lastError, { durationMs: 2500 })
+            Toast.show(controller.lastError, Toast.failure)
         return done
     }
 }

@@ -30,6 +30,7 @@ QtObject {
     readonly property ZmAction cut: ZmAction {
         text: qsTr("Cu&t")
         shortcut: StandardKey.Cut
+        alsoKeys: "Delete"
         icon.name: "cut"
         enabled: (root.clipboard?.canCut ?? false) && !root.context.textEditing
         onTriggered: {

@@ -22,7 +22,7 @@ QtObject {
     // The progress shows before the document is written, which takes the thread.
     function saveSessionExport() {
         context.dialogs.saveProgressDialog.open()
-        Qt.callLater(root.startSessionSave)
+        context.window.carryOut(startSessionSave)
     }
 
     function startSessionSave() {

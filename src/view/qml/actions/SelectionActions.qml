@@ -59,7 +59,7 @@ QtObject {
     }
 
     readonly property ZmAction clearRaster: ZmAction {
-        text: qsTr("&Clear Raster Selection")
+        text: qsTr("C&lear Raster Selection")
         toolTip: qsTr("Clear the raster selection")
         shortcut: "Ctrl+D"
         icon.name: "raster_selection_clear"
@@ -70,6 +70,7 @@ QtObject {
     readonly property ZmAction invertRaster: ZmAction {
         text: qsTr("&Invert Raster Selection")
         shortcut: "Ctrl+I"
+        alsoKeys: "Ctrl+Shift+I"
         icon.name: "raster_selection_invert"
         enabled: root.editable && (root.model?.hasRasterSelection ?? false)
         onTriggered: root.model.invertRasterSelection()
@@ -78,7 +79,7 @@ QtObject {
     readonly property Shortcut invertRasterToo: Shortcut {
         sequence: "Ctrl+Shift+I"
         context: Qt.ApplicationShortcut
-        enabled: root.invertRaster.enabled
+        enabled: root.invertRaster.enabled && !root.context.dialogs.anyVisible
         onActivated: root.invertRaster.trigger()
     }
 

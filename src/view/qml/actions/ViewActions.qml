@@ -9,6 +9,7 @@ QtObject {
 
     readonly property ZmAction zoomIn: ZmAction {
         text: qsTr("Zoom &In")
+        toolTip: qsTr("Zoom in")
         shortcut: StandardKey.ZoomIn
         enabled: root.context.canvas.canZoomIn
         onTriggered: root.context.canvas.zoomIn()
@@ -23,6 +24,7 @@ QtObject {
 
     readonly property ZmAction zoomOut: ZmAction {
         text: qsTr("Zoom &Out")
+        toolTip: qsTr("Zoom out")
         shortcut: StandardKey.ZoomOut
         enabled: root.context.canvas.canZoomOut
         onTriggered: root.context.canvas.zoomOut()
@@ -36,6 +38,7 @@ QtObject {
 
     readonly property ZmAction zoomToActualSize: ZmAction {
         text: qsTr("&Actual Size")
+        toolTip: qsTr("Reset zoom to 100%")
         shortcut: "Ctrl+1"
         onTriggered: root.context.canvas.setZoom(1.0)
     }

@@ -18,6 +18,7 @@ Item {
     Shortcut {
         sequence: "Delete"
         enabled: root.edit.cut.enabled && root.context.canvas.activeFocus && !root.tools.pathEdit.active
+                 && !root.context.editorState.relightActive
         onActivated: root.edit.cut.trigger()
     }
 

@@ -16,11 +16,13 @@ Item {
     }
 
     function carryOutNext() {
-        const work = works[0]
-        work()
-        works = works.slice(1)
-        if (!running)
-            finished()
+        try {
+            works[0]()
+        } finally {
+            works = works.slice(1)
+            if (!running)
+                finished()
+        }
     }
 
     visible: running

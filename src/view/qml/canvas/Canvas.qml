@@ -240,7 +240,7 @@ Pane {
             }
         }
 
-        Item {
+        Control {
             id: viewport
 
             property bool spaceHeld: false
@@ -277,6 +277,8 @@ Pane {
             width: parent.width - (root.rulersVisible ? root.rulerThickness : 0)
             height: parent.height - (root.rulersVisible ? root.rulerThickness : 0)
             focus: true
+            focusPolicy: Qt.TabFocus
+            hoverEnabled: false
             clip: true
             Accessible.role: Accessible.Graphic
             Accessible.name: qsTr("Canvas")
@@ -344,6 +346,12 @@ Pane {
                 visible: viewport.spaceHeld || dragging
                 acceptedButtons: Qt.LeftButton
                 cursorShape: dragging ? Qt.ClosedHandCursor : Qt.OpenHandCursor
+            }
+
+            FocusFrame {
+                control: viewport
+                z: 195
+                radius: 0
             }
 
             ToastOverlay {

@@ -7,6 +7,8 @@ QtObject {
     id: root
 
     readonly property int defaultDurationMs: 750
+    // Options for what went wrong, which takes longer to read.
+    readonly property var failure: ({ durationMs: 2500 })
 
     readonly property Connections notificationConnections: Connections {
         target: typeof userNotifications === "undefined" ? null : userNotifications

@@ -11,14 +11,38 @@ Item {
     readonly property alias message: messageLabel.text
     readonly property alias hint: hintLabel.text
     readonly property bool shown: current.shown
-    readonly property real spacing: 12
+    readonly property bool answersClicks: shown && (current.clickHandler !== null || current.persistent)
+    readonly property real spacing: Theme.spaceL
+
+    function answer() {
+        const handler = current.clickHandler
+        Toast.hide()
+        if (handler)
+            handler()
+    }
 
     implicitWidth: Math.min(maximumWidth, row.implicitWidth + 2 * spacing)
     implicitHeight: row.implicitHeight + spacing
     opacity: shown ? 1 : 0
     visible: opacity > 0
-    Accessible.role: Accessible.AlertMessage
+    activeFocusOnTab: answersClicks
+    Accessible.role: current.clickHandler ? Accessible.Button : Accessible.AlertMessage
     Accessible.name: hint ? message + " " + hint : message
+    Accessible.onPressAction: answer()
+    Keys.onReturnPressed: answer()
+    Keys.onEnterPressed: answer()
+    Keys.onSpacePressed: answer()
+    onShownChanged: {
+        if (!shown && activeFocus)
+            parent.forceActiveFocus()
+    }
+    // Who has come here by keys has the time to answer.
+    onActiveFocusChanged: {
+        if (activeFocus)
+            hideTimer.stop()
+        else if (shown && !current.persistent)
+            hideTimer.restart()
+    }
 
     Behavior on opacity {
         NumberAnimation { duration: 120 }
@@ -34,7 +58,7 @@ Item {
 
         function show() {
             shown = true
-            if (!persistent)
+            if (!persistent && !root.activeFocus)
                 hideTimer.restart()
         }
     }
@@ -77,12 +101,12 @@ Item {
         onTriggered: current.shown = false
     }
 
-    Rectangle {
+    PopupSurface {
         anchors.fill: parent
-        radius: 6
-        color: root.palette.toolTipBase
-        border.color: root.palette.mid
-        border.width: 1
+    }
+
+    FocusFrame {
+        control: root
     }
 
     RowLayout {
@@ -97,7 +121,7 @@ Item {
             id: messageLabel
 
             Layout.fillWidth: true
-            color: palette.toolTipText
+            color: Theme.text
             wrapMode: Text.Wrap
             textFormat: Text.PlainText
         }
@@ -106,20 +130,15 @@ Item {
             id: hintLabel
 
             visible: text.length > 0
-            color: current.clickHandler ? palette.link : palette.placeholderText
+            color: current.clickHandler ? Theme.link : Theme.mutedText
             textFormat: Text.PlainText
         }
     }
 
     MouseArea {
         anchors.fill: parent
-        enabled: root.shown && (current.clickHandler !== null || current.persistent)
+        enabled: root.answersClicks
         cursorShape: current.clickHandler ? Qt.PointingHandCursor : Qt.ArrowCursor
-        onClicked: {
-            const handler = current.clickHandler
-            Toast.hide()
-            if (handler)
-                handler()
-        }
+        onClicked: root.answer()
     }
 }

@@ -1,18 +1,13 @@
 import QtQuick
 import QtQuick.Controls
 import QtQuick.Dialogs
+import ZelmoraAtelier
 
 // A swatch that opens a dialog to choose another colour. Shows `currentColor` and asks for others by `colorChanged`: in
 // a stream while the dialog is open, once with DialogAccepted at its end, or once with DialogRejected and the colour
 // that it began with.
 AbstractButton {
     id: root
-
-    enum ChangeReason {
-        DialogSelection,
-        DialogAccepted,
-        DialogRejected
-    }
 
     property color currentColor: "white"
     property string dialogTitle: qsTr("Choose Color")
@@ -53,7 +48,7 @@ AbstractButton {
         if (sameColor(pendingColor, lastReportedColor))
             return
         lastReportedColor = pendingColor
-        colorChanged(pendingColor, ColorPickerButton.DialogSelection)
+        colorChanged(pendingColor, ColorChange.DialogSelection)
     }
 
     function finish(color, reason) {
@@ -117,8 +112,8 @@ AbstractButton {
             title: root.dialogTitle
             options: root.showAlphaChannel ? ColorDialog.ShowAlphaChannel : 0
             onSelectedColorChanged: root.previewColor(selectedColor)
-            onAccepted: root.finish(selectedColor, ColorPickerButton.DialogAccepted)
-            onRejected: root.finish(root.dialogInitialColor, ColorPickerButton.DialogRejected)
+            onAccepted: root.finish(selectedColor, ColorChange.DialogAccepted)
+            onRejected: root.finish(root.dialogInitialColor, ColorChange.DialogRejected)
         }
     }
 }

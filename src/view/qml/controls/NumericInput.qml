@@ -32,7 +32,8 @@ ZmTextField {
 
     // Undefined for a text that is no number. Takes the locale's decimal point and the plain one.
     function parsed(text) {
-        const cleaned = text.trim().replace(Qt.locale().decimalPoint, ".")
+        // Some languages write a minus of their own.
+        const cleaned = text.trim().replace(Qt.locale().negativeSign, "-").replace(Qt.locale().decimalPoint, ".")
         const number = Number(cleaned)
         return cleaned && isFinite(number) ? Math.min(Math.max(number, from), to) : undefined
     }

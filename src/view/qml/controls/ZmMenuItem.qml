@@ -1,6 +1,5 @@
 import QtQuick
 import QtQuick.Controls
-import ZelmoraAtelier
 
 // An entry of a menu: check mark or icon, text, and the keys of its action on the right.
 MenuItem {
@@ -80,7 +79,7 @@ MenuItem {
         anchors.right: parent.right
         anchors.rightMargin: Theme.spaceL
         anchors.verticalCenter: parent.verticalCenter
-        text: root.action?.toolKey || KeySpelling.spelled(root.action?.shortcut)
+        text: root.action?.keys ?? ""
         color: root.textColor
         opacity: 0.65
     }

@@ -10,6 +10,10 @@ ComboBox {
 
     signal selected(var value)
 
+    function indexOfValue() {
+        return Array.from(options).findIndex(option => option.value === value)
+    }
+
     implicitHeight: Theme.controlHeight
     implicitWidth: 150
     leftPadding: Theme.spaceM
@@ -20,10 +24,12 @@ ComboBox {
     valueRole: "value"
     model: options
     opacity: enabled ? 1 : Theme.disabledOpacity
-    currentIndex: Math.max(-1, Array.from(options).findIndex(option => option.value === value))
+    currentIndex: indexOfValue()
+    // New options and a choice move the index by themselves.
+    onModelChanged: currentIndex = Qt.binding(indexOfValue)
     onActivated: index => {
         const chosen = valueAt(index)
-        currentIndex = Qt.binding(() => Array.from(options).findIndex(option => option.value === value))
+        currentIndex = Qt.binding(indexOfValue)
         selected(chosen)
     }
 

@@ -1,7 +1,7 @@
 import QtQuick
 import QtQuick.Controls
 
-// A slider. `moved` comes many times in one drag, which `editStarted` and `editFinished` bracket; keys are an edit each.
+// A slider. `moved` comes many times in one drag, which `editStarted` and `editFinished` bracket; each key is an edit.
 Slider {
     id: root
 

@@ -36,6 +36,8 @@ Row {
         ZmMenu {
             id: menu
 
+            // The arrow itself closes it, too.
+            closePolicy: Popup.CloseOnEscape | Popup.CloseOnPressOutsideParent
             y: arrow.height + Theme.spaceXS
             x: -root.width + arrow.width
         }

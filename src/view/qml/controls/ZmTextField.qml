@@ -15,6 +15,15 @@ TextField {
     color: Theme.text
     opacity: enabled ? 1 : Theme.disabledOpacity
 
+    // With nothing typed to take back, the keys of the history mean the document's, if the window has one.
+    Keys.onPressed: event => {
+        const undoes = event.matches(StandardKey.Undo) && !canUndo
+        const redoes = event.matches(StandardKey.Redo) && !canRedo
+        event.accepted = (undoes || redoes) && ApplicationWindow.window?.stepHistory !== undefined
+        if (event.accepted)
+            ApplicationWindow.window.stepHistory(redoes)
+    }
+
     background: Rectangle {
         radius: Theme.radius
         color: Theme.sunken

@@ -1,6 +1,5 @@
 import QtQuick
 import QtQuick.Controls
-import ZelmoraAtelier
 
 // A flat button for bars: shows its frame only under the pointer, when pressed, or with the keyboard's focus. Takes
 // icon, text, tool tip and keys from its action.
@@ -8,9 +7,9 @@ ToolButton {
     id: root
 
     property string toolTip: (action?.toolTip || action?.plainText) ?? ""
-    readonly property string keys: action?.toolKey || KeySpelling.spelled(action?.shortcut)
-    readonly property color inkColor: checked ? (Theme.dark ? Qt.lighter(Theme.accent, 1.35) : Qt.darker(Theme.accent, 1.25))
-                                              : Theme.text
+    // Where the pointer is, for who has to tell of a button that is disabled and feels none.
+    property bool pointedAt: hovered
+    readonly property color inkColor: checked ? Theme.link : Theme.text
 
     // Without the mnemonic, which would be a shortcut of the button too.
     text: action?.plainText ?? ""
@@ -30,8 +29,8 @@ ToolButton {
     Accessible.description: toolTip
 
     ZmToolTip {
-        visible: root.hovered && !root.down && text
-        text: root.toolTip ? Theme.withKeys(root.toolTip, root.keys) : ""
+        visible: (root.pointedAt || root.visualFocus) && !root.down && text
+        text: root.toolTip ? Theme.withKeys(root.toolTip, root.action?.keys ?? "") : ""
     }
 
     background: Rectangle {

@@ -103,7 +103,7 @@ ZmDialog {
                 Label {
                     Layout.columnSpan: 3
                     Layout.fillWidth: true
-                    visible: root.controller.prefersTransparentExport && !root.controller.transparentBackground
+                    visible: root.controller.prefersTransparentExport
                     text: qsTr("This image contains transparency. Choose a transparent-background format to preserve it.")
                     font.pixelSize: Theme.fontSmall
                     color: Theme.danger
@@ -127,7 +127,7 @@ ZmDialog {
                     value: root.controller.outputWidth
                     from: 16
                     to: root.controller.maximumDimension
-                    unit: "px"
+                    unit: qsTr("px")
                     Accessible.name: qsTr("Width")
                     onEdited: value => root.controller.outputWidth = value
                 }
@@ -191,7 +191,7 @@ ZmDialog {
                     value: root.controller.outputHeight
                     from: 16
                     to: root.controller.maximumDimension
-                    unit: "px"
+                    unit: qsTr("px")
                     Accessible.name: qsTr("Height")
                     onEdited: value => root.controller.outputHeight = value
                 }
@@ -229,7 +229,7 @@ ZmDialog {
                         value: root.controller.quality
                         from: 0
                         to: 100
-                        unit: "%"
+                        unit: qsTr("%")
                         Accessible.name: qsTr("Quality in percent")
                         onEdited: value => root.controller.quality = value
                     }

@@ -85,8 +85,11 @@ ColumnLayout {
         if (source.toString()) {
             loadingSize = sourcePictureSize
             const shrink = Math.min(1, overviewSide / Math.max(loadingSize.width, loadingSize.height))
-            overview.sourceSize = Qt.size(Math.max(1, Math.round(loadingSize.width * shrink)),
-                                          Math.max(1, Math.round(loadingSize.height * shrink)))
+            overview.pixelWidth = Math.max(1, Math.round(loadingSize.width * shrink))
+            const ratio = Screen.devicePixelRatio       // by which the image multiplies what it asks for
+            overview.sourceSize = shrink < 1 ? Qt.size(overview.pixelWidth / ratio,
+                                                       Math.max(1, Math.round(loadingSize.height * shrink)) / ratio)
+                                             : undefined
         } else {
             shownSource = ""
             fit()
@@ -136,8 +139,8 @@ ColumnLayout {
                 id: picture
 
                 readonly property real tileZoom: root.zoom * Screen.devicePixelRatio
-                readonly property bool tiled: root.hasPicture && overview.sourceSize.width < root.pictureSize.width
-                                              && tileZoom * root.pictureSize.width > overview.sourceSize.width
+                readonly property bool tiled: root.hasPicture && overview.pixelWidth < root.pictureSize.width
+                                              && tileZoom * root.pictureSize.width > overview.pixelWidth
 
                 x: Math.round(view.width / 2 - root.center.x * width) - clipped.x
                 y: Math.round(view.height / 2 - root.center.y * height) - clipped.y
@@ -152,6 +155,8 @@ ColumnLayout {
 
                 Image {
                     id: overview
+
+                    property int pixelWidth: 0
 
                     anchors.fill: parent
                     asynchronous: true
@@ -206,7 +211,8 @@ ColumnLayout {
                 last = Qt.point(mouse.x, mouse.y)
             }
             onDoubleClicked: mouse => root.fitted ? root.zoomTo(1, mouse.x, mouse.y) : root.fit()
-            onWheel: wheel => root.zoomTo(root.zoom * Math.pow(root.zoomStep, wheel.angleDelta.y / 120), wheel.x, wheel.y)
+            onWheel: wheel => root.zoomTo(root.zoom * Math.pow(root.zoomStep, wheel.angleDelta.y / 120),
+                                          wheel.x, wheel.y)
         }
 
         Label {
@@ -270,7 +276,8 @@ ColumnLayout {
         Label {
             Layout.preferredWidth: 46
             horizontalAlignment: Text.AlignHCenter
-            text: !root.hasPicture ? "" : qsTr("%1 %").arg(root.zoom < 0.1 ? Math.round(root.zoom * 1000) / 10 : Math.round(root.zoom * 100))
+            text: !root.hasPicture ? "" : qsTr("%1 %").arg(root.zoom < 0.1 ? Math.round(root.zoom * 1000) / 10
+                                                                           : Math.round(root.zoom * 100))
             color: Theme.mutedText
         }
 

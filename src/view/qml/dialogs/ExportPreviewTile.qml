@@ -40,7 +40,10 @@ Item {
         retainWhileLoading: true
         cache: false
         smooth: root.zoom < 2
-        sourceSize: Qt.size(Math.ceil(root.part.width * root.detail), Math.ceil(root.part.height * root.detail))
+        // Of a reduced tile; the image multiplies it by the ratio of the screen.
+        sourceSize: root.detail < 1 ? Qt.size(Math.ceil(root.part.width * root.detail) / Screen.devicePixelRatio,
+                                              Math.ceil(root.part.height * root.detail) / Screen.devicePixelRatio)
+                                    : undefined
         source: root.inView && root.source.toString()
                 ? "%1/%2,%3,%4,%5".arg(root.source.toString()).arg(root.part.x).arg(root.part.y).arg(root.part.width)
                                   .arg(root.part.height) : ""

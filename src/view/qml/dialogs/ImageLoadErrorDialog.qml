@@ -6,7 +6,7 @@ ZmMessageDialog {
     id: root
 
     property bool showHeifInstallHelp: false
-    property string platform: Qt.platform.os
+    readonly property string platform: Qt.platform.os
     readonly property string heifImageExtensionsId: "9PMMSR1CGPWG"
     readonly property string hevcVideoExtensionsId: "9NMZLZ57R3T7"
 

@@ -197,7 +197,7 @@ ZmDialog {
                     value: root.documentWidth
                     from: root.minimumSide
                     to: root.maximumSide
-                    unit: "px"
+                    unit: qsTr("px")
                     Accessible.name: qsTr("Width")
                     onEdited: value => root.setSize(Math.round(value), root.documentHeight)
                 }
@@ -218,7 +218,7 @@ ZmDialog {
                     value: root.documentHeight
                     from: root.minimumSide
                     to: root.maximumSide
-                    unit: "px"
+                    unit: qsTr("px")
                     Accessible.name: qsTr("Height")
                     onEdited: value => root.setSize(root.documentWidth, Math.round(value))
                 }

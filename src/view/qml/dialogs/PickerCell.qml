@@ -49,7 +49,7 @@ Item {
         width: root.previewWidth
         height: root.previewHeight
         source: root.previewSource
-        sourceSize: Qt.size(width * Screen.devicePixelRatio, height * Screen.devicePixelRatio)
+        sourceSize: Qt.size(width, height)
         fillMode: Image.PreserveAspectFit
         asynchronous: true
         opacity: status === Image.Ready ? 1 : 0
@@ -97,7 +97,7 @@ Item {
                     width: root.tooltipSize.width
                     height: root.tooltipSize.height
                     source: root.tooltipSource
-                    sourceSize: Qt.size(width * Screen.devicePixelRatio, height * Screen.devicePixelRatio)
+                    sourceSize: Qt.size(width, height)
                     fillMode: Image.PreserveAspectFit
                     asynchronous: true
                 }

@@ -113,10 +113,13 @@ ZmDialog {
         if (!searchEnabled || !(erases || prints)
                 || event.modifiers & (Qt.ControlModifier | Qt.AltModifier | Qt.MetaModifier))
             return false
-        if (searchField.selectedText)
+        if (searchField.selectedText) {
             searchField.remove(searchField.selectionStart, searchField.selectionEnd)
-        else if (erases)
-            searchField.remove(searchField.length - 1, searchField.length)
+        } else {
+            searchField.cursorPosition = searchField.length
+            if (event.key === Qt.Key_Backspace)
+                searchField.remove(searchField.length - 1, searchField.length)
+        }
         if (prints)
             searchField.insert(searchField.cursorPosition, event.text)
         searchField.forceActiveFocus()
@@ -145,6 +148,7 @@ ZmDialog {
 
     contentItem: ColumnLayout {
         spacing: Theme.spaceL
+        Keys.onPressed: event => event.accepted = root.routeToSearch(event)
 
         ZmSearchField {
             id: searchField
@@ -228,7 +232,7 @@ ZmDialog {
                             root.moveCategoryLine(event.key === Qt.Key_PageDown ? 1 : -1)
                         return
                     }
-                    event.accepted = root.routeToSearch(event)
+                    event.accepted = false
                 }
 
                 delegate: Item {

@@ -9,7 +9,7 @@ ZmMenu {
 
     signal languageChosen(string language)
 
-    title: qsTr("&Language")
+    title: qsTr("Lan&guage")
 
     Instantiator {
         model: root.settings.availableLanguages

@@ -8,6 +8,13 @@ Pane {
 
     required property WindowActions actions
 
+    // In a narrow window the clipboard's buttons do without their words.
+    readonly property bool roomy: width >= 1100
+
+    component ClipboardButton: ZmToolButton {
+        display: root.roomy ? AbstractButton.TextBesideIcon : AbstractButton.IconOnly
+    }
+
     implicitHeight: 42
     padding: 0
     leftPadding: Theme.spaceS + Theme.spaceXS
@@ -47,9 +54,9 @@ Pane {
             ZmMenuItem { action: root.actions.edit.redo }
         }
         ZmToolSeparator {}
-        ZmIconButton { action: root.actions.edit.cut }
-        ZmIconButton { action: root.actions.edit.copy }
-        ZmIconButton { action: root.actions.edit.paste }
+        ClipboardButton { action: root.actions.edit.cut }
+        ClipboardButton { action: root.actions.edit.copy }
+        ClipboardButton { action: root.actions.edit.paste }
         ZmToolSeparator {}
         Label {
             Layout.rightMargin: Theme.spaceS

@@ -8,6 +8,7 @@ Pane {
     id: root
 
     required property Canvas canvas
+    required property WindowActions actions
     required property size layerPixelSize
 
     implicitHeight: 34
@@ -41,24 +42,22 @@ Pane {
         }
 
         ZmToolButton {
-            text: "-"
-            toolTip: qsTr("Zoom out")
-            enabled: root.canvas.canZoomOut
-            onClicked: root.canvas.zoomOut()
+            action: root.actions.view.zoomOut
+            text: qsTr("-")
+            Accessible.name: toolTip
         }
 
         ZmToolButton {
             Layout.preferredWidth: Math.max(58, implicitWidth)
+            action: root.actions.view.zoomToActualSize
             text: qsTr("%1%").arg(Math.round(root.canvas.zoom * 100))
-            toolTip: qsTr("Reset zoom to 100%")
-            onClicked: root.canvas.setZoom(1.0)
+            Accessible.name: toolTip
         }
 
         ZmToolButton {
-            text: "+"
-            toolTip: qsTr("Zoom in")
-            enabled: root.canvas.canZoomIn
-            onClicked: root.canvas.zoomIn()
+            action: root.actions.view.zoomIn
+            text: qsTr("+")
+            Accessible.name: toolTip
         }
     }
 }

@@ -30,9 +30,21 @@ Pane {
         }
     }
 
-    component Tool: ZmIconButton {
+    component Tool: Item {
+        property alias action: button.action
+
         Layout.alignment: Qt.AlignHCenter
-        size: root.buttonSize
+        implicitWidth: root.buttonSize
+        implicitHeight: root.buttonSize
+
+        ZmIconButton {
+            id: button
+
+            size: root.buttonSize
+            pointedAt: pointer.hovered
+        }
+
+        HoverHandler { id: pointer }
     }
 
     component Separator: ZmToolSeparator {

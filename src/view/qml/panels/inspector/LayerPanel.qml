@@ -76,7 +76,6 @@ Item {
             Layout.topMargin: -Theme.spaceS
             sceneObjectAdapter: root.sceneObjectAdapter
             actions: root.actions
-
         }
     }
 

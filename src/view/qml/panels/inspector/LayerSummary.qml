@@ -31,6 +31,7 @@ ZmInspectorPanel {
                 anchors.fill: parent
                 anchors.margins: Theme.spaceM
                 checkerSize: 8
+                keepsWhileLoading: true
                 source: selection.thumbnailSource
                 Accessible.role: Accessible.Graphic
                 Accessible.name: qsTr("Look of the layer")

@@ -49,7 +49,8 @@ MouseArea {
     function scrollStep() {
         const beyond = viewY < edge ? viewY - edge : Math.max(viewY - list.height + edge, 0)
         const lowest = list.originY + Math.max(list.contentHeight - list.height, 0)
-        list.contentY = Math.min(Math.max(list.contentY + Math.min(Math.max(beyond / 3, -14), 14), list.originY), lowest)
+        const step = Math.min(Math.max(beyond / 3, -14), 14)
+        list.contentY = Math.min(Math.max(list.contentY + step, list.originY), lowest)
         updateTarget()
     }
 

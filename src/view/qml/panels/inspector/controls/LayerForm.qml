@@ -18,9 +18,8 @@ ColumnLayout {
             id: nameField
 
             function commit() {
-                const typed = text.trim()
-                if (typed && typed !== root.sceneObjectAdapter.name)
-                    root.sceneObjectAdapter.name = typed
+                if (text.trim() && text !== root.sceneObjectAdapter.name)
+                    root.sceneObjectAdapter.name = text
                 reset()
             }
 

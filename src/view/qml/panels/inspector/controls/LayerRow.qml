@@ -154,7 +154,7 @@ Item {
             icon.height: Theme.iconSize
             toolTip: qsTr("Merge with layer below")
             enabled: root.selected && (root.mergeAction?.enabled ?? false)
-            visible: root.selected && !root.lifted
+            visible: !root.lifted && root.mergeAction
             onClicked: root.mergeAction.trigger()
         }
 

@@ -6,6 +6,8 @@ Item {
 
     property url source
     property int checkerSize: 4
+    // The look before stays until the new one is there. Not for rows, which come to show another layer.
+    property bool keepsWhileLoading: false
 
     Checkerboard {
         anchors.centerIn: parent
@@ -23,7 +25,7 @@ Item {
         sourceSize: Qt.size(root.width, root.height)
         fillMode: Image.PreserveAspectFit
         asynchronous: true
-        retainWhileLoading: true
+        retainWhileLoading: root.keepsWhileLoading
         cache: false    // every look has an address of its own
     }
 

@@ -15,9 +15,8 @@ ZmTextField {
         if (over)
             return
         over = true
-        const typed = text.trim()
-        if (accept && typed && typed !== name)
-            committed(typed)
+        if (accept && text.trim() && text !== name)
+            committed(text)
         ended()
     }
 

@@ -1,8 +1,8 @@
 import QtQuick
 import ZelmoraAtelier
 
-// Which row of the list of layers is the selected one, -1 for none, its kind and its picture. The model is searched only when it
-// says that this has changed.
+// Which row of the list of layers is the selected one, -1 for none, its kind and its picture. The model is searched only
+// when it says that this has changed.
 QtObject {
     id: root
 
