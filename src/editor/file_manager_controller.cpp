@@ -48,16 +48,15 @@ bool askFileManager(const QFileInfo &file, QObject *context)
     if (!bus.isConnected() || !(busLists(bus, u"ListNames"_s) || busLists(bus, u"ListActivatableNames"_s)))
         return false;
 
-    QDBusMessage request = QDBusMessage::createMethodCall(kFileManager, u"/org/freedesktop/FileManager1"_s,
-                                                          kFileManager, u"ShowItems"_s);
+    QDBusMessage request =
+        QDBusMessage::createMethodCall(kFileManager, u"/org/freedesktop/FileManager1"_s, kFileManager, u"ShowItems"_s);
     const QString url = QString::fromLatin1(QUrl::fromLocalFile(file.absoluteFilePath()).toEncoded());
     request << QStringList(url) << QString();
     auto *watcher = new QDBusPendingCallWatcher(bus.asyncCall(request, kStartTimeoutMs), context);
     QObject::connect(watcher, &QDBusPendingCallWatcher::finished, context, [watcher, file] {
         watcher->deleteLater();
         if (watcher->isError() && !openFolder(file)) {
-            UserNotificationCenter::post(
-                FileManagerController::tr("Could not open the folder containing the image."));
+            UserNotificationCenter::post(FileManagerController::tr("Could not open the folder containing the image."));
         }
     });
     return true;

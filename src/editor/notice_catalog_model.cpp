@@ -53,12 +53,14 @@ NoticeCatalogModel::NoticeCatalogModel(QObject *parent)
                 QString(), identifier(u"LGPL-3.0-only"_s),
                 fullText(u"/usr/share/common-licenses/LGPL-3, /usr/share/common-licenses/GPL-3"_s),
                 notices(u"/usr/share/doc/libqt6core6t64/copyright"_s)})},
-        {u"libwebp"_s, webpVersion(), tr("BSD 3-Clause License"),
-         QUrl(u"https://developers.google.com/speed/webp"_s),
+        {u"libwebp"_s, webpVersion(), tr("BSD 3-Clause License"), QUrl(u"https://developers.google.com/speed/webp"_s),
          lines({tr("Encodes the pictures in documents and exported WebP files. Linked dynamically, with its part "
                    "libsharpyuv."),
                 QString(), identifier(u"BSD-3-Clause"_s), fullText(u"/usr/share/doc/libwebp7/copyright"_s)})},
-        {u"libglvnd"_s, {}, tr("MIT License"), QUrl(u"https://gitlab.freedesktop.org/glvnd/libglvnd"_s),
+        {u"libglvnd"_s,
+         {},
+         tr("MIT License"),
+         QUrl(u"https://gitlab.freedesktop.org/glvnd/libglvnd"_s),
          lines({tr("Finds the OpenGL of the graphics driver, which is not part of this program. Linked dynamically."),
                 QString(), identifier(u"MIT"_s), fullText(u"/usr/share/doc/libglvnd0/copyright"_s)})},
 #ifdef _GLIBCXX_RELEASE
@@ -68,15 +70,13 @@ NoticeCatalogModel::NoticeCatalogModel(QObject *parent)
          lines({tr("The C++ standard library and the support routines of the compiler, linked dynamically. The "
                    "exception lets programs under any license use them."),
                 QString(), identifier(u"GPL-3.0-or-later WITH GCC-exception-3.1"_s),
-                fullText(u"/usr/share/common-licenses/GPL-3"_s),
-                notices(u"/usr/share/doc/libstdc++6/copyright"_s)})},
+                fullText(u"/usr/share/common-licenses/GPL-3"_s), notices(u"/usr/share/doc/libstdc++6/copyright"_s)})},
 #endif
 #ifdef __GLIBC__
         {u"GNU C Library"_s, QString::fromLatin1(gnu_get_libc_version()),
          tr("GNU Lesser General Public License, version 2.1 or later"), QUrl(u"https://sourceware.org/glibc/"_s),
-         lines({tr("The C library of the system, linked dynamically."), QString(),
-                identifier(u"LGPL-2.1-or-later"_s), fullText(u"/usr/share/common-licenses/LGPL-2.1"_s),
-                notices(u"/usr/share/doc/libc6/copyright"_s)})},
+         lines({tr("The C library of the system, linked dynamically."), QString(), identifier(u"LGPL-2.1-or-later"_s),
+                fullText(u"/usr/share/common-licenses/LGPL-2.1"_s), notices(u"/usr/share/doc/libc6/copyright"_s)})},
 #endif
     };
 }

@@ -17,10 +17,10 @@ public:
     /// In QML: name, version, licenseName, homePage, text.
     enum Role {
         NameRole = Qt::UserRole + 1,
-        VersionRole,     // of the library that runs where it can tell, else of the one that was built against, or empty
+        VersionRole, // of the library that runs where it can tell, else of the one that was built against, or empty
         LicenseNameRole, // for people; the text holds the SPDX identifier
-        HomePageRole,    // a URL, empty if there is none
-        TextRole,        // plain
+        HomePageRole, // a URL, empty if there is none
+        TextRole, // plain
     };
     Q_ENUM(Role)
 

@@ -1,7 +1,6 @@
+#include "application/application.h"
 #include "support/pictures.h"
 #include "view/window_driver.h"
-
-#include "application/application.h"
 
 #include <QFile>
 #include <QOpenGLContext>
@@ -64,9 +63,8 @@ private slots:
         QTest::addColumn<QByteArray>("nextDialog");
         QTest::newRow("new") << (Qt::ControlModifier | Qt::Key_N) << u"Save changes before creating a new document?"_s
                              << u"Create Anyway"_s << QByteArray("resetBoardDialog");
-        QTest::newRow("open") << (Qt::ControlModifier | Qt::Key_O)
-                              << u"Save changes before opening another document?"_s << u"Open Anyway"_s
-                              << QByteArray("documentOpenDialog");
+        QTest::newRow("open") << (Qt::ControlModifier | Qt::Key_O) << u"Save changes before opening another document?"_s
+                              << u"Open Anyway"_s << QByteArray("documentOpenDialog");
         QTest::newRow("quit") << (Qt::ControlModifier | Qt::Key_Q) << u"Save changes before exiting?"_s
                               << u"Exit Anyway"_s << QByteArray();
     }

@@ -1,8 +1,7 @@
-#include "support/pictures.h"
-#include "view/window_driver.h"
-
 #include "application/application.h"
 #include "application/user_notification_center.h"
+#include "support/pictures.h"
+#include "view/window_driver.h"
 
 #include <QOpenGLContext>
 #include <QQuickItem>
