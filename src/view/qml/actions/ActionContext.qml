@@ -26,6 +26,8 @@ QtObject {
 
     readonly property bool fixedDocumentBounds: settings.canvasClipMode
     readonly property bool textEditing: editorState.textEditActive
+    // Nothing else has the keys: the document can be changed.
+    readonly property bool editable: !textEditing && !dialogs.fileDialogOpen
 
     function commitTextEditing() {
         canvas.commitTextEditing()

@@ -14,7 +14,7 @@ QtObject {
         toolTip: root.history.undoText ? qsTr("Undo %1").arg(root.history.undoText) : qsTr("Undo")
         shortcut: StandardKey.Undo
         icon.name: "undo"
-        enabled: root.history.canUndo && !root.context.textEditing
+        enabled: root.history.canUndo && root.context.editable
         onTriggered: root.history.undo()
     }
 
@@ -23,7 +23,7 @@ QtObject {
         toolTip: root.history.redoText ? qsTr("Redo %1").arg(root.history.redoText) : qsTr("Redo")
         shortcut: StandardKey.Redo
         icon.name: "redo"
-        enabled: root.history.canRedo && !root.context.textEditing
+        enabled: root.history.canRedo && root.context.editable
         onTriggered: root.history.redo()
     }
 
@@ -32,7 +32,7 @@ QtObject {
         shortcut: StandardKey.Cut
         alsoKeys: "Delete"
         icon.name: "cut"
-        enabled: (root.clipboard?.canCut ?? false) && !root.context.textEditing
+        enabled: (root.clipboard?.canCut ?? false) && root.context.editable
         onTriggered: {
             root.context.commitTextEditing()
             root.context.report(root.clipboard.cutSelection(), root.clipboard)
@@ -43,7 +43,7 @@ QtObject {
         text: qsTr("&Copy")
         shortcut: StandardKey.Copy
         icon.name: "copy"
-        enabled: (root.clipboard?.canCopy ?? false) && !root.context.textEditing
+        enabled: (root.clipboard?.canCopy ?? false) && root.context.editable
         onTriggered: {
             root.context.commitTextEditing()
             root.context.report(root.clipboard.copySelection(), root.clipboard)
@@ -54,7 +54,7 @@ QtObject {
         text: qsTr("&Paste")
         shortcut: StandardKey.Paste
         icon.name: "paste"
-        enabled: (root.clipboard?.canPaste ?? false) && !root.context.textEditing
+        enabled: (root.clipboard?.canPaste ?? false) && root.context.editable
         onTriggered: {
             root.context.commitTextEditing()
             root.context.report(root.clipboard.paste(), root.clipboard)

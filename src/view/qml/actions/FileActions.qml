@@ -8,6 +8,7 @@ QtObject {
     required property ActionContext context
     readonly property bool saveInProgress: context.exporter.sessionSaveBusy
                                            || context.dialogs.saveProgressDialog.visible
+    readonly property bool available: !saveInProgress && !context.dialogs.fileDialogOpen
 
     // No save has begun, or it could not be carried out; the reason is on the screen.
     signal saveFailed()
@@ -41,7 +42,7 @@ QtObject {
         toolTip: qsTr("New document")
         shortcut: StandardKey.New
         icon.name: "new_file"
-        enabled: !root.saveInProgress
+        enabled: root.available
         onTriggered: {
             root.context.commitTextEditing()
             root.context.window.requestNewDocument()
@@ -53,7 +54,7 @@ QtObject {
         toolTip: qsTr("Open a document or image")
         shortcut: StandardKey.Open
         icon.name: "open"
-        enabled: !root.saveInProgress
+        enabled: root.available
         onTriggered: {
             root.context.commitTextEditing()
             root.context.window.requestOpenDocument()
@@ -65,7 +66,7 @@ QtObject {
         toolTip: qsTr("Save image and document")
         shortcut: StandardKey.Save
         icon.name: "save"
-        enabled: !root.saveInProgress
+        enabled: root.available
         onTriggered: {
             root.context.commitTextEditing()
             if (root.context.exporter.hasSessionExport)
@@ -78,7 +79,7 @@ QtObject {
     readonly property ZmAction saveDocumentAs: ZmAction {
         text: qsTr("Save &As…")
         shortcut: StandardKey.SaveAs
-        enabled: !root.saveInProgress
+        enabled: root.available
         onTriggered: {
             root.context.commitTextEditing()
             root.openExportDialog()

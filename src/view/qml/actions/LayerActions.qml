@@ -9,7 +9,7 @@ QtObject {
     readonly property var editor: context.editor
     readonly property var sceneAdapter: context.sceneAdapter
     readonly property var paintController: context.paintController
-    readonly property bool editable: !context.textEditing
+    readonly property bool editable: context.editable
 
     readonly property ZmAction addImage: ZmAction {
         text: qsTr("&Image")

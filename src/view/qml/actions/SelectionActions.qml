@@ -8,7 +8,7 @@ QtObject {
     required property ActionContext context
     readonly property var model: context.selectionModel
     readonly property var clipboard: context.clipboard
-    readonly property bool editable: !context.textEditing
+    readonly property bool editable: context.editable
 
     component SelectionMode: ModeAction {
         signal activated()

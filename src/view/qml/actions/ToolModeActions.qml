@@ -8,7 +8,7 @@ QtObject {
     required property ActionContext context
     readonly property var selectionModel: context.selectionModel
     readonly property var paintController: context.paintController
-    readonly property bool editable: !context.textEditing
+    readonly property bool editable: context.editable
 
     function togglePathEdit() {
         if (pathEdit.active) {

@@ -32,7 +32,7 @@ Item {
             required property ZmAction modelData
 
             sequence: modelData.toolKey
-            enabled: root.context.canvas.activeFocus && !root.context.textEditing && modelData.enabled
+            enabled: root.context.canvas.activeFocus && root.context.editable && modelData.enabled
             onActivated: modelData.trigger()
         }
     }

@@ -27,11 +27,13 @@ Item {
     readonly property alias exportDialog: exportDialog
     readonly property alias shapePickerDialog: shapePickerDialog
 
+    // They may be windows of their own, which let the keys of actions through.
+    readonly property bool fileDialogOpen: documentOpenDialog.visible || imageFileDialog.visible
+                                           || exportFileDialog.visible
     readonly property bool anyVisible: aboutDialog.visible || shapePickerDialog.visible || exportDialog.visible
                                        || saveProgressDialog.visible || resetBoardDialog.visible
-                                       || exportFileDialog.visible || exportErrorDialog.visible
-                                       || documentOpenDialog.visible || documentFileErrorDialog.visible
-                                       || imageFileDialog.visible || imageLoadErrorDialog.visible
+                                       || fileDialogOpen || exportErrorDialog.visible
+                                       || documentFileErrorDialog.visible || imageLoadErrorDialog.visible
                                        || unsavedChangesDialog.visible || languageRestartDialog.visible
 
     signal documentChosen(url fileUrl)
