@@ -403,6 +403,14 @@
         <source>Save…</source>
         <translation>Gem…</translation>
     </message>
+    <message>
+        <source>px</source>
+        <translation>px</translation>
+    </message>
+    <message>
+        <source>%</source>
+        <translation>%</translation>
+    </message>
 </context>
 <context>
     <name>ExportPreview</name>
@@ -717,7 +725,7 @@
 <context>
     <name>LanguageMenu</name>
     <message>
-        <source>&amp;Language</source>
+        <source>Lan&amp;guage</source>
         <translation>&amp;Sprog</translation>
     </message>
 </context>
@@ -1187,6 +1195,10 @@ Det redigerbare dokument er gemt som %2.</translation>
         <source>Create</source>
         <translation>Opret</translation>
     </message>
+    <message>
+        <source>px</source>
+        <translation>px</translation>
+    </message>
 </context>
 <context>
     <name>NewDocumentPreset</name>
@@ -1558,10 +1570,6 @@ Log:
         <translation>Rediger rastermarkeringens sti</translation>
     </message>
     <message>
-        <source>&amp;Clear Raster Selection</source>
-        <translation>&amp;Ryd rastermarkering</translation>
-    </message>
-    <message>
         <source>Clear the raster selection</source>
         <translation>Ryd rastermarkeringen</translation>
     </message>
@@ -1572,6 +1580,10 @@ Log:
     <message>
         <source>E&amp;xtract Selection to New Layer</source>
         <translation>&amp;Udtræk markering til nyt lag</translation>
+    </message>
+    <message>
+        <source>C&amp;lear Raster Selection</source>
+        <translation>&amp;Ryd rastermarkering</translation>
     </message>
 </context>
 <context>
@@ -1831,20 +1843,16 @@ Log:
         <translation>Intet lag valgt</translation>
     </message>
     <message>
-        <source>Zoom out</source>
-        <translation>Zoom ud</translation>
-    </message>
-    <message>
         <source>%1%</source>
         <translation>%1 %</translation>
     </message>
     <message>
-        <source>Reset zoom to 100%</source>
-        <translation>Nulstil zoom til 100 %</translation>
+        <source>-</source>
+        <translation>-</translation>
     </message>
     <message>
-        <source>Zoom in</source>
-        <translation>Zoom ind</translation>
+        <source>+</source>
+        <translation>+</translation>
     </message>
 </context>
 <context>
@@ -2128,6 +2136,18 @@ Log:
     <message>
         <source>&amp;Dark</source>
         <translation>&amp;Mørkt</translation>
+    </message>
+    <message>
+        <source>Zoom in</source>
+        <translation>Zoom ind</translation>
+    </message>
+    <message>
+        <source>Zoom out</source>
+        <translation>Zoom ud</translation>
+    </message>
+    <message>
+        <source>Reset zoom to 100%</source>
+        <translation>Nulstil zoom til 100 %</translation>
     </message>
 </context>
 <context>

@@ -403,6 +403,14 @@
         <source>Save…</source>
         <translation>Speichern…</translation>
     </message>
+    <message>
+        <source>px</source>
+        <translation>px</translation>
+    </message>
+    <message>
+        <source>%</source>
+        <translation>%</translation>
+    </message>
 </context>
 <context>
     <name>ExportPreview</name>
@@ -717,7 +725,7 @@
 <context>
     <name>LanguageMenu</name>
     <message>
-        <source>&amp;Language</source>
+        <source>Lan&amp;guage</source>
         <translation>&amp;Sprache</translation>
     </message>
 </context>
@@ -1187,6 +1195,10 @@ Bearbeitbares Dokument als %2 gespeichert.</translation>
         <source>Create</source>
         <translation>Erstellen</translation>
     </message>
+    <message>
+        <source>px</source>
+        <translation>px</translation>
+    </message>
 </context>
 <context>
     <name>NewDocumentPreset</name>
@@ -1558,10 +1570,6 @@ Protokoll:
         <translation>Den Pfad der Rasterauswahl bearbeiten</translation>
     </message>
     <message>
-        <source>&amp;Clear Raster Selection</source>
-        <translation>Rasterauswahl auf&amp;heben</translation>
-    </message>
-    <message>
         <source>Clear the raster selection</source>
         <translation>Die Rasterauswahl aufheben</translation>
     </message>
@@ -1572,6 +1580,10 @@ Protokoll:
     <message>
         <source>E&amp;xtract Selection to New Layer</source>
         <translation>Auswahl in neue Ebene e&amp;xtrahieren</translation>
+    </message>
+    <message>
+        <source>C&amp;lear Raster Selection</source>
+        <translation>Rasterauswahl auf&amp;heben</translation>
     </message>
 </context>
 <context>
@@ -1831,20 +1843,16 @@ Protokoll:
         <translation>Keine Ebene ausgewählt</translation>
     </message>
     <message>
-        <source>Zoom out</source>
-        <translation>Verkleinern</translation>
-    </message>
-    <message>
         <source>%1%</source>
         <translation>%1 %</translation>
     </message>
     <message>
-        <source>Reset zoom to 100%</source>
-        <translation>Zoom auf 100 % zurücksetzen</translation>
+        <source>-</source>
+        <translation>-</translation>
     </message>
     <message>
-        <source>Zoom in</source>
-        <translation>Vergrößern</translation>
+        <source>+</source>
+        <translation>+</translation>
     </message>
 </context>
 <context>
@@ -2128,6 +2136,18 @@ Protokoll:
     <message>
         <source>&amp;Dark</source>
         <translation>&amp;Dunkel</translation>
+    </message>
+    <message>
+        <source>Zoom in</source>
+        <translation>Vergrößern</translation>
+    </message>
+    <message>
+        <source>Zoom out</source>
+        <translation>Verkleinern</translation>
+    </message>
+    <message>
+        <source>Reset zoom to 100%</source>
+        <translation>Zoom auf 100 % zurücksetzen</translation>
     </message>
 </context>
 <context>

@@ -403,6 +403,14 @@
         <source>Save…</source>
         <translation>Αποθήκευση…</translation>
     </message>
+    <message>
+        <source>px</source>
+        <translation>px</translation>
+    </message>
+    <message>
+        <source>%</source>
+        <translation>%</translation>
+    </message>
 </context>
 <context>
     <name>ExportPreview</name>
@@ -717,7 +725,7 @@
 <context>
     <name>LanguageMenu</name>
     <message>
-        <source>&amp;Language</source>
+        <source>Lan&amp;guage</source>
         <translation>&amp;Γλώσσα</translation>
     </message>
 </context>
@@ -1187,6 +1195,10 @@ Editable document saved as %2.</source>
         <source>Create</source>
         <translation>Δημιουργία</translation>
     </message>
+    <message>
+        <source>px</source>
+        <translation>px</translation>
+    </message>
 </context>
 <context>
     <name>NewDocumentPreset</name>
@@ -1558,10 +1570,6 @@ Log:
         <translation>Επεξεργασία της διαδρομής της επιλογής ράστερ</translation>
     </message>
     <message>
-        <source>&amp;Clear Raster Selection</source>
-        <translation>&amp;Απαλοιφή επιλογής ράστερ</translation>
-    </message>
-    <message>
         <source>Clear the raster selection</source>
         <translation>Απαλοιφή της επιλογής ράστερ</translation>
     </message>
@@ -1572,6 +1580,10 @@ Log:
     <message>
         <source>E&amp;xtract Selection to New Layer</source>
         <translation>Ε&amp;ξαγωγή επιλογής σε νέο επίπεδο</translation>
+    </message>
+    <message>
+        <source>C&amp;lear Raster Selection</source>
+        <translation>&amp;Απαλοιφή επιλογής ράστερ</translation>
     </message>
 </context>
 <context>
@@ -1831,20 +1843,16 @@ Log:
         <translation>Δεν έχει επιλεγεί επίπεδο</translation>
     </message>
     <message>
-        <source>Zoom out</source>
-        <translation>Σμίκρυνση</translation>
-    </message>
-    <message>
         <source>%1%</source>
         <translation>%1%</translation>
     </message>
     <message>
-        <source>Reset zoom to 100%</source>
-        <translation>Επαναφορά ζουμ στο 100%</translation>
+        <source>-</source>
+        <translation>-</translation>
     </message>
     <message>
-        <source>Zoom in</source>
-        <translation>Μεγέθυνση</translation>
+        <source>+</source>
+        <translation>+</translation>
     </message>
 </context>
 <context>
@@ -2128,6 +2136,18 @@ Log:
     <message>
         <source>&amp;Dark</source>
         <translation>Σ&amp;κούρο</translation>
+    </message>
+    <message>
+        <source>Zoom in</source>
+        <translation>Μεγέθυνση</translation>
+    </message>
+    <message>
+        <source>Zoom out</source>
+        <translation>Σμίκρυνση</translation>
+    </message>
+    <message>
+        <source>Reset zoom to 100%</source>
+        <translation>Επαναφορά ζουμ στο 100%</translation>
     </message>
 </context>
 <context>

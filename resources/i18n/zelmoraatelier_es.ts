@@ -403,6 +403,14 @@
         <source>Save…</source>
         <translation>Guardar…</translation>
     </message>
+    <message>
+        <source>px</source>
+        <translation>px</translation>
+    </message>
+    <message>
+        <source>%</source>
+        <translation>%</translation>
+    </message>
 </context>
 <context>
     <name>ExportPreview</name>
@@ -717,7 +725,7 @@
 <context>
     <name>LanguageMenu</name>
     <message>
-        <source>&amp;Language</source>
+        <source>Lan&amp;guage</source>
         <translation>Idio&amp;ma</translation>
     </message>
 </context>
@@ -1187,6 +1195,10 @@ Documento editable guardado como %2.</translation>
         <source>Create</source>
         <translation>Crear</translation>
     </message>
+    <message>
+        <source>px</source>
+        <translation>px</translation>
+    </message>
 </context>
 <context>
     <name>NewDocumentPreset</name>
@@ -1558,10 +1570,6 @@ Registro:
         <translation>Editar el trazado de la selección de píxeles</translation>
     </message>
     <message>
-        <source>&amp;Clear Raster Selection</source>
-        <translation>&amp;Deseleccionar píxeles</translation>
-    </message>
-    <message>
         <source>Clear the raster selection</source>
         <translation>Deseleccionar los píxeles</translation>
     </message>
@@ -1572,6 +1580,10 @@ Registro:
     <message>
         <source>E&amp;xtract Selection to New Layer</source>
         <translation>E&amp;xtraer selección a una capa nueva</translation>
+    </message>
+    <message>
+        <source>C&amp;lear Raster Selection</source>
+        <translation>&amp;Deseleccionar píxeles</translation>
     </message>
 </context>
 <context>
@@ -1831,20 +1843,16 @@ Registro:
         <translation>Ninguna capa seleccionada</translation>
     </message>
     <message>
-        <source>Zoom out</source>
-        <translation>Alejar</translation>
-    </message>
-    <message>
         <source>%1%</source>
         <translation>%1&#xa0;%</translation>
     </message>
     <message>
-        <source>Reset zoom to 100%</source>
-        <translation>Restablecer zoom al 100&#xa0;%</translation>
+        <source>-</source>
+        <translation>-</translation>
     </message>
     <message>
-        <source>Zoom in</source>
-        <translation>Acercar</translation>
+        <source>+</source>
+        <translation>+</translation>
     </message>
 </context>
 <context>
@@ -2128,6 +2136,18 @@ Registro:
     <message>
         <source>&amp;Dark</source>
         <translation>&amp;Oscuro</translation>
+    </message>
+    <message>
+        <source>Zoom in</source>
+        <translation>Acercar</translation>
+    </message>
+    <message>
+        <source>Zoom out</source>
+        <translation>Alejar</translation>
+    </message>
+    <message>
+        <source>Reset zoom to 100%</source>
+        <translation>Restablecer zoom al 100&#xa0;%</translation>
     </message>
 </context>
 <context>

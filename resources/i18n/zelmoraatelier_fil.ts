@@ -403,6 +403,14 @@
         <source>Save…</source>
         <translation>I-save…</translation>
     </message>
+    <message>
+        <source>px</source>
+        <translation>px</translation>
+    </message>
+    <message>
+        <source>%</source>
+        <translation>%</translation>
+    </message>
 </context>
 <context>
     <name>ExportPreview</name>
@@ -717,7 +725,7 @@
 <context>
     <name>LanguageMenu</name>
     <message>
-        <source>&amp;Language</source>
+        <source>Lan&amp;guage</source>
         <translation>Wi&amp;ka</translation>
     </message>
 </context>
@@ -1187,6 +1195,10 @@ Na-save ang nae-edit na dokumento bilang %2.</translation>
         <source>Create</source>
         <translation>Gumawa</translation>
     </message>
+    <message>
+        <source>px</source>
+        <translation>px</translation>
+    </message>
 </context>
 <context>
     <name>NewDocumentPreset</name>
@@ -1558,10 +1570,6 @@ Log:
         <translation>I-edit ang path ng raster na seleksyon</translation>
     </message>
     <message>
-        <source>&amp;Clear Raster Selection</source>
-        <translation>I-&amp;clear ang Raster na Seleksyon</translation>
-    </message>
-    <message>
         <source>Clear the raster selection</source>
         <translation>I-clear ang raster na seleksyon</translation>
     </message>
@@ -1572,6 +1580,10 @@ Log:
     <message>
         <source>E&amp;xtract Selection to New Layer</source>
         <translation>I-e&amp;xtract ang Seleksyon sa Bagong Layer</translation>
+    </message>
+    <message>
+        <source>C&amp;lear Raster Selection</source>
+        <translation>I-&amp;clear ang Raster na Seleksyon</translation>
     </message>
 </context>
 <context>
@@ -1831,20 +1843,16 @@ Log:
         <translation>Walang napiling layer</translation>
     </message>
     <message>
-        <source>Zoom out</source>
-        <translation>Mag-zoom out</translation>
-    </message>
-    <message>
         <source>%1%</source>
         <translation>%1%</translation>
     </message>
     <message>
-        <source>Reset zoom to 100%</source>
-        <translation>I-reset ang zoom sa 100%</translation>
+        <source>-</source>
+        <translation>-</translation>
     </message>
     <message>
-        <source>Zoom in</source>
-        <translation>Mag-zoom in</translation>
+        <source>+</source>
+        <translation>+</translation>
     </message>
 </context>
 <context>
@@ -2128,6 +2136,18 @@ Log:
     <message>
         <source>&amp;Dark</source>
         <translation>Ma&amp;dilim</translation>
+    </message>
+    <message>
+        <source>Zoom in</source>
+        <translation>Mag-zoom in</translation>
+    </message>
+    <message>
+        <source>Zoom out</source>
+        <translation>Mag-zoom out</translation>
+    </message>
+    <message>
+        <source>Reset zoom to 100%</source>
+        <translation>I-reset ang zoom sa 100%</translation>
     </message>
 </context>
 <context>

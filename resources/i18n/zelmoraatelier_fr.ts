@@ -403,6 +403,14 @@
         <source>Save…</source>
         <translation>Enregistrer…</translation>
     </message>
+    <message>
+        <source>px</source>
+        <translation>px</translation>
+    </message>
+    <message>
+        <source>%</source>
+        <translation>%</translation>
+    </message>
 </context>
 <context>
     <name>ExportPreview</name>
@@ -717,7 +725,7 @@
 <context>
     <name>LanguageMenu</name>
     <message>
-        <source>&amp;Language</source>
+        <source>Lan&amp;guage</source>
         <translation>Lan&amp;gue</translation>
     </message>
 </context>
@@ -1187,6 +1195,10 @@ Document modifiable enregistré sous %2.</translation>
         <source>Create</source>
         <translation>Créer</translation>
     </message>
+    <message>
+        <source>px</source>
+        <translation>px</translation>
+    </message>
 </context>
 <context>
     <name>NewDocumentPreset</name>
@@ -1558,10 +1570,6 @@ Journal&#xa0;:
         <translation>Modifier le tracé de la sélection de pixels</translation>
     </message>
     <message>
-        <source>&amp;Clear Raster Selection</source>
-        <translation>&amp;Désélectionner les pixels</translation>
-    </message>
-    <message>
         <source>Clear the raster selection</source>
         <translation>Désélectionner les pixels</translation>
     </message>
@@ -1572,6 +1580,10 @@ Journal&#xa0;:
     <message>
         <source>E&amp;xtract Selection to New Layer</source>
         <translation>E&amp;xtraire la sélection vers un nouveau calque</translation>
+    </message>
+    <message>
+        <source>C&amp;lear Raster Selection</source>
+        <translation>&amp;Désélectionner les pixels</translation>
     </message>
 </context>
 <context>
@@ -1831,20 +1843,16 @@ Journal&#xa0;:
         <translation>Aucun calque sélectionné</translation>
     </message>
     <message>
-        <source>Zoom out</source>
-        <translation>Zoom arrière</translation>
-    </message>
-    <message>
         <source>%1%</source>
         <translation>%1&#xa0;%</translation>
     </message>
     <message>
-        <source>Reset zoom to 100%</source>
-        <translation>Rétablir le zoom à 100&#xa0;%</translation>
+        <source>-</source>
+        <translation>-</translation>
     </message>
     <message>
-        <source>Zoom in</source>
-        <translation>Zoom avant</translation>
+        <source>+</source>
+        <translation>+</translation>
     </message>
 </context>
 <context>
@@ -2128,6 +2136,18 @@ Journal&#xa0;:
     <message>
         <source>&amp;Dark</source>
         <translation>S&amp;ombre</translation>
+    </message>
+    <message>
+        <source>Zoom in</source>
+        <translation>Zoom avant</translation>
+    </message>
+    <message>
+        <source>Zoom out</source>
+        <translation>Zoom arrière</translation>
+    </message>
+    <message>
+        <source>Reset zoom to 100%</source>
+        <translation>Rétablir le zoom à 100&#xa0;%</translation>
     </message>
 </context>
 <context>

@@ -403,6 +403,14 @@
         <source>Save…</source>
         <translation>सहेजें…</translation>
     </message>
+    <message>
+        <source>px</source>
+        <translation>px</translation>
+    </message>
+    <message>
+        <source>%</source>
+        <translation>%</translation>
+    </message>
 </context>
 <context>
     <name>ExportPreview</name>
@@ -717,7 +725,7 @@
 <context>
     <name>LanguageMenu</name>
     <message>
-        <source>&amp;Language</source>
+        <source>Lan&amp;guage</source>
         <translation>&amp;भाषा</translation>
     </message>
 </context>
@@ -1187,6 +1195,10 @@ Editable document saved as %2.</source>
         <source>Create</source>
         <translation>बनाएँ</translation>
     </message>
+    <message>
+        <source>px</source>
+        <translation>px</translation>
+    </message>
 </context>
 <context>
     <name>NewDocumentPreset</name>
@@ -1558,10 +1570,6 @@ Log:
         <translation>रास्टर चयन का पथ संपादित करें</translation>
     </message>
     <message>
-        <source>&amp;Clear Raster Selection</source>
-        <translation>रास्टर चयन &amp;हटाएँ</translation>
-    </message>
-    <message>
         <source>Clear the raster selection</source>
         <translation>रास्टर चयन हटाएँ</translation>
     </message>
@@ -1572,6 +1580,10 @@ Log:
     <message>
         <source>E&amp;xtract Selection to New Layer</source>
         <translation>चयन को &amp;नई लेयर में निकालें</translation>
+    </message>
+    <message>
+        <source>C&amp;lear Raster Selection</source>
+        <translation>रास्टर चयन &amp;हटाएँ</translation>
     </message>
 </context>
 <context>
@@ -1831,20 +1843,16 @@ Log:
         <translation>कोई लेयर चयनित नहीं</translation>
     </message>
     <message>
-        <source>Zoom out</source>
-        <translation>ज़ूम आउट करें</translation>
-    </message>
-    <message>
         <source>%1%</source>
         <translation>%1%</translation>
     </message>
     <message>
-        <source>Reset zoom to 100%</source>
-        <translation>ज़ूम 100% पर रीसेट करें</translation>
+        <source>-</source>
+        <translation>-</translation>
     </message>
     <message>
-        <source>Zoom in</source>
-        <translation>ज़ूम इन करें</translation>
+        <source>+</source>
+        <translation>+</translation>
     </message>
 </context>
 <context>
@@ -2128,6 +2136,18 @@ Log:
     <message>
         <source>&amp;Dark</source>
         <translation>&amp;डार्क</translation>
+    </message>
+    <message>
+        <source>Zoom in</source>
+        <translation>ज़ूम इन करें</translation>
+    </message>
+    <message>
+        <source>Zoom out</source>
+        <translation>ज़ूम आउट करें</translation>
+    </message>
+    <message>
+        <source>Reset zoom to 100%</source>
+        <translation>ज़ूम 100% पर रीसेट करें</translation>
     </message>
 </context>
 <context>

@@ -403,6 +403,14 @@
         <source>Save…</source>
         <translation>Salva…</translation>
     </message>
+    <message>
+        <source>px</source>
+        <translation>px</translation>
+    </message>
+    <message>
+        <source>%</source>
+        <translation>%</translation>
+    </message>
 </context>
 <context>
     <name>ExportPreview</name>
@@ -717,7 +725,7 @@
 <context>
     <name>LanguageMenu</name>
     <message>
-        <source>&amp;Language</source>
+        <source>Lan&amp;guage</source>
         <translation>Ling&amp;ua</translation>
     </message>
 </context>
@@ -1187,6 +1195,10 @@ Documento modificabile salvato come %2.</translation>
         <source>Create</source>
         <translation>Crea</translation>
     </message>
+    <message>
+        <source>px</source>
+        <translation>px</translation>
+    </message>
 </context>
 <context>
     <name>NewDocumentPreset</name>
@@ -1558,10 +1570,6 @@ Log:
         <translation>Modifica il tracciato della selezione di pixel</translation>
     </message>
     <message>
-        <source>&amp;Clear Raster Selection</source>
-        <translation>&amp;Deseleziona pixel</translation>
-    </message>
-    <message>
         <source>Clear the raster selection</source>
         <translation>Deseleziona i pixel</translation>
     </message>
@@ -1572,6 +1580,10 @@ Log:
     <message>
         <source>E&amp;xtract Selection to New Layer</source>
         <translation>E&amp;strai selezione in un nuovo livello</translation>
+    </message>
+    <message>
+        <source>C&amp;lear Raster Selection</source>
+        <translation>&amp;Deseleziona pixel</translation>
     </message>
 </context>
 <context>
@@ -1831,20 +1843,16 @@ Log:
         <translation>Nessun livello selezionato</translation>
     </message>
     <message>
-        <source>Zoom out</source>
-        <translation>Riduci</translation>
-    </message>
-    <message>
         <source>%1%</source>
         <translation>%1%</translation>
     </message>
     <message>
-        <source>Reset zoom to 100%</source>
-        <translation>Ripristina zoom al 100%</translation>
+        <source>-</source>
+        <translation>-</translation>
     </message>
     <message>
-        <source>Zoom in</source>
-        <translation>Ingrandisci</translation>
+        <source>+</source>
+        <translation>+</translation>
     </message>
 </context>
 <context>
@@ -2128,6 +2136,18 @@ Log:
     <message>
         <source>&amp;Dark</source>
         <translation>Sc&amp;uro</translation>
+    </message>
+    <message>
+        <source>Zoom in</source>
+        <translation>Ingrandisci</translation>
+    </message>
+    <message>
+        <source>Zoom out</source>
+        <translation>Riduci</translation>
+    </message>
+    <message>
+        <source>Reset zoom to 100%</source>
+        <translation>Ripristina zoom al 100%</translation>
     </message>
 </context>
 <context>

@@ -403,6 +403,14 @@
         <source>Save…</source>
         <translation>保存…</translation>
     </message>
+    <message>
+        <source>px</source>
+        <translation>px</translation>
+    </message>
+    <message>
+        <source>%</source>
+        <translation>%</translation>
+    </message>
 </context>
 <context>
     <name>ExportPreview</name>
@@ -717,7 +725,7 @@
 <context>
     <name>LanguageMenu</name>
     <message>
-        <source>&amp;Language</source>
+        <source>Lan&amp;guage</source>
         <translation>言語(&amp;L)</translation>
     </message>
 </context>
@@ -1187,6 +1195,10 @@ Editable document saved as %2.</source>
         <source>Create</source>
         <translation>作成</translation>
     </message>
+    <message>
+        <source>px</source>
+        <translation>px</translation>
+    </message>
 </context>
 <context>
     <name>NewDocumentPreset</name>
@@ -1558,10 +1570,6 @@ Log:
         <translation>ラスター選択範囲のパスを編集</translation>
     </message>
     <message>
-        <source>&amp;Clear Raster Selection</source>
-        <translation>ラスター選択範囲を解除(&amp;C)</translation>
-    </message>
-    <message>
         <source>Clear the raster selection</source>
         <translation>ラスター選択範囲を解除</translation>
     </message>
@@ -1572,6 +1580,10 @@ Log:
     <message>
         <source>E&amp;xtract Selection to New Layer</source>
         <translation>選択範囲を新規レイヤーに抽出(&amp;X)</translation>
+    </message>
+    <message>
+        <source>C&amp;lear Raster Selection</source>
+        <translation>ラスター選択範囲を解除(&amp;C)</translation>
     </message>
 </context>
 <context>
@@ -1831,20 +1843,16 @@ Log:
         <translation>レイヤーが選択されていません</translation>
     </message>
     <message>
-        <source>Zoom out</source>
-        <translation>ズームアウト</translation>
-    </message>
-    <message>
         <source>%1%</source>
         <translation>%1%</translation>
     </message>
     <message>
-        <source>Reset zoom to 100%</source>
-        <translation>ズームを100%に戻す</translation>
+        <source>-</source>
+        <translation>-</translation>
     </message>
     <message>
-        <source>Zoom in</source>
-        <translation>ズームイン</translation>
+        <source>+</source>
+        <translation>+</translation>
     </message>
 </context>
 <context>
@@ -2128,6 +2136,18 @@ Log:
     <message>
         <source>&amp;Dark</source>
         <translation>ダーク(&amp;D)</translation>
+    </message>
+    <message>
+        <source>Zoom in</source>
+        <translation>ズームイン</translation>
+    </message>
+    <message>
+        <source>Zoom out</source>
+        <translation>ズームアウト</translation>
+    </message>
+    <message>
+        <source>Reset zoom to 100%</source>
+        <translation>ズームを100%に戻す</translation>
     </message>
 </context>
 <context>

@@ -403,6 +403,14 @@
         <source>Save…</source>
         <translation>저장…</translation>
     </message>
+    <message>
+        <source>px</source>
+        <translation>px</translation>
+    </message>
+    <message>
+        <source>%</source>
+        <translation>%</translation>
+    </message>
 </context>
 <context>
     <name>ExportPreview</name>
@@ -717,7 +725,7 @@
 <context>
     <name>LanguageMenu</name>
     <message>
-        <source>&amp;Language</source>
+        <source>Lan&amp;guage</source>
         <translation>언어(&amp;L)</translation>
     </message>
 </context>
@@ -1187,6 +1195,10 @@ Editable document saved as %2.</source>
         <source>Create</source>
         <translation>만들기</translation>
     </message>
+    <message>
+        <source>px</source>
+        <translation>px</translation>
+    </message>
 </context>
 <context>
     <name>NewDocumentPreset</name>
@@ -1558,10 +1570,6 @@ Log:
         <translation>래스터 선택 영역 패스 편집</translation>
     </message>
     <message>
-        <source>&amp;Clear Raster Selection</source>
-        <translation>래스터 선택 해제(&amp;C)</translation>
-    </message>
-    <message>
         <source>Clear the raster selection</source>
         <translation>래스터 선택 영역을 해제합니다</translation>
     </message>
@@ -1572,6 +1580,10 @@ Log:
     <message>
         <source>E&amp;xtract Selection to New Layer</source>
         <translation>선택 영역을 새 레이어로 추출(&amp;X)</translation>
+    </message>
+    <message>
+        <source>C&amp;lear Raster Selection</source>
+        <translation>래스터 선택 해제(&amp;C)</translation>
     </message>
 </context>
 <context>
@@ -1831,20 +1843,16 @@ Log:
         <translation>선택한 레이어 없음</translation>
     </message>
     <message>
-        <source>Zoom out</source>
-        <translation>축소</translation>
-    </message>
-    <message>
         <source>%1%</source>
         <translation>%1%</translation>
     </message>
     <message>
-        <source>Reset zoom to 100%</source>
-        <translation>확대/축소를 100%로 재설정</translation>
+        <source>-</source>
+        <translation>-</translation>
     </message>
     <message>
-        <source>Zoom in</source>
-        <translation>확대</translation>
+        <source>+</source>
+        <translation>+</translation>
     </message>
 </context>
 <context>
@@ -2128,6 +2136,18 @@ Log:
     <message>
         <source>&amp;Dark</source>
         <translation>어둡게(&amp;D)</translation>
+    </message>
+    <message>
+        <source>Zoom in</source>
+        <translation>확대</translation>
+    </message>
+    <message>
+        <source>Zoom out</source>
+        <translation>축소</translation>
+    </message>
+    <message>
+        <source>Reset zoom to 100%</source>
+        <translation>확대/축소를 100%로 재설정</translation>
     </message>
 </context>
 <context>

@@ -403,6 +403,14 @@
         <source>Save…</source>
         <translation>Lagre…</translation>
     </message>
+    <message>
+        <source>px</source>
+        <translation>px</translation>
+    </message>
+    <message>
+        <source>%</source>
+        <translation>%</translation>
+    </message>
 </context>
 <context>
     <name>ExportPreview</name>
@@ -717,7 +725,7 @@
 <context>
     <name>LanguageMenu</name>
     <message>
-        <source>&amp;Language</source>
+        <source>Lan&amp;guage</source>
         <translation>&amp;Språk</translation>
     </message>
 </context>
@@ -1187,6 +1195,10 @@ Det redigerbare dokumentet ble lagret som %2.</translation>
         <source>Create</source>
         <translation>Opprett</translation>
     </message>
+    <message>
+        <source>px</source>
+        <translation>px</translation>
+    </message>
 </context>
 <context>
     <name>NewDocumentPreset</name>
@@ -1558,10 +1570,6 @@ Logg:
         <translation>Rediger banen til rastermarkeringen</translation>
     </message>
     <message>
-        <source>&amp;Clear Raster Selection</source>
-        <translation>Fjern ra&amp;stermarkering</translation>
-    </message>
-    <message>
         <source>Clear the raster selection</source>
         <translation>Fjern rastermarkeringen</translation>
     </message>
@@ -1572,6 +1580,10 @@ Logg:
     <message>
         <source>E&amp;xtract Selection to New Layer</source>
         <translation>Trekk ut markering til &amp;nytt lag</translation>
+    </message>
+    <message>
+        <source>C&amp;lear Raster Selection</source>
+        <translation>Fjern ra&amp;stermarkering</translation>
     </message>
 </context>
 <context>
@@ -1831,20 +1843,16 @@ Logg:
         <translation>Ingen lag er markert</translation>
     </message>
     <message>
-        <source>Zoom out</source>
-        <translation>Zoom ut</translation>
-    </message>
-    <message>
         <source>%1%</source>
         <translation>%1 %</translation>
     </message>
     <message>
-        <source>Reset zoom to 100%</source>
-        <translation>Tilbakestill zoom til 100 %</translation>
+        <source>-</source>
+        <translation>-</translation>
     </message>
     <message>
-        <source>Zoom in</source>
-        <translation>Zoom inn</translation>
+        <source>+</source>
+        <translation>+</translation>
     </message>
 </context>
 <context>
@@ -2128,6 +2136,18 @@ Logg:
     <message>
         <source>&amp;Dark</source>
         <translation>&amp;Mørkt</translation>
+    </message>
+    <message>
+        <source>Zoom in</source>
+        <translation>Zoom inn</translation>
+    </message>
+    <message>
+        <source>Zoom out</source>
+        <translation>Zoom ut</translation>
+    </message>
+    <message>
+        <source>Reset zoom to 100%</source>
+        <translation>Tilbakestill zoom til 100 %</translation>
     </message>
 </context>
 <context>

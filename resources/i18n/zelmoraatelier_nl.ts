@@ -403,6 +403,14 @@
         <source>Save…</source>
         <translation>Opslaan…</translation>
     </message>
+    <message>
+        <source>px</source>
+        <translation>px</translation>
+    </message>
+    <message>
+        <source>%</source>
+        <translation>%</translation>
+    </message>
 </context>
 <context>
     <name>ExportPreview</name>
@@ -717,7 +725,7 @@
 <context>
     <name>LanguageMenu</name>
     <message>
-        <source>&amp;Language</source>
+        <source>Lan&amp;guage</source>
         <translation>T&amp;aal</translation>
     </message>
 </context>
@@ -1187,6 +1195,10 @@ Bewerkbaar document opgeslagen als %2.</translation>
         <source>Create</source>
         <translation>Maken</translation>
     </message>
+    <message>
+        <source>px</source>
+        <translation>px</translation>
+    </message>
 </context>
 <context>
     <name>NewDocumentPreset</name>
@@ -1558,10 +1570,6 @@ Logboek:
         <translation>Het pad van de rasterselectie bewerken</translation>
     </message>
     <message>
-        <source>&amp;Clear Raster Selection</source>
-        <translation>Rasterselectie &amp;wissen</translation>
-    </message>
-    <message>
         <source>Clear the raster selection</source>
         <translation>De rasterselectie wissen</translation>
     </message>
@@ -1572,6 +1580,10 @@ Logboek:
     <message>
         <source>E&amp;xtract Selection to New Layer</source>
         <translation>Selectie naar nieuwe laag e&amp;xtraheren</translation>
+    </message>
+    <message>
+        <source>C&amp;lear Raster Selection</source>
+        <translation>Rasterselectie &amp;wissen</translation>
     </message>
 </context>
 <context>
@@ -1831,20 +1843,16 @@ Logboek:
         <translation>Geen laag geselecteerd</translation>
     </message>
     <message>
-        <source>Zoom out</source>
-        <translation>Uitzoomen</translation>
-    </message>
-    <message>
         <source>%1%</source>
         <translation>%1%</translation>
     </message>
     <message>
-        <source>Reset zoom to 100%</source>
-        <translation>Zoom herstellen naar 100%</translation>
+        <source>-</source>
+        <translation>-</translation>
     </message>
     <message>
-        <source>Zoom in</source>
-        <translation>Inzoomen</translation>
+        <source>+</source>
+        <translation>+</translation>
     </message>
 </context>
 <context>
@@ -2128,6 +2136,18 @@ Logboek:
     <message>
         <source>&amp;Dark</source>
         <translation>&amp;Donker</translation>
+    </message>
+    <message>
+        <source>Zoom in</source>
+        <translation>Inzoomen</translation>
+    </message>
+    <message>
+        <source>Zoom out</source>
+        <translation>Uitzoomen</translation>
+    </message>
+    <message>
+        <source>Reset zoom to 100%</source>
+        <translation>Zoom herstellen naar 100%</translation>
     </message>
 </context>
 <context>

@@ -403,6 +403,14 @@
         <source>Save…</source>
         <translation>Zapisz…</translation>
     </message>
+    <message>
+        <source>px</source>
+        <translation>px</translation>
+    </message>
+    <message>
+        <source>%</source>
+        <translation>%</translation>
+    </message>
 </context>
 <context>
     <name>ExportPreview</name>
@@ -717,7 +725,7 @@
 <context>
     <name>LanguageMenu</name>
     <message>
-        <source>&amp;Language</source>
+        <source>Lan&amp;guage</source>
         <translation>&amp;Język</translation>
     </message>
 </context>
@@ -1187,6 +1195,10 @@ Edytowalny dokument zapisano jako %2.</translation>
         <source>Create</source>
         <translation>Utwórz</translation>
     </message>
+    <message>
+        <source>px</source>
+        <translation>px</translation>
+    </message>
 </context>
 <context>
     <name>NewDocumentPreset</name>
@@ -1558,10 +1570,6 @@ Dziennik:
         <translation>Edytuj ścieżkę zaznaczenia rastrowego</translation>
     </message>
     <message>
-        <source>&amp;Clear Raster Selection</source>
-        <translation>W&amp;yczyść zaznaczenie rastrowe</translation>
-    </message>
-    <message>
         <source>Clear the raster selection</source>
         <translation>Wyczyść zaznaczenie rastrowe</translation>
     </message>
@@ -1572,6 +1580,10 @@ Dziennik:
     <message>
         <source>E&amp;xtract Selection to New Layer</source>
         <translation>Wyo&amp;drębnij zaznaczenie na nową warstwę</translation>
+    </message>
+    <message>
+        <source>C&amp;lear Raster Selection</source>
+        <translation>W&amp;yczyść zaznaczenie rastrowe</translation>
     </message>
 </context>
 <context>
@@ -1831,20 +1843,16 @@ Dziennik:
         <translation>Nie wybrano warstwy</translation>
     </message>
     <message>
-        <source>Zoom out</source>
-        <translation>Pomniejsz</translation>
-    </message>
-    <message>
         <source>%1%</source>
         <translation>%1%</translation>
     </message>
     <message>
-        <source>Reset zoom to 100%</source>
-        <translation>Przywróć powiększenie 100%</translation>
+        <source>-</source>
+        <translation>-</translation>
     </message>
     <message>
-        <source>Zoom in</source>
-        <translation>Powiększ</translation>
+        <source>+</source>
+        <translation>+</translation>
     </message>
 </context>
 <context>
@@ -2128,6 +2136,18 @@ Dziennik:
     <message>
         <source>&amp;Dark</source>
         <translation>&amp;Ciemny</translation>
+    </message>
+    <message>
+        <source>Zoom in</source>
+        <translation>Powiększ</translation>
+    </message>
+    <message>
+        <source>Zoom out</source>
+        <translation>Pomniejsz</translation>
+    </message>
+    <message>
+        <source>Reset zoom to 100%</source>
+        <translation>Przywróć powiększenie 100%</translation>
     </message>
 </context>
 <context>

@@ -403,6 +403,14 @@
         <source>Save…</source>
         <translation>Guardar…</translation>
     </message>
+    <message>
+        <source>px</source>
+        <translation>px</translation>
+    </message>
+    <message>
+        <source>%</source>
+        <translation>%</translation>
+    </message>
 </context>
 <context>
     <name>ExportPreview</name>
@@ -717,7 +725,7 @@
 <context>
     <name>LanguageMenu</name>
     <message>
-        <source>&amp;Language</source>
+        <source>Lan&amp;guage</source>
         <translation>&amp;Idioma</translation>
     </message>
 </context>
@@ -1187,6 +1195,10 @@ Documento editável guardado como %2.</translation>
         <source>Create</source>
         <translation>Criar</translation>
     </message>
+    <message>
+        <source>px</source>
+        <translation>px</translation>
+    </message>
 </context>
 <context>
     <name>NewDocumentPreset</name>
@@ -1558,10 +1570,6 @@ Registo:
         <translation>Editar o caminho da seleção raster</translation>
     </message>
     <message>
-        <source>&amp;Clear Raster Selection</source>
-        <translation>&amp;Limpar seleção raster</translation>
-    </message>
-    <message>
         <source>Clear the raster selection</source>
         <translation>Limpar a seleção raster</translation>
     </message>
@@ -1572,6 +1580,10 @@ Registo:
     <message>
         <source>E&amp;xtract Selection to New Layer</source>
         <translation>E&amp;xtrair seleção para nova camada</translation>
+    </message>
+    <message>
+        <source>C&amp;lear Raster Selection</source>
+        <translation>&amp;Limpar seleção raster</translation>
     </message>
 </context>
 <context>
@@ -1831,20 +1843,16 @@ Registo:
         <translation>Nenhuma camada selecionada</translation>
     </message>
     <message>
-        <source>Zoom out</source>
-        <translation>Reduzir</translation>
-    </message>
-    <message>
         <source>%1%</source>
         <translation>%1%</translation>
     </message>
     <message>
-        <source>Reset zoom to 100%</source>
-        <translation>Repor a ampliação a 100%</translation>
+        <source>-</source>
+        <translation>-</translation>
     </message>
     <message>
-        <source>Zoom in</source>
-        <translation>Ampliar</translation>
+        <source>+</source>
+        <translation>+</translation>
     </message>
 </context>
 <context>
@@ -2128,6 +2136,18 @@ Registo:
     <message>
         <source>&amp;Dark</source>
         <translation>&amp;Escuro</translation>
+    </message>
+    <message>
+        <source>Zoom in</source>
+        <translation>Ampliar</translation>
+    </message>
+    <message>
+        <source>Zoom out</source>
+        <translation>Reduzir</translation>
+    </message>
+    <message>
+        <source>Reset zoom to 100%</source>
+        <translation>Repor a ampliação a 100%</translation>
     </message>
 </context>
 <context>

@@ -403,6 +403,14 @@
         <source>Save…</source>
         <translation>Сохранить…</translation>
     </message>
+    <message>
+        <source>px</source>
+        <translation>пкс</translation>
+    </message>
+    <message>
+        <source>%</source>
+        <translation>%</translation>
+    </message>
 </context>
 <context>
     <name>ExportPreview</name>
@@ -717,7 +725,7 @@
 <context>
     <name>LanguageMenu</name>
     <message>
-        <source>&amp;Language</source>
+        <source>Lan&amp;guage</source>
         <translation>&amp;Язык</translation>
     </message>
 </context>
@@ -1187,6 +1195,10 @@ Editable document saved as %2.</source>
         <source>Create</source>
         <translation>Создать</translation>
     </message>
+    <message>
+        <source>px</source>
+        <translation>пкс</translation>
+    </message>
 </context>
 <context>
     <name>NewDocumentPreset</name>
@@ -1558,10 +1570,6 @@ Log:
         <translation>Изменить контур растрового выделения</translation>
     </message>
     <message>
-        <source>&amp;Clear Raster Selection</source>
-        <translation>&amp;Снять растровое выделение</translation>
-    </message>
-    <message>
         <source>Clear the raster selection</source>
         <translation>Снять растровое выделение</translation>
     </message>
@@ -1572,6 +1580,10 @@ Log:
     <message>
         <source>E&amp;xtract Selection to New Layer</source>
         <translation>Извлечь выделение в &amp;новый слой</translation>
+    </message>
+    <message>
+        <source>C&amp;lear Raster Selection</source>
+        <translation>&amp;Снять растровое выделение</translation>
     </message>
 </context>
 <context>
@@ -1831,20 +1843,16 @@ Log:
         <translation>Слой не выбран</translation>
     </message>
     <message>
-        <source>Zoom out</source>
-        <translation>Уменьшить масштаб</translation>
-    </message>
-    <message>
         <source>%1%</source>
         <translation>%1%</translation>
     </message>
     <message>
-        <source>Reset zoom to 100%</source>
-        <translation>Сбросить масштаб до 100%</translation>
+        <source>-</source>
+        <translation>-</translation>
     </message>
     <message>
-        <source>Zoom in</source>
-        <translation>Увеличить масштаб</translation>
+        <source>+</source>
+        <translation>+</translation>
     </message>
 </context>
 <context>
@@ -2128,6 +2136,18 @@ Log:
     <message>
         <source>&amp;Dark</source>
         <translation>&amp;Тёмная</translation>
+    </message>
+    <message>
+        <source>Zoom in</source>
+        <translation>Увеличить масштаб</translation>
+    </message>
+    <message>
+        <source>Zoom out</source>
+        <translation>Уменьшить масштаб</translation>
+    </message>
+    <message>
+        <source>Reset zoom to 100%</source>
+        <translation>Сбросить масштаб до 100%</translation>
     </message>
 </context>
 <context>

@@ -403,6 +403,14 @@
         <source>Save…</source>
         <translation>Spara…</translation>
     </message>
+    <message>
+        <source>px</source>
+        <translation>px</translation>
+    </message>
+    <message>
+        <source>%</source>
+        <translation>%</translation>
+    </message>
 </context>
 <context>
     <name>ExportPreview</name>
@@ -717,7 +725,7 @@
 <context>
     <name>LanguageMenu</name>
     <message>
-        <source>&amp;Language</source>
+        <source>Lan&amp;guage</source>
         <translation>&amp;Språk</translation>
     </message>
 </context>
@@ -1187,6 +1195,10 @@ Det redigerbara dokumentet sparades som %2.</translation>
         <source>Create</source>
         <translation>Skapa</translation>
     </message>
+    <message>
+        <source>px</source>
+        <translation>px</translation>
+    </message>
 </context>
 <context>
     <name>NewDocumentPreset</name>
@@ -1558,10 +1570,6 @@ Logg:
         <translation>Redigera rastermarkeringens bana</translation>
     </message>
     <message>
-        <source>&amp;Clear Raster Selection</source>
-        <translation>Ren&amp;sa rastermarkering</translation>
-    </message>
-    <message>
         <source>Clear the raster selection</source>
         <translation>Rensa rastermarkeringen</translation>
     </message>
@@ -1572,6 +1580,10 @@ Logg:
     <message>
         <source>E&amp;xtract Selection to New Layer</source>
         <translation>E&amp;xtrahera markering till nytt lager</translation>
+    </message>
+    <message>
+        <source>C&amp;lear Raster Selection</source>
+        <translation>Ren&amp;sa rastermarkering</translation>
     </message>
 </context>
 <context>
@@ -1831,20 +1843,16 @@ Logg:
         <translation>Inget lager markerat</translation>
     </message>
     <message>
-        <source>Zoom out</source>
-        <translation>Zooma ut</translation>
-    </message>
-    <message>
         <source>%1%</source>
         <translation>%1 %</translation>
     </message>
     <message>
-        <source>Reset zoom to 100%</source>
-        <translation>Återställ zoomen till 100 %</translation>
+        <source>-</source>
+        <translation>-</translation>
     </message>
     <message>
-        <source>Zoom in</source>
-        <translation>Zooma in</translation>
+        <source>+</source>
+        <translation>+</translation>
     </message>
 </context>
 <context>
@@ -2128,6 +2136,18 @@ Logg:
     <message>
         <source>&amp;Dark</source>
         <translation>&amp;Mörkt</translation>
+    </message>
+    <message>
+        <source>Zoom in</source>
+        <translation>Zooma in</translation>
+    </message>
+    <message>
+        <source>Zoom out</source>
+        <translation>Zooma ut</translation>
+    </message>
+    <message>
+        <source>Reset zoom to 100%</source>
+        <translation>Återställ zoomen till 100 %</translation>
     </message>
 </context>
 <context>

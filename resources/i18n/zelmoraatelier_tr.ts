@@ -403,6 +403,14 @@
         <source>Save…</source>
         <translation>Kaydet…</translation>
     </message>
+    <message>
+        <source>px</source>
+        <translation>px</translation>
+    </message>
+    <message>
+        <source>%</source>
+        <translation>%</translation>
+    </message>
 </context>
 <context>
     <name>ExportPreview</name>
@@ -717,7 +725,7 @@
 <context>
     <name>LanguageMenu</name>
     <message>
-        <source>&amp;Language</source>
+        <source>Lan&amp;guage</source>
         <translation>Di&amp;l</translation>
     </message>
 </context>
@@ -1187,6 +1195,10 @@ Düzenlenebilir belge şu adla kaydedildi: %2.</translation>
         <source>Create</source>
         <translation>Oluştur</translation>
     </message>
+    <message>
+        <source>px</source>
+        <translation>px</translation>
+    </message>
 </context>
 <context>
     <name>NewDocumentPreset</name>
@@ -1558,10 +1570,6 @@ Günlük:
         <translation>Raster seçimin yolunu düzenle</translation>
     </message>
     <message>
-        <source>&amp;Clear Raster Selection</source>
-        <translation>Raster Seçimi Te&amp;mizle</translation>
-    </message>
-    <message>
         <source>Clear the raster selection</source>
         <translation>Raster seçimi temizle</translation>
     </message>
@@ -1572,6 +1580,10 @@ Günlük:
     <message>
         <source>E&amp;xtract Selection to New Layer</source>
         <translation>Seçimi &amp;Yeni Katmana Çıkar</translation>
+    </message>
+    <message>
+        <source>C&amp;lear Raster Selection</source>
+        <translation>Raster Seçimi Te&amp;mizle</translation>
     </message>
 </context>
 <context>
@@ -1831,20 +1843,16 @@ Günlük:
         <translation>Katman seçilmedi</translation>
     </message>
     <message>
-        <source>Zoom out</source>
-        <translation>Uzaklaştır</translation>
-    </message>
-    <message>
         <source>%1%</source>
         <translation>%%1</translation>
     </message>
     <message>
-        <source>Reset zoom to 100%</source>
-        <translation>Yakınlaştırmayı yüzde yüze sıfırla</translation>
+        <source>-</source>
+        <translation>-</translation>
     </message>
     <message>
-        <source>Zoom in</source>
-        <translation>Yakınlaştır</translation>
+        <source>+</source>
+        <translation>+</translation>
     </message>
 </context>
 <context>
@@ -2128,6 +2136,18 @@ Günlük:
     <message>
         <source>&amp;Dark</source>
         <translation>&amp;Koyu</translation>
+    </message>
+    <message>
+        <source>Zoom in</source>
+        <translation>Yakınlaştır</translation>
+    </message>
+    <message>
+        <source>Zoom out</source>
+        <translation>Uzaklaştır</translation>
+    </message>
+    <message>
+        <source>Reset zoom to 100%</source>
+        <translation>Yakınlaştırmayı yüzde yüze sıfırla</translation>
     </message>
 </context>
 <context>
