@@ -187,11 +187,11 @@ private slots:
         QTest::qWait(100);
         QCOMPARE(document().objectCount(), 0);
         m_driver->key(Qt::Key_Escape);
-        QTRY_COMPARE(layerNames(), QStringList(u"a"_s));
+        QTRY_COMPARE(m_driver->layerNames(), QStringList(u"a"_s));
         QTRY_VERIFY(m_driver->item(u"Unable to Open File"_s));
-        QCOMPARE(layerNames(), QStringList(u"a"_s));
+        QCOMPARE(m_driver->layerNames(), QStringList(u"a"_s));
         m_driver->key(Qt::Key_Return);
-        QTRY_COMPARE(layerNames(), QStringList(u"b"_s));
+        QTRY_COMPARE(m_driver->layerNames(), QStringList(u"b"_s));
 
         makeDirty();
         m_driver->application().addFileOpenRequest(file(u"a.png"_s));
@@ -199,21 +199,21 @@ private slots:
         m_driver->application().addFileOpenRequest(file(u"b.png"_s)); // waits its turn, and asks too
         m_driver->drop({file(u"a.png"_s)});                           // nobody's turn
         QVERIFY(m_driver->click(u"Open Anyway"_s));
-        QTRY_COMPARE(layerNames(), QStringList(u"a"_s));
-        QTRY_COMPARE(layerNames(), QStringList(u"b"_s));
+        QTRY_COMPARE(m_driver->layerNames(), QStringList(u"a"_s));
+        QTRY_COMPARE(m_driver->layerNames(), QStringList(u"b"_s));
     }
 
     void droppedFilesBecomeLayersOrTheDocument()
     {
         m_driver->drop({file(u"a.png"_s), file(u"bad.png"_s), file(u"b.png"_s)});
         QTRY_VERIFY(m_driver->shows("imageLoadErrorDialog"));
-        QCOMPARE(layerNames(), QStringList(u"a"_s));
+        QCOMPARE(m_driver->layerNames(), QStringList(u"a"_s));
         m_driver->key(Qt::Key_Return);
         saveAs(file(u"dropped.jpg"_s));
         QTRY_VERIFY(QFile::exists(m_folder.filePath(u"dropped.zelmora"_s)));
         QVERIFY(m_driver->context().documentFileController.resetDocument(50, 50, Qt::white));
         m_driver->drop({file(u"b.png"_s), file(u"dropped.zelmora"_s)});
-        QTRY_COMPARE(layerNames(), QStringList(u"a"_s));
+        QTRY_COMPARE(m_driver->layerNames(), QStringList(u"a"_s));
     }
 
     void recentFileThatIsGoneLeavesTheMenu()
@@ -236,7 +236,7 @@ private slots:
     {
         QVERIFY(m_driver->click(u"Image"_s));
         QVERIFY(m_driver->chooseFile("imageFileDialog", file(u"a.png"_s)));
-        QTRY_COMPARE(layerNames(), QStringList(u"a"_s));
+        QTRY_COMPARE(m_driver->layerNames(), QStringList(u"a"_s));
         QCOMPARE(m_driver->context().applicationSettings.imageImportFolderUrl(), QUrl::fromLocalFile(m_folder.path()));
         QVERIFY(!m_driver->context().documentFileController.hasDocumentUrl());
     }
@@ -261,14 +261,6 @@ private:
         m_driver->key(Qt::Key_R);
         QTRY_VERIFY(m_driver->item(u"1. recent.zelmora"_s));
         m_driver->key(Qt::Key_Return);
-    }
-
-    QStringList layerNames()
-    {
-        QStringList names;
-        for (qsizetype index = 0; index < document().objectCount(); ++index)
-            names.append(document().objectAt(index)->name());
-        return names;
     }
 
     QTemporaryDir m_folder;

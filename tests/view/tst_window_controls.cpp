@@ -125,7 +125,7 @@ private slots:
         const QPointF top = m_driver->centre(m_driver->item(u"top"_s));
         const QPointF bottom = m_driver->centre(m_driver->item(u"bottom"_s));
         m_driver->drag(top, bottom + QPointF(0, 8));
-        QTRY_COMPARE(names(), QStringList({u"top"_s, u"bottom"_s, u"middle"_s}));
+        QTRY_COMPARE(m_driver->layerNames(), QStringList({u"top"_s, u"bottom"_s, u"middle"_s}));
         QCOMPARE(document().selectedObject()->name(), u"top"_s);
         QTest::qWait(200); // rows glide to their places
 
@@ -133,7 +133,7 @@ private slots:
                            m_driver->centre(m_driver->item(u"middle"_s)).toPoint());
         for (Qt::Key key : {Qt::Key_X, Qt::Key_Y, Qt::Key_Return})
             m_driver->key(key);
-        QTRY_COMPARE(names(), QStringList({u"top"_s, u"bottom"_s, u"xy"_s}));
+        QTRY_COMPARE(m_driver->layerNames(), QStringList({u"top"_s, u"bottom"_s, u"xy"_s}));
 
         QVERIFY(m_driver->named(u"Hide layer"_s));
         m_driver->click(m_driver->named(u"Hide layer"_s)); // of one of the rows
@@ -143,7 +143,7 @@ private slots:
         QCOMPARE(history.count(), 3);
         for (int step = 0; step < 3; ++step)
             history.undo();
-        QCOMPARE(names(), QStringList({u"bottom"_s, u"middle"_s, u"top"_s}));
+        QCOMPARE(m_driver->layerNames(), QStringList({u"bottom"_s, u"middle"_s, u"top"_s}));
     }
 
     void gesturesOfThePanelsAreOneStepEach()
@@ -187,14 +187,6 @@ private slots:
 
 private:
     Document &document() { return m_driver->context().document; }
-
-    QStringList names()
-    {
-        QStringList names;
-        for (qsizetype index = 0; index < document().objectCount(); ++index)
-            names.append(document().objectAt(index)->name());
-        return names;
-    }
 
     int hiddenCount()
     {

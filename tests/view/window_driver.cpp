@@ -72,6 +72,14 @@ bool WindowDriver::open()
     return QTest::qWaitForWindowActive(m_window);
 }
 
+QStringList WindowDriver::layerNames() const
+{
+    QStringList names;
+    for (qsizetype index = 0; index < m_context->document.objectCount(); ++index)
+        names.append(m_context->document.objectAt(index)->name());
+    return names;
+}
+
 QQuickItem *WindowDriver::itemWhere(const std::function<bool(QQuickItem *)> &matches) const
 {
     QQuickItem *found = nullptr;

@@ -25,6 +25,8 @@ public:
 
     ApplicationContext &context() { return *m_context; }
     Application &application() const;
+    /// Of the document, from the bottom up.
+    QStringList layerNames() const;
     QQuickWindow *window() const { return m_window; }
     /// What QML had to complain about; also printed.
     const QList<QQmlError> &warnings() const { return m_warnings; }
