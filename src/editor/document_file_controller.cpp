@@ -6,6 +6,7 @@
 #include "io/document_opening.h"
 #include "io/file_names.h"
 #include "io/image_import.h"
+#include "io/opening_estimate.h"
 
 #include <QDir>
 #include <QFileInfo>
@@ -72,6 +73,11 @@ bool DocumentFileController::load(const QUrl &url)
         return loadDocument(path, {});
     const QString sidecar = QFileInfo(path).isFile() ? sidecarPath(path) : QString();
     return QFileInfo(sidecar).isFile() ? loadDocument(sidecar, absoluteUrl(path)) : importImage(path);
+}
+
+bool DocumentFileController::opensSlowly(const QUrl &url) const
+{
+    return url.isLocalFile() && zm::opensSlowly(url.toLocalFile());
 }
 
 bool DocumentFileController::loadDocument(const QString &path, const QUrl &pairedImageUrl)

@@ -57,6 +57,9 @@ public:
     /// compressImages embeds pictures with loss. The paired picture stays only if the file is the one it was.
     bool saveTo(const QUrl &url, bool compressImages);
 
+    /// Whether opening the file, or inserting it, is expected to take long enough to show that it runs.
+    Q_INVOKABLE bool opensSlowly(const QUrl &url) const;
+
     /// A local URL as a native path.
     Q_INVOKABLE QString displayPath(const QUrl &url) const;
     /// The last component of the path.

@@ -142,7 +142,7 @@ ApplicationWindow {
                 applicationFileOpenErrorPending = requested
                 windowDialogs.documentFileErrorDialog.open()
             }
-        })
+        }, documentFileController.opensSlowly(url))
     }
 
     function loadChosenFile(url) {
@@ -154,7 +154,7 @@ ApplicationWindow {
             if (!documentFileController.hasDocumentUrl)
                 applicationSettings.rememberImageImportFolder(url)
             fitLoadedDocumentToView()
-        })
+        }, documentFileController.opensSlowly(url))
     }
 
     function loadRecentDocument(path) {
@@ -165,14 +165,14 @@ ApplicationWindow {
                 applicationSettings.removeRecentFile(path)
                 windowDialogs.documentFileErrorDialog.open()
             }
-        })
+        }, documentFileController.opensSlowly(applicationSettings.recentFileUrl(path)))
     }
 
     // --- Files that the system asks to open ---
 
     // Carries out work that holds the thread, once a frame has told of it.
     function carryOut(work) {
-        busyCover.during(work)
+        busyCover.during(work, true)
     }
 
     // Takes the oldest request, if nothing stands in the way. Whatever ends a request calls this again.
@@ -225,7 +225,7 @@ ApplicationWindow {
                 windowDialogs.exportErrorDialog.open()
                 abandonPendingUnsavedAction()
             }
-        })
+        }, true)
     }
 
     function showSaveSucceeded(imageUrl) {
@@ -250,7 +250,7 @@ ApplicationWindow {
             else
                 windowDialogs.imageLoadErrorDialog.open()
             actionContext.activateSelectionMode()
-        })
+        }, documentFileController.opensSlowly(url))
     }
 
     function handleDroppedFiles(urls) {
@@ -273,7 +273,7 @@ ApplicationWindow {
                 windowDialogs.imageLoadErrorDialog.open()
             if (failed !== 0 && urls.length > 0)
                 actionContext.activateSelectionMode()
-        })
+        }, urls.length > 1 || urls.some(url => documentFileController.opensSlowly(url)))
     }
 
     // --- View ---

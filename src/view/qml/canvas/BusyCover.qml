@@ -1,23 +1,25 @@
 import QtQuick
+import ZelmoraAtelier
 
-// Lies over the canvas while work holds the interface's thread, and shows a turning ring once that takes long. Its
-// animations run on the thread that draws, so they go on meanwhile.
+// Carries out work that holds the interface's thread. The pointer tells of it at once; of work that is expected to take
+// long a turning ring tells, too, over the canvas. The ring's animations run on the thread that draws, so they go on
+// meanwhile; they cost a frame before the work begins, and without a graphics card some of the processor.
 Item {
     id: root
 
     readonly property bool running: works.length > 0
-    property var works: []
+    property var works: []      // maps with work, a function, and slow
+    readonly property bool showsRing: running && works[0].slow
 
     signal finished()
 
-    // Carries `work` out after the next frame, which shows the cover.
-    function during(work) {
-        works = works.concat([work])
+    function during(work, slow) {
+        works = works.concat([{ work, slow }])
     }
 
     function carryOutNext() {
         try {
-            works[0]()
+            works[0].work()
         } finally {
             works = works.slice(1)
             if (!running)
@@ -25,25 +27,29 @@ Item {
         }
     }
 
-    visible: running
+    visible: showsRing
     Accessible.role: Accessible.Indicator
     Accessible.name: qsTr("Busy")
     Accessible.ignored: !running
 
-    // The cover is on the screen.
+    BusyPointer {
+        active: root.running
+    }
+
+    // The ring is on the screen.
     Connections {
         target: root.Window.window
-        enabled: root.running
+        enabled: root.showsRing
 
         function onFrameSwapped() {
-            if (root.running)
+            if (root.showsRing)
                 root.carryOutNext()
         }
     }
 
-    // A window that is not shown has no frames.
+    // Without a ring there is no frame to wait for, and a window that is not shown has none.
     Timer {
-        interval: 50
+        interval: root.showsRing ? 50 : 1
         repeat: true
         running: root.running
         onTriggered: root.carryOutNext()
@@ -52,7 +58,6 @@ Item {
     MouseArea {
         anchors.fill: parent
         acceptedButtons: Qt.AllButtons
-        cursorShape: Qt.BusyCursor
         onWheel: wheel => wheel.accepted = true
     }
 
@@ -70,12 +75,12 @@ Item {
             to: 1
             duration: 2 * Theme.busyDelayMs
             easing.type: Easing.InQuint
-            running: root.running
+            running: root.showsRing
         }
 
         Ring {
             anchors.centerIn: parent
-            turning: root.running
+            turning: root.showsRing
         }
     }
 }
