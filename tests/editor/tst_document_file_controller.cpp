@@ -206,6 +206,26 @@ private slots:
         QCOMPARE(fixture.document.backgroundColor(), accepted && color.isValid() ? color : QColor(Qt::white));
     }
 
+    void tellsWhatOpensSlowlyFromTheHeadOfTheFile()
+    {
+        const QTemporaryDir folder;
+        const auto slow = [&folder](const QSize &size, const QString &name) {
+            QImage picture(size, QImage::Format_Mono); // little to write, and as many pixels to decode
+            picture.fill(0);
+            const QString path = folder.filePath(name);
+            Document document;
+            CommandHistory history{&document};
+            return picture.save(path)
+                && DocumentFileController(&document, &history).opensSlowly(QUrl::fromLocalFile(path));
+        };
+        QVERIFY(!slow({2000, 2000}, u"small.png"_s));
+        QVERIFY(slow({6000, 4000}, u"large.png"_s));
+        QVERIFY(!slow({6000, 4000}, u"large.jpg"_s)); // decodes several times faster
+        Document document;
+        CommandHistory history{&document};
+        QVERIFY(!DocumentFileController(&document, &history).opensSlowly(QUrl(u"https://example.org/a.png"_s)));
+    }
+
     void showsUrls()
     {
         const Fixture fixture;

@@ -172,8 +172,13 @@ private slots:
         QTRY_VERIFY(exporter().previewReady());
         m_driver->key(Qt::Key_Return);
         QTRY_VERIFY(m_driver->shows("exportFileDialog"));
+        const qsizetype before = document().objectCount();
+        m_driver->click(m_driver->item(u"Text"_s)); // beside a dialog that may be a window of its own
+        m_driver->key(Qt::Key_Z, Qt::ControlModifier);
+        QCOMPARE(document().objectCount(), before);
         QMetaObject::invokeMethod(m_driver->dialog("exportFileDialog"), "reject");
         QTRY_VERIFY(!m_driver->shows("exportFileDialog"));
+        QTRY_VERIFY(m_driver->named(u"Canvas"_s)->hasActiveFocus());
         QVERIFY(!exporter().previewReady());
         QVERIFY(!exporter().hasSessionExport());
     }

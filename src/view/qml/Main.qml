@@ -170,11 +170,6 @@ ApplicationWindow {
 
     // --- Files that the system asks to open ---
 
-    // Carries out work that holds the thread, once a frame has told of it.
-    function carryOut(work) {
-        busyCover.during(work, true)
-    }
-
     // Takes the oldest request, if nothing stands in the way. Whatever ends a request calls this again.
     function processPendingApplicationFileOpenRequest() {
         if (applicationFileOpenActive || pendingUnsavedAction !== noPendingUnsavedAction
@@ -205,6 +200,11 @@ ApplicationWindow {
 
     // --- Saving ---
 
+    // Carries out work that holds the thread, once a frame has told of it.
+    function carryOut(work) {
+        busyCover.during(work, true)
+    }
+
     function finishSave(imageUrl) {
         windowDialogs.saveProgressDialog.close()
         if (pendingUnsavedAction !== noPendingUnsavedAction && commandHistory.clean) {
@@ -217,7 +217,7 @@ ApplicationWindow {
     }
 
     function exportTo(url) {
-        busyCover.during(() => {
+        carryOut(() => {
             if (exportController.exportTo(url)) {
                 applicationSettings.rememberExportFolder(url)
             } else {
@@ -225,7 +225,7 @@ ApplicationWindow {
                 windowDialogs.exportErrorDialog.open()
                 abandonPendingUnsavedAction()
             }
-        }, true)
+        })
     }
 
     function showSaveSucceeded(imageUrl) {
@@ -465,6 +465,7 @@ ApplicationWindow {
         id: workspaceSplitView
 
         anchors.fill: parent
+        enabled: !windowDialogs.fileDialogOpen      // which may be a window beside this one
         handle: Item {
             implicitWidth: Theme.spaceXS
             // Wider than it looks, so that it can be taken hold of.

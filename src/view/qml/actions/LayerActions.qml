@@ -15,6 +15,7 @@ QtObject {
         text: qsTr("&Image")
         toolTip: qsTr("Insert an image as a new layer")
         icon.name: "insert_image"
+        enabled: !root.context.dialogs.fileDialogOpen
         onTriggered: root.context.dialogs.openImageFileDialog()
     }
 
@@ -34,6 +35,7 @@ QtObject {
         toolTip: qsTr("Insert a text layer")
         toolKey: "T"
         icon.name: "insert_text"
+        enabled: !root.context.dialogs.fileDialogOpen
         onTriggered: {
             root.editor.addText()
             root.context.activateSelectionMode()
@@ -45,6 +47,7 @@ QtObject {
         toolTip: qsTr("Insert a shape or sticker")
         toolKey: "U"
         icon.name: "insert_shape"
+        enabled: !root.context.dialogs.fileDialogOpen
         onTriggered: root.context.dialogs.shapePickerDialog.open()
     }
 

@@ -22,14 +22,13 @@ QtObject {
 
     readonly property real controlHeight: 28
     readonly property real toolButtonSize: 32
-    readonly property real rowHeight: 34
     readonly property real radius: 5
     readonly property real largeRadius: 9
     readonly property real focusWidth: 2
     readonly property int iconSize: 16
     readonly property int toolIconSize: 24
     readonly property int fadeMs: 90
-    readonly property int busyDelayMs: 150       // shorter work shows no sign of it
+    readonly property int busyDelayMs: 150       // shorter work shows no ring
 
     readonly property bool dark: palette.window.hslLightness < 0.5
     readonly property color text: palette.windowText

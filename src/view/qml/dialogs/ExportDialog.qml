@@ -106,7 +106,7 @@ ZmDialog {
                     visible: root.controller.prefersTransparentExport
                     text: qsTr("This image contains transparency. Choose a transparent-background format to preserve it.")
                     font.pixelSize: Theme.fontSmall
-                    color: Theme.danger
+                    color: root.controller.transparentBackground ? Theme.mutedText : Theme.danger
                     wrapMode: Text.Wrap
                     textFormat: Text.PlainText
                 }
