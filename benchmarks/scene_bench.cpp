@@ -1,9 +1,9 @@
 #include "scene_bench.h"
 
-#include "document/blend_modes.h"
 #include "document/document.h"
 #include "document/scene_presentation_model.h"
 #include "pictures.h"
+#include "values/blend_modes.h"
 
 #include <QPainter>
 

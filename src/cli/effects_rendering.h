@@ -1,11 +1,11 @@
 #pragma once
 
 #include "document/scene_snapshot.h"
-#include "filters/filter_instance.h"
 #include "filters/filter_result_cache.h"
 #include "generators/bundled_texture_loader.h"
 #include "rendering/opengl_texture_renderer.h"
 #include "rendering/render_services.h"
+#include "values/filter_instance.h"
 
 namespace zm::cli {
 

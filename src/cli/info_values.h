@@ -1,6 +1,6 @@
 #pragma once
 
-#include "filters/parameter_values.h"
+#include "values/parameter_values.h"
 
 #include <QJsonArray>
 #include <QJsonObject>

@@ -2,12 +2,12 @@
 #include "cli/arguments.h"
 #include "cli/commands.h"
 #include "cli/parameter_text.h"
-#include "document/editable_path.h"
 #include "generators/outline_stroke.h"
 #include "generators/shape_generator.h"
 #include "generators/shape_generator_registry.h"
 #include "generators/shape_preview.h"
 #include "io/image_export.h"
+#include "values/editable_path.h"
 
 #include <QBuffer>
 #include <QFileInfo>

@@ -1,8 +1,8 @@
 #pragma once
 
-#include "document/editable_path.h"
 #include "document/image_layer_source.h"
 #include "document/layer.h"
+#include "values/editable_path.h"
 
 namespace zm {
 
@@ -11,7 +11,8 @@ namespace zm {
 enum class RasterSurfacePolicy : qint32 { Fixed = 0, Expanding = 1 };
 
 /// The raster selection as an image layer of that size keeps it, in layer-local pixels: odd-even, without contours that
-/// have no node, clamped into the layer, and as cleanedPath() tells. Nothing when no node is left or the layer is empty.
+/// have no node, clamped into the layer, and as cleanedPath() tells. Nothing when no node is left or the layer is
+/// empty.
 std::optional<EditablePath> normalizedRasterSelection(const std::optional<EditablePath> &selection,
                                                       const QSizeF &layerSize);
 

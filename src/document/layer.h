@@ -1,7 +1,7 @@
 #pragma once
 
 #include "document/scene_object.h"
-#include "filters/filter_instance.h"
+#include "values/filter_instance.h"
 
 #include <QImage>
 #include <QList>

@@ -1,6 +1,6 @@
 #pragma once
 
-#include "document/object_transform.h"
+#include "values/object_transform.h"
 
 #include <QString>
 #include <QUuid>

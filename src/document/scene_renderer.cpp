@@ -1,10 +1,10 @@
 #include "document/scene_renderer.h"
 
 #include "base/pixel_limits.h"
-#include "document/blend_modes.h"
 #include "rendering/filter_utility_renderer.h"
 #include "rendering/render_services.h"
 #include "rendering/shader_texture_renderer.h"
+#include "values/blend_modes.h"
 
 #include <QPainter>
 

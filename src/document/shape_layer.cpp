@@ -3,9 +3,9 @@
 #include "base/fuzzy.h"
 #include "base/pixel_limits.h"
 #include "base/sanitize.h"
-#include "document/valid_color.h"
 #include "generators/outline_stroke.h"
 #include "generators/shape_generator_registry.h"
+#include "values/valid_color.h"
 
 #include <QPainter>
 

@@ -1,8 +1,8 @@
 #pragma once
 
-#include "document/editable_path.h"
-#include "document/fill.h"
 #include "document/layer.h"
+#include "values/editable_path.h"
+#include "values/fill.h"
 
 #include <variant>
 

@@ -1,7 +1,7 @@
 #include "document/text_state.h"
 
 #include "base/sanitize.h"
-#include "document/valid_color.h"
+#include "values/valid_color.h"
 
 #include <algorithm>
 #include <cmath>

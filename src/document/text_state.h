@@ -1,6 +1,6 @@
 #pragma once
 
-#include "document/fill.h"
+#include "values/fill.h"
 
 #include <QFont>
 #include <QList>

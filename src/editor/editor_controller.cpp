@@ -6,11 +6,11 @@
 #include "commands/command_history.h"
 #include "commands/object_list_commands.h"
 #include "document/document.h"
-#include "filters/parameter_definition.h"
 #include "generators/shape_generator.h"
 #include "generators/shape_generator_registry.h"
 #include "generators/shape_preview.h"
 #include "io/image_import.h"
+#include "values/parameter_definition.h"
 
 #include <algorithm>
 #include <cmath>

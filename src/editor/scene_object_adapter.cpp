@@ -3,8 +3,8 @@
 #include "commands/command_history.h"
 #include "commands/object_list_commands.h"
 #include "commands/object_property_commands.h"
-#include "document/blend_modes.h"
 #include "document/document.h"
+#include "values/blend_modes.h"
 
 #include <QCoreApplication>
 #include <QEvent>

@@ -1,9 +1,9 @@
 #include "editor/shape_preview_image_provider.h"
 
-#include "filters/parameter_definition.h"
 #include "generators/shape_generator.h"
 #include "generators/shape_generator_registry.h"
 #include "generators/shape_preview.h"
+#include "values/parameter_definition.h"
 
 #include <QPainter>
 

@@ -1,6 +1,6 @@
 #pragma once
 
-#include "filters/parameter_definition.h"
+#include "values/parameter_definition.h"
 
 #include <QByteArray>
 #include <QColor>

@@ -1,6 +1,6 @@
 #include "filters/filter_render.h"
 
-#include "filters/parameter_definition.h"
+#include "values/parameter_definition.h"
 
 #include <algorithm>
 #include <cmath>

@@ -1,9 +1,9 @@
 #pragma once
 
 #include "filters/library_uniform_block.h"
-#include "filters/parameter_values.h"
 #include "rendering/filter_utility_renderer.h"
 #include "rendering/render_services.h"
+#include "values/parameter_values.h"
 
 #include <QImage>
 #include <QRectF>

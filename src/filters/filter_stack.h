@@ -1,8 +1,8 @@
 #pragma once
 
-#include "document/editable_path.h"
-#include "filters/filter_instance.h"
 #include "filters/filter_render.h"
+#include "values/editable_path.h"
+#include "values/filter_instance.h"
 
 #include <QList>
 

@@ -1,8 +1,8 @@
 #include "filters/shape_mask.h"
 
-#include "document/editable_path.h"
 #include "generators/shape_generator.h"
 #include "generators/shape_generator_registry.h"
+#include "values/editable_path.h"
 
 #include <QPainter>
 

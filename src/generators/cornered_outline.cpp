@@ -1,7 +1,7 @@
 #include "generators/cornered_outline.h"
 
 #include "base/geometry.h"
-#include "document/editable_path_builder.h"
+#include "values/editable_path_builder.h"
 
 #include <algorithm>
 #include <cmath>

@@ -1,7 +1,7 @@
 #pragma once
 
-#include "document/editable_path.h"
 #include "generators/cubic_curve.h"
+#include "values/editable_path.h"
 
 namespace zm {
 

@@ -1,7 +1,7 @@
 #include "generators/curved_outlines.h"
 
 #include "base/geometry.h"
-#include "document/editable_path_builder.h"
+#include "values/editable_path_builder.h"
 
 #include <QTransform>
 

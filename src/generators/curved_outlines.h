@@ -1,6 +1,6 @@
 #pragma once
 
-#include "document/editable_path.h"
+#include "values/editable_path.h"
 
 namespace zm {
 

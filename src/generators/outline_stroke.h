@@ -1,7 +1,7 @@
 #pragma once
 
-#include "document/editable_path.h"
-#include "filters/compound_values.h"
+#include "values/compound_values.h"
+#include "values/editable_path.h"
 
 #include <QPen>
 #include <QSizeF>

@@ -1,6 +1,6 @@
 #include "generators/rounded_outlines.h"
 
-#include "document/editable_path_builder.h"
+#include "values/editable_path_builder.h"
 
 #include <algorithm>
 

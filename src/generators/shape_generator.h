@@ -1,7 +1,7 @@
 #pragma once
 
-#include "document/editable_path.h"
-#include "filters/parameter_definition.h"
+#include "values/editable_path.h"
+#include "values/parameter_definition.h"
 
 #include <QColor>
 #include <QCoreApplication>

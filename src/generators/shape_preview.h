@@ -1,7 +1,7 @@
 #pragma once
 
-#include "filters/compound_values.h"
-#include "filters/parameter_values.h"
+#include "values/compound_values.h"
+#include "values/parameter_values.h"
 
 #include <QImage>
 #include <QPainterPath>

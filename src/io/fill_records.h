@@ -1,7 +1,7 @@
 #pragma once
 
-#include "document/fill.h"
 #include "io/record_fields.h"
+#include "values/fill.h"
 
 namespace zm {
 

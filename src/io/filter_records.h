@@ -1,7 +1,7 @@
 #pragma once
 
-#include "filters/filter_instance.h"
 #include "io/record_fields.h"
+#include "values/filter_instance.h"
 
 namespace zm {
 

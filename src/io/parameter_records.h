@@ -1,7 +1,7 @@
 #pragma once
 
-#include "filters/parameter_values.h"
 #include "io/record_fields.h"
+#include "values/parameter_values.h"
 
 #include <QSet>
 

@@ -1,7 +1,7 @@
 #pragma once
 
-#include "document/editable_path.h"
 #include "io/record_fields.h"
+#include "values/editable_path.h"
 
 namespace zm {
 

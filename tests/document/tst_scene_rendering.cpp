@@ -1,6 +1,6 @@
-#include "document/blend_modes.h"
 #include "document/scene_renderer.h"
 #include "support/pictures.h"
+#include "values/blend_modes.h"
 
 #include <QtTest>
 

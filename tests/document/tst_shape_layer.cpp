@@ -1,9 +1,9 @@
-#include "document/editable_path_builder.h"
 #include "document/scene_renderer.h"
 #include "document/scene_snapshot.h"
 #include "generators/shape_generator_registry.h"
 #include "support/document_log.h"
 #include "support/pictures.h"
+#include "values/editable_path_builder.h"
 
 #include <QTest>
 

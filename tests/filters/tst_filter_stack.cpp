@@ -1,4 +1,3 @@
-#include "document/editable_path_builder.h"
 #include "filters/filter_registry.h"
 #include "filters/filter_result_cache.h"
 #include "filters/filter_stack.h"
@@ -6,6 +5,7 @@
 #include "filters/shape_mask.h"
 #include "rendering/opengl_texture_renderer.h"
 #include "support/pictures.h"
+#include "values/editable_path_builder.h"
 
 #include <QPainterPath>
 #include <QTest>

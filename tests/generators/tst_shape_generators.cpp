@@ -1,7 +1,7 @@
-#include "document/fill.h"
 #include "document/shape_layer.h"
 #include "generators/shape_generator_registry.h"
 #include "generators/shape_preview.h"
+#include "values/fill.h"
 
 #include <QSet>
 #include <QTest>

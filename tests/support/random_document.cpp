@@ -1,8 +1,8 @@
 #include "support/random_document.h"
 
-#include "document/blend_modes.h"
 #include "filters/filter_registry.h"
 #include "support/pictures.h"
+#include "values/blend_modes.h"
 
 #include <cmath>
 

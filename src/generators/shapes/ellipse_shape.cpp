@@ -1,6 +1,6 @@
-#include "document/editable_path_builder.h"
 #include "generators/shape_generator.h"
 #include "generators/shape_generators.h"
+#include "values/editable_path_builder.h"
 
 using namespace Qt::StringLiterals;
 

@@ -1,7 +1,7 @@
 #include "base/geometry.h"
-#include "document/editable_path_builder.h"
 #include "generators/shape_generator.h"
 #include "generators/shape_generators.h"
+#include "values/editable_path_builder.h"
 
 #include <algorithm>
 #include <cmath>

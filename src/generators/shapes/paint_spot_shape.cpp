@@ -1,9 +1,9 @@
 #include "base/geometry.h"
-#include "document/editable_path_builder.h"
 #include "generators/curved_outlines.h"
 #include "generators/rounded_outlines.h"
 #include "generators/shape_generator.h"
 #include "generators/shape_generators.h"
+#include "values/editable_path_builder.h"
 
 #include <algorithm>
 #include <array>

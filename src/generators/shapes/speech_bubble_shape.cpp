@@ -1,10 +1,10 @@
 #include "base/geometry.h"
-#include "document/editable_path_builder.h"
 #include "generators/bubble_box.h"
 #include "generators/cubic_curve.h"
 #include "generators/rounded_outlines.h"
 #include "generators/shape_generator.h"
 #include "generators/shape_generators.h"
+#include "values/editable_path_builder.h"
 
 #include <algorithm>
 #include <array>

@@ -1,6 +1,6 @@
 #pragma once
 
-#include "filters/compound_values.h"
+#include "values/compound_values.h"
 
 #include <QMap>
 

@@ -1,7 +1,7 @@
 #pragma once
 
-#include "document/gradient_fill.h"
-#include "filters/parameter_values.h"
+#include "values/gradient_fill.h"
+#include "values/parameter_values.h"
 
 #include <QBrush>
 #include <QImage>

@@ -1,4 +1,4 @@
-#include "document/editable_path.h"
+#include "values/editable_path.h"
 
 #include "base/sanitize.h"
 

@@ -1,7 +1,7 @@
-#include "document/fill.h"
+#include "values/fill.h"
 
 #include "base/fuzzy.h"
-#include "document/valid_color.h"
+#include "values/valid_color.h"
 
 #include <QLinearGradient>
 #include <QRadialGradient>

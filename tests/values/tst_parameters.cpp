@@ -1,4 +1,4 @@
-#include "filters/parameter_definition.h"
+#include "values/parameter_definition.h"
 
 #include <QTest>
 

@@ -1,4 +1,4 @@
-#include "document/blend_modes.h"
+#include "values/blend_modes.h"
 
 #include <QCoreApplication>
 

@@ -1,4 +1,4 @@
-#include "filters/parameter_values.h"
+#include "values/parameter_values.h"
 
 #include <algorithm>
 #include <cmath>

@@ -1,4 +1,4 @@
-#include "document/object_transform.h"
+#include "values/object_transform.h"
 
 #include "base/fuzzy.h"
 #include "base/sanitize.h"

@@ -1,8 +1,8 @@
-#include "document/gradient_fill.h"
+#include "values/gradient_fill.h"
 
 #include "base/geometry.h"
 #include "base/sanitize.h"
-#include "document/valid_color.h"
+#include "values/valid_color.h"
 
 #include <algorithm>
 #include <cmath>

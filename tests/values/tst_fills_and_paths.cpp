@@ -1,5 +1,5 @@
-#include "document/editable_path_builder.h"
-#include "document/fill.h"
+#include "values/editable_path_builder.h"
+#include "values/fill.h"
 
 #include <QGradient>
 #include <QRandomGenerator>

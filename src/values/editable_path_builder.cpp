@@ -1,4 +1,4 @@
-#include "document/editable_path_builder.h"
+#include "values/editable_path_builder.h"
 
 #include "base/fuzzy.h"
 #include "base/geometry.h"
