@@ -1,7 +1,7 @@
 #include "application/application.h"
 
-#include "application/application_log.h"
 #include "application/languages.h"
+#include "services/application_log.h"
 
 #include <QDebug>
 #include <QDir>

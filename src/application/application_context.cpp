@@ -1,10 +1,10 @@
 #include "application/application_context.h"
 
 #include "application/application.h"
-#include "application/user_notification_center.h"
 #include "editor/export_preview_image_provider.h"
 #include "editor/layer_thumbnail_provider.h"
 #include "editor/shape_preview_image_provider.h"
+#include "services/user_notification_center.h"
 
 #include <QQmlContext>
 #include <QQmlEngine>

@@ -3,7 +3,6 @@
 #include "application/application_info_controller.h"
 #include "application/application_settings.h"
 #include "application/application_theme_controller.h"
-#include "application/runtime_flags.h"
 #include "commands/command_history.h"
 #include "document/document.h"
 #include "document/scene_presentation_model.h"
@@ -22,7 +21,8 @@
 #include "filters/filter_result_cache.h"
 #include "generators/bundled_texture_loader.h"
 #include "rendering/opengl_texture_renderer.h"
-#include "rendering/render_services.h"
+#include "services/render_services.h"
+#include "services/runtime_flags.h"
 
 class QQmlContext;
 class QQmlEngine;

@@ -1,6 +1,6 @@
 #include "application/application_info_controller.h"
 
-#include "application/application_log.h"
+#include "services/application_log.h"
 
 #include <QCoreApplication>
 #include <QDate>

@@ -4,7 +4,7 @@
 #include "filters/filter_result_cache.h"
 #include "generators/bundled_texture_loader.h"
 #include "rendering/opengl_texture_renderer.h"
-#include "rendering/render_services.h"
+#include "services/render_services.h"
 #include "values/filter_instance.h"
 
 namespace zm::cli {

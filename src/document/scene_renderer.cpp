@@ -2,8 +2,8 @@
 
 #include "base/pixel_limits.h"
 #include "rendering/filter_utility_renderer.h"
-#include "rendering/render_services.h"
 #include "rendering/shader_texture_renderer.h"
+#include "services/render_services.h"
 #include "values/blend_modes.h"
 
 #include <QPainter>

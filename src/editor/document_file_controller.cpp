@@ -1,12 +1,12 @@
 #include "editor/document_file_controller.h"
 
-#include "application/runtime_flags.h"
 #include "commands/command_history.h"
 #include "document/document.h"
 #include "io/document_opening.h"
 #include "io/file_names.h"
 #include "io/image_import.h"
 #include "io/opening_estimate.h"
+#include "services/runtime_flags.h"
 
 #include <QDir>
 #include <QFileInfo>

@@ -1,6 +1,5 @@
 #include "editor/editor_controller.h"
 
-#include "application/runtime_flags.h"
 #include "base/fuzzy.h"
 #include "base/sanitize.h"
 #include "commands/command_history.h"
@@ -10,6 +9,7 @@
 #include "generators/shape_generator_registry.h"
 #include "generators/shape_preview.h"
 #include "io/image_import.h"
+#include "services/runtime_flags.h"
 #include "values/parameter_definition.h"
 
 #include <algorithm>

@@ -6,7 +6,7 @@
 #include <QProcess>
 
 #if defined(Q_OS_UNIX) && !defined(Q_OS_MACOS)
-#include "application/user_notification_center.h"
+#include "services/user_notification_center.h"
 
 #include <QDBusConnection>
 #include <QDBusMessage>

@@ -2,7 +2,7 @@
 
 #include "filters/filter_definition.h"
 #include "rendering/filter_utility_renderer.h"
-#include "rendering/render_services.h"
+#include "services/render_services.h"
 
 using namespace Qt::StringLiterals;
 

@@ -2,7 +2,7 @@
 
 #include "filters/library_uniform_block.h"
 #include "rendering/filter_utility_renderer.h"
-#include "rendering/render_services.h"
+#include "services/render_services.h"
 #include "values/parameter_values.h"
 
 #include <QImage>

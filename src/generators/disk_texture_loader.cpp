@@ -1,6 +1,6 @@
 #include "generators/disk_texture_loader.h"
 
-#include "application/user_notification_center.h"
+#include "services/user_notification_center.h"
 
 #include <QDir>
 #include <QFile>

@@ -1,7 +1,7 @@
 #include "rendering/opengl_program.h"
 
-#include "application/user_notification_center.h"
 #include "rendering/shader_stage.h"
+#include "services/user_notification_center.h"
 
 #include <QLoggingCategory>
 #include <QOpenGLContext>

@@ -1,9 +1,9 @@
 #include "application/application.h"
-#include "application/application_log.h"
 #include "application/application_settings.h"
 #include "application/application_theme_controller.h"
 #include "application/process_start.h"
 #include "application/theme_palettes.h"
+#include "services/application_log.h"
 
 #include <QDir>
 #include <QFile>

@@ -1,8 +1,8 @@
-#include "application/runtime_flags.h"
 #include "commands/command_history.h"
 #include "commands/object_property_commands.h"
 #include "document/document.h"
 #include "editor/document_file_controller.h"
+#include "services/runtime_flags.h"
 #include "support/pictures.h"
 
 #include <QDir>

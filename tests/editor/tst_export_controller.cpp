@@ -9,7 +9,7 @@
 #include "filters/filter_registry.h"
 #include "filters/filter_result_cache.h"
 #include "rendering/opengl_texture_renderer.h"
-#include "rendering/render_services.h"
+#include "services/render_services.h"
 #include "support/pictures.h"
 
 #include <QDir>

@@ -1,5 +1,5 @@
-#include "application/user_notification_center.h"
 #include "generators/bundled_texture_loader.h"
+#include "services/user_notification_center.h"
 #include "support/textures.h"
 
 #include <QDirIterator>

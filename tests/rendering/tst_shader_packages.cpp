@@ -1,8 +1,8 @@
-#include "application/user_notification_center.h"
 #include "rendering/offscreen_context.h"
 #include "rendering/opengl_program.h"
 #include "rendering/shader_stage.h"
 #include "rendering_support.h"
+#include "services/user_notification_center.h"
 
 #include <QDirIterator>
 #include <QGuiApplication>

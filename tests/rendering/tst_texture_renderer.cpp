@@ -1,7 +1,7 @@
-#include "application/user_notification_center.h"
 #include "rendering/blur_plan.h"
 #include "rendering/opengl_texture_renderer.h"
 #include "rendering_support.h"
+#include "services/user_notification_center.h"
 #include "support/pictures.h"
 
 #include <QPainter>

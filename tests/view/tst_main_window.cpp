@@ -1,5 +1,5 @@
 #include "application/application.h"
-#include "application/user_notification_center.h"
+#include "services/user_notification_center.h"
 #include "support/pictures.h"
 #include "view/window_driver.h"
 

@@ -1,5 +1,5 @@
-#include "application/application_log.h"
-#include "application/user_notification_center.h"
+#include "services/application_log.h"
+#include "services/user_notification_center.h"
 
 #include <QDir>
 #include <QFile>

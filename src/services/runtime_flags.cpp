@@ -1,4 +1,4 @@
-#include "application/runtime_flags.h"
+#include "services/runtime_flags.h"
 
 namespace zm {
 

@@ -1,4 +1,4 @@
-#include "application/user_notification_center.h"
+#include "services/user_notification_center.h"
 
 #include <QCoreApplication>
 #include <QThread>

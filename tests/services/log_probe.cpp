@@ -1,6 +1,6 @@
 // A process of its own for the log's tests: starts the log and says what its argument asks for.
 
-#include "application/application_log.h"
+#include "services/application_log.h"
 
 #include <QCoreApplication>
 #include <QDebug>

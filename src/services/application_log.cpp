@@ -1,4 +1,4 @@
-#include "application/application_log.h"
+#include "services/application_log.h"
 
 #include <QDateTime>
 #include <QDebug>
