@@ -1,8 +1,8 @@
 #include "scene_bench.h"
 
 #include "document/document.h"
-#include "document/scene_presentation_model.h"
 #include "pictures.h"
+#include "scene/scene_presentation_model.h"
 #include "values/blend_modes.h"
 
 #include <QPainter>

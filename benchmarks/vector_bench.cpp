@@ -1,8 +1,8 @@
 #include "vector_bench.h"
 
 #include "document/document.h"
-#include "document/scene_renderer.h"
 #include "generators/shape_generator_registry.h"
+#include "scene/scene_renderer.h"
 
 #include <QRandomGenerator>
 

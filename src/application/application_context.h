@@ -5,7 +5,6 @@
 #include "application/application_theme_controller.h"
 #include "commands/command_history.h"
 #include "document/document.h"
-#include "document/scene_presentation_model.h"
 #include "editor/document_file_controller.h"
 #include "editor/document_properties_adapter.h"
 #include "editor/editor_controller.h"
@@ -21,6 +20,7 @@
 #include "filters/filter_result_cache.h"
 #include "generators/bundled_texture_loader.h"
 #include "rendering/opengl_texture_renderer.h"
+#include "scene/scene_presentation_model.h"
 #include "services/render_services.h"
 #include "services/runtime_flags.h"
 

@@ -1,6 +1,6 @@
 #pragma once
 
-#include "document/scene_presentation_model.h"
+#include "scene/scene_presentation_model.h"
 
 #include <QPointer>
 #include <QQuickItem>

@@ -1,9 +1,9 @@
 #pragma once
 
-#include "document/scene_snapshot.h"
 #include "filters/filter_result_cache.h"
 #include "generators/bundled_texture_loader.h"
 #include "rendering/opengl_texture_renderer.h"
+#include "scene/scene_snapshot.h"
 #include "services/render_services.h"
 #include "values/filter_instance.h"
 

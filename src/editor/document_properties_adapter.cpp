@@ -6,7 +6,7 @@
 #include "commands/document_commands.h"
 #include "commands/object_property_commands.h"
 #include "document/document.h"
-#include "document/scene_snapshot.h"
+#include "scene/scene_snapshot.h"
 
 #include <QScopedValueRollback>
 

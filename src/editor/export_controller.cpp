@@ -1,11 +1,11 @@
 #include "editor/export_controller.h"
 
 #include "document/document.h"
-#include "document/scene_renderer.h"
 #include "editor/document_file_controller.h"
 #include "editor/export_preview_image_store.h"
 #include "io/exported_effects.h"
 #include "io/file_names.h"
+#include "scene/scene_renderer.h"
 
 #include <QFileInfo>
 #include <QLocale>

@@ -1,8 +1,8 @@
 #include "editor/layer_thumbnails.h"
 
 #include "document/document.h"
-#include "document/scene_presentation_model.h"
 #include "editor/layer_thumbnail_store.h"
+#include "scene/scene_presentation_model.h"
 
 #include <QElapsedTimer>
 #include <QtConcurrentRun>

@@ -1,9 +1,9 @@
 #include "io/image_export.h"
 
-#include "document/scene_renderer.h"
 #include "io/covering_image.h"
 #include "io/save_target.h"
 #include "io/software_tag.h"
+#include "scene/scene_renderer.h"
 
 #include <QBuffer>
 #include <QCoreApplication>

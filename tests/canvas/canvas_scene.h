@@ -1,7 +1,7 @@
 #pragma once
 
 #include "document/document.h"
-#include "document/scene_presentation_model.h"
+#include "scene/scene_presentation_model.h"
 
 #include <QObject>
 #include <QPointF>

@@ -1,6 +1,6 @@
 #include "canvas/editor_canvas_item.h"
 #include "document/document.h"
-#include "document/scene_presentation_model.h"
+#include "scene/scene_presentation_model.h"
 
 #include <QOpenGLContext>
 #include <QQuickWindow>

@@ -1,6 +1,6 @@
-#include "document/scene_renderer.h"
-#include "document/scene_snapshot.h"
 #include "generators/shape_generator_registry.h"
+#include "scene/scene_renderer.h"
+#include "scene/scene_snapshot.h"
 #include "support/document_log.h"
 #include "support/pictures.h"
 #include "values/editable_path_builder.h"

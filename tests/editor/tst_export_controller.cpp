@@ -1,7 +1,6 @@
 #include "commands/command_history.h"
 #include "commands/object_property_commands.h"
 #include "document/document.h"
-#include "document/scene_renderer.h"
 #include "editor/document_file_controller.h"
 #include "editor/export_controller.h"
 #include "editor/export_preview_image_provider.h"
@@ -9,6 +8,7 @@
 #include "filters/filter_registry.h"
 #include "filters/filter_result_cache.h"
 #include "rendering/opengl_texture_renderer.h"
+#include "scene/scene_renderer.h"
 #include "services/render_services.h"
 #include "support/pictures.h"
 

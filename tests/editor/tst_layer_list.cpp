@@ -1,9 +1,9 @@
 #include "document/document.h"
-#include "document/scene_presentation_model.h"
 #include "editor/layer_thumbnail_provider.h"
 #include "editor/layer_thumbnail_store.h"
 #include "editor/layer_thumbnails.h"
 #include "editor/scene_layer_list_model.h"
+#include "scene/scene_presentation_model.h"
 #include "support/pictures.h"
 #include "values/editable_path_builder.h"
 

@@ -1,8 +1,8 @@
 #include "commands/command_history.h"
 #include "document/document.h"
-#include "document/scene_snapshot.h"
 #include "editor/document_properties_adapter.h"
 #include "editor/scene_object_adapter.h"
+#include "scene/scene_snapshot.h"
 #include "support/document_log.h"
 #include "support/pictures.h"
 

@@ -1,10 +1,10 @@
 #include "document/document.h"
-#include "document/scene_renderer.h"
 #include "io/covering_image.h"
 #include "io/file_names.h"
 #include "io/image_export.h"
 #include "io/image_import.h"
 #include "io/software_tag.h"
+#include "scene/scene_renderer.h"
 #include "support/pictures.h"
 
 #include <QColorSpace>

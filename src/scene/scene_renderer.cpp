@@ -1,4 +1,4 @@
-#include "document/scene_renderer.h"
+#include "scene/scene_renderer.h"
 
 #include "base/pixel_limits.h"
 #include "rendering/filter_utility_renderer.h"

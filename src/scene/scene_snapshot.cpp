@@ -1,4 +1,4 @@
-#include "document/scene_snapshot.h"
+#include "scene/scene_snapshot.h"
 
 #include "document/document.h"
 #include "filters/filter_stack.h"

@@ -1,4 +1,4 @@
-#include "document/scene_presentation_model.h"
+#include "scene/scene_presentation_model.h"
 
 #include "base/fuzzy.h"
 #include "document/document.h"

@@ -1,6 +1,6 @@
 #pragma once
 
-#include "document/scene_renderer.h"
+#include "scene/scene_renderer.h"
 
 #include <QObject>
 #include <QTimer>

@@ -1,4 +1,4 @@
-#include "document/scene_renderer.h"
+#include "scene/scene_renderer.h"
 #include "support/pictures.h"
 #include "values/blend_modes.h"
 

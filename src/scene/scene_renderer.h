@@ -1,6 +1,6 @@
 #pragma once
 
-#include "document/scene_snapshot.h"
+#include "scene/scene_snapshot.h"
 
 #include <QImage>
 #include <QList>

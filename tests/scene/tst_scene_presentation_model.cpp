@@ -1,5 +1,5 @@
 #include "document/document.h"
-#include "document/scene_presentation_model.h"
+#include "scene/scene_presentation_model.h"
 #include "support/pictures.h"
 
 #include <QtTest>
