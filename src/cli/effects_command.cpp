@@ -3,7 +3,7 @@
 #include "cli/effect_description.h"
 #include "cli/effects_rendering.h"
 #include "cli/quiet_libraries.h"
-#include "filters/filter_catalog.h"
+#include "filters/description/filter_catalog.h"
 #include "filters/filter_registry.h"
 #include "filters/filter_stack.h"
 #include "io/image_export.h"

@@ -1,6 +1,6 @@
 #include "filters/fade_out_filter.h"
 
-#include "filters/filter_definition.h"
+#include "filters/description/filter_definition.h"
 #include "rendering/filter_utility_renderer.h"
 #include "services/render_services.h"
 

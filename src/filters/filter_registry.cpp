@@ -1,9 +1,9 @@
 #include "filters/filter_registry.h"
 
+#include "filters/craft/tinted_mask_overlay_filter.h"
 #include "filters/fade_out_filter.h"
 #include "filters/library_filters.h"
 #include "filters/shape_tool_filter.h"
-#include "filters/tinted_mask_overlay_filter.h"
 
 #include <algorithm>
 

@@ -1,6 +1,6 @@
 #pragma once
 
-#include "filters/filter_definition.h"
+#include "filters/description/filter_definition.h"
 #include "filters/filter_render.h"
 
 namespace zm {

@@ -1,8 +1,8 @@
 #include "filters/shape_tool_filter.h"
 
-#include "filters/coverage.h"
-#include "filters/filter_definition.h"
-#include "filters/shape_mask.h"
+#include "filters/craft/coverage.h"
+#include "filters/craft/shape_mask.h"
+#include "filters/description/filter_definition.h"
 
 #include <QPainter>
 

@@ -1,4 +1,4 @@
-#include "filters/filter_catalog.h"
+#include "filters/description/filter_catalog.h"
 #include "filters/filter_registry.h"
 #include "filters/filter_stack.h"
 #include "filters/library_filter.h"

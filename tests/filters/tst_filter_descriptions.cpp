@@ -1,7 +1,7 @@
+#include "filters/description/filter_catalog.h"
+#include "filters/description/filter_definition.h"
+#include "filters/description/filter_pictures.h"
 #include "filters/fade_out_filter.h"
-#include "filters/filter_catalog.h"
-#include "filters/filter_definition.h"
-#include "filters/filter_pictures.h"
 #include "filters/filter_registry.h"
 #include "filters/shape_tool_filter.h"
 

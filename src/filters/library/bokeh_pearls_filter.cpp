@@ -1,7 +1,7 @@
+#include "filters/craft/map_size.h"
+#include "filters/craft/shape_mask.h"
 #include "filters/library_filter.h"
 #include "filters/library_filters.h"
-#include "filters/map_size.h"
-#include "filters/shape_mask.h"
 
 #include <algorithm>
 

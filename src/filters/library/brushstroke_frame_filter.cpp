@@ -1,5 +1,5 @@
-#include "filters/brush_coverage.h"
-#include "filters/coverage.h"
+#include "filters/craft/brush_coverage.h"
+#include "filters/craft/coverage.h"
 #include "filters/library_filter.h"
 #include "filters/library_filters.h"
 

@@ -1,6 +1,6 @@
+#include "filters/craft/placed_line.h"
 #include "filters/library_filter.h"
 #include "filters/library_filters.h"
-#include "filters/placed_line.h"
 
 #include <cmath>
 

@@ -1,9 +1,9 @@
-#include "filters/coverage.h"
+#include "filters/craft/coverage.h"
+#include "filters/craft/row_bands.h"
+#include "filters/craft/shape_mask.h"
+#include "filters/craft/silhouette.h"
 #include "filters/library_filter.h"
 #include "filters/library_filters.h"
-#include "filters/row_bands.h"
-#include "filters/shape_mask.h"
-#include "filters/silhouette.h"
 
 #include <QPainter>
 

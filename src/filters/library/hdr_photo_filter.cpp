@@ -1,6 +1,6 @@
+#include "filters/craft/tone_base.h"
 #include "filters/library_filter.h"
 #include "filters/library_filters.h"
-#include "filters/tone_base.h"
 
 using namespace Qt::StringLiterals;
 

@@ -1,7 +1,7 @@
+#include "filters/craft/light_map.h"
+#include "filters/craft/placed_line.h"
 #include "filters/library_filter.h"
 #include "filters/library_filters.h"
-#include "filters/light_map.h"
-#include "filters/placed_line.h"
 
 #include <algorithm>
 #include <cmath>

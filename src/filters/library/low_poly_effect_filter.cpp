@@ -1,4 +1,4 @@
-#include "filters/cell_picture.h"
+#include "filters/craft/cell_picture.h"
 #include "filters/library_filter.h"
 #include "filters/library_filters.h"
 

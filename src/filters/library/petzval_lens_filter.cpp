@@ -1,7 +1,7 @@
-#include "filters/lens_blur.h"
+#include "filters/craft/lens_blur.h"
+#include "filters/craft/shape_mask.h"
 #include "filters/library_filter.h"
 #include "filters/library_filters.h"
-#include "filters/shape_mask.h"
 
 using namespace Qt::StringLiterals;
 

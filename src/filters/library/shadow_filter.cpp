@@ -1,6 +1,6 @@
+#include "filters/craft/silhouette.h"
 #include "filters/library_filter.h"
 #include "filters/library_filters.h"
-#include "filters/silhouette.h"
 
 #include <QPainter>
 #include <QPainterPath>

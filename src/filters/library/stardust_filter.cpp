@@ -1,7 +1,7 @@
+#include "filters/craft/shape_mask.h"
+#include "filters/craft/stardust_render.h"
 #include "filters/library_filter.h"
 #include "filters/library_filters.h"
-#include "filters/shape_mask.h"
-#include "filters/stardust_render.h"
 
 using namespace Qt::StringLiterals;
 

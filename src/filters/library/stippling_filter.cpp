@@ -1,6 +1,6 @@
+#include "filters/craft/patch_smoothing.h"
 #include "filters/library_filter.h"
 #include "filters/library_filters.h"
-#include "filters/patch_smoothing.h"
 
 using namespace Qt::StringLiterals;
 

@@ -1,6 +1,6 @@
+#include "filters/craft/swirl_frame.h"
 #include "filters/library_filter.h"
 #include "filters/library_filters.h"
-#include "filters/swirl_frame.h"
 
 #include <algorithm>
 #include <cmath>

@@ -1,4 +1,4 @@
-#include "filters/lens_blur.h"
+#include "filters/craft/lens_blur.h"
 #include "filters/library_filter.h"
 #include "filters/library_filters.h"
 

@@ -1,6 +1,6 @@
+#include "filters/craft/shape_mask.h"
 #include "filters/library_filter.h"
 #include "filters/library_filters.h"
-#include "filters/shape_mask.h"
 
 using namespace Qt::StringLiterals;
 

@@ -1,6 +1,6 @@
+#include "filters/craft/map_size.h"
 #include "filters/library_filter.h"
 #include "filters/library_filters.h"
-#include "filters/map_size.h"
 
 #include <algorithm>
 #include <cmath>

@@ -1,6 +1,6 @@
-#include "filters/control_reader.h"
+#include "filters/description/control_reader.h"
 
-#include "filters/filter_pictures.h"
+#include "filters/description/filter_pictures.h"
 
 #include <QCoreApplication>
 #include <QJsonArray>

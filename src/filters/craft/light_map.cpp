@@ -1,6 +1,6 @@
-#include "filters/light_map.h"
+#include "filters/craft/light_map.h"
 
-#include "filters/map_size.h"
+#include "filters/craft/map_size.h"
 
 using namespace Qt::StringLiterals;
 

@@ -1,6 +1,6 @@
-#include "filters/filter_definition.h"
+#include "filters/description/filter_definition.h"
 
-#include "filters/control_reader.h"
+#include "filters/description/control_reader.h"
 
 #include <QCoreApplication>
 #include <QFile>

@@ -1,6 +1,6 @@
-#include "filters/patch_smoothing.h"
+#include "filters/craft/patch_smoothing.h"
 
-#include "filters/coverage.h"
+#include "filters/craft/coverage.h"
 
 #include <algorithm>
 #include <cmath>

@@ -1,4 +1,4 @@
-#include "filters/tone_base.h"
+#include "filters/craft/tone_base.h"
 
 #include <algorithm>
 #include <cmath>

@@ -1,6 +1,6 @@
-#include "filters/lens_blur.h"
+#include "filters/craft/lens_blur.h"
 
-#include "filters/row_bands.h"
+#include "filters/craft/row_bands.h"
 
 #include <QList>
 

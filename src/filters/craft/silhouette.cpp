@@ -1,4 +1,4 @@
-#include "filters/silhouette.h"
+#include "filters/craft/silhouette.h"
 
 #include <QColor>
 

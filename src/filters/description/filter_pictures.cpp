@@ -1,4 +1,4 @@
-#include "filters/filter_pictures.h"
+#include "filters/description/filter_pictures.h"
 
 #include <QFile>
 #include <QRegularExpression>

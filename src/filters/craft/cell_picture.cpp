@@ -1,6 +1,6 @@
-#include "filters/cell_picture.h"
+#include "filters/craft/cell_picture.h"
 
-#include "filters/coverage.h"
+#include "filters/craft/coverage.h"
 
 #include <algorithm>
 #include <cmath>

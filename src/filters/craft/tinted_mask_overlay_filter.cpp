@@ -1,6 +1,6 @@
-#include "filters/tinted_mask_overlay_filter.h"
+#include "filters/craft/tinted_mask_overlay_filter.h"
 
-#include "filters/shape_mask.h"
+#include "filters/craft/shape_mask.h"
 #include "generators/texture_loader.h"
 
 #include <algorithm>

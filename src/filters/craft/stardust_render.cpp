@@ -1,4 +1,4 @@
-#include "filters/stardust_render.h"
+#include "filters/craft/stardust_render.h"
 
 #include <algorithm>
 

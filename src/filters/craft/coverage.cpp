@@ -1,4 +1,4 @@
-#include "filters/coverage.h"
+#include "filters/craft/coverage.h"
 
 #include <algorithm>
 #include <array>

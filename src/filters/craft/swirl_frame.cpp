@@ -1,4 +1,4 @@
-#include "filters/swirl_frame.h"
+#include "filters/craft/swirl_frame.h"
 
 #include <QtMath>
 

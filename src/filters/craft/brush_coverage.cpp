@@ -1,4 +1,4 @@
-#include "filters/brush_coverage.h"
+#include "filters/craft/brush_coverage.h"
 
 #include <QtMath>
 

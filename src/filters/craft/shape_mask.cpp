@@ -1,4 +1,4 @@
-#include "filters/shape_mask.h"
+#include "filters/craft/shape_mask.h"
 
 #include "generators/shape_generator.h"
 #include "generators/shape_generator_registry.h"
