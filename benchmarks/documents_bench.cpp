@@ -5,8 +5,8 @@
 #include "document/shape_layer.h"
 #include "document/text_layer.h"
 #include "document/text_state.h"
-#include "io/embedded_image.h"
-#include "io/zelmora_document_io.h"
+#include "io/document/embedded_image.h"
+#include "io/document/zelmora_document_io.h"
 #include "pictures.h"
 
 #include <QBuffer>

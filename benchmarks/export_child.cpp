@@ -6,10 +6,10 @@
 //   export_child measure PROGRAM ...    runs the program, prints its milliseconds and its peak memory in KiB
 
 #include "document/document.h"
-#include "io/embedded_image.h"
+#include "io/document/embedded_image.h"
+#include "io/document/zelmora_document_io.h"
 #include "io/image_allocation.h"
-#include "io/image_import.h"
-#include "io/zelmora_document_io.h"
+#include "io/pictures/image_import.h"
 
 #include <QCoreApplication>
 #include <QElapsedTimer>

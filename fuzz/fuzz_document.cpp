@@ -1,7 +1,7 @@
 // What a document file may do to its reader: nothing. What was read is written and read again, and comes out the same.
 
 #include "fuzz_support.h"
-#include "io/zelmora_document_io.h"
+#include "io/document/zelmora_document_io.h"
 
 #include <QBuffer>
 

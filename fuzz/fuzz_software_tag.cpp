@@ -1,7 +1,7 @@
 // What an encoder's file may do to the creator tag: nothing, and a file without the tag is left as it was.
 
 #include "fuzz_support.h"
-#include "io/software_tag.h"
+#include "io/pictures/software_tag.h"
 
 using namespace zm;
 using namespace Qt::StringLiterals;

@@ -1,8 +1,8 @@
 // Writes the inputs that the fuzz targets begin with: small documents of all kinds, JPEG and WebP files.
 
 #include "fuzz_support.h"
-#include "io/software_tag.h"
-#include "io/zelmora_document_io.h"
+#include "io/document/zelmora_document_io.h"
+#include "io/pictures/software_tag.h"
 #include "support/pictures.h"
 #include "support/random_document.h"
 

@@ -4,7 +4,7 @@
 #include "cli/jobs.h"
 #include "cli/quiet_libraries.h"
 #include "io/document_opening.h"
-#include "io/image_export.h"
+#include "io/pictures/image_export.h"
 
 using namespace Qt::StringLiterals;
 

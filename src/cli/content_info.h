@@ -1,6 +1,6 @@
 #pragma once
 
-#include "io/layer_content.h"
+#include "io/document/layer_content.h"
 
 #include <QJsonObject>
 

@@ -6,7 +6,7 @@
 #include "cli/quiet_libraries.h"
 #include "cli/text_info.h"
 #include "io/document_opening.h"
-#include "io/image_import.h"
+#include "io/pictures/image_import.h"
 
 using namespace Qt::StringLiterals;
 

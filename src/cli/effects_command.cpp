@@ -6,8 +6,8 @@
 #include "filters/description/filter_catalog.h"
 #include "filters/filter_registry.h"
 #include "filters/filter_stack.h"
-#include "io/image_export.h"
-#include "io/image_import.h"
+#include "io/pictures/image_export.h"
+#include "io/pictures/image_import.h"
 
 #include <QBuffer>
 #include <QDir>

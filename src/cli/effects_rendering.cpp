@@ -3,7 +3,7 @@
 #include "cli/parameter_text.h"
 #include "document/document.h"
 #include "filters/filter_registry.h"
-#include "io/exported_effects.h"
+#include "io/pictures/exported_effects.h"
 
 using namespace Qt::StringLiterals;
 

@@ -4,8 +4,8 @@
 #include "cli/jobs.h"
 #include "cli/quiet_libraries.h"
 #include "io/document_opening.h"
-#include "io/image_export.h"
-#include "io/image_import.h"
+#include "io/pictures/image_export.h"
+#include "io/pictures/image_import.h"
 
 using namespace Qt::StringLiterals;
 

@@ -1,6 +1,6 @@
 #pragma once
 
-#include "io/zelmora_document_io.h"
+#include "io/document/zelmora_document_io.h"
 
 namespace zm::cli {
 

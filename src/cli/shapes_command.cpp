@@ -6,7 +6,7 @@
 #include "generators/shape_generator.h"
 #include "generators/shape_generator_registry.h"
 #include "generators/shape_preview.h"
-#include "io/image_export.h"
+#include "io/pictures/image_export.h"
 #include "values/editable_path.h"
 
 #include <QBuffer>

@@ -4,8 +4,8 @@
 #include "document/document.h"
 #include "io/document_opening.h"
 #include "io/file_names.h"
-#include "io/image_import.h"
 #include "io/opening_estimate.h"
+#include "io/pictures/image_import.h"
 #include "services/runtime_flags.h"
 
 #include <QDir>

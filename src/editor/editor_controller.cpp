@@ -8,7 +8,7 @@
 #include "generators/shape_generator.h"
 #include "generators/shape_generator_registry.h"
 #include "generators/shape_preview.h"
-#include "io/image_import.h"
+#include "io/pictures/image_import.h"
 #include "services/runtime_flags.h"
 #include "values/parameter_definition.h"
 

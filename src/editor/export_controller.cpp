@@ -3,8 +3,8 @@
 #include "document/document.h"
 #include "editor/document_file_controller.h"
 #include "editor/export_preview_image_store.h"
-#include "io/exported_effects.h"
 #include "io/file_names.h"
+#include "io/pictures/exported_effects.h"
 #include "scene/scene_renderer.h"
 
 #include <QFileInfo>

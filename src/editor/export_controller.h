@@ -1,6 +1,6 @@
 #pragma once
 
-#include "io/image_export.h"
+#include "io/pictures/image_export.h"
 
 #include <QFutureWatcher>
 #include <QObject>

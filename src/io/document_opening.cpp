@@ -1,6 +1,6 @@
 #include "io/document_opening.h"
 
-#include "io/image_import.h"
+#include "io/pictures/image_import.h"
 
 #include <QCoreApplication>
 #include <QFileInfo>

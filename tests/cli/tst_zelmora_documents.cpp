@@ -1,5 +1,5 @@
 #include "io/document_opening.h"
-#include "io/image_import.h"
+#include "io/pictures/image_import.h"
 #include "program_driver.h"
 #include "support/pictures.h"
 

@@ -1,5 +1,5 @@
-#include "io/embedded_image.h"
-#include "io/zelmora_document_io.h"
+#include "io/document/embedded_image.h"
+#include "io/document/zelmora_document_io.h"
 #include "support/document_log.h"
 #include "support/file_bytes.h"
 #include "support/pictures.h"

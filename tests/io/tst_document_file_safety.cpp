@@ -1,4 +1,4 @@
-#include "io/zelmora_document_io.h"
+#include "io/document/zelmora_document_io.h"
 #include "support/document_log.h"
 #include "support/pictures.h"
 

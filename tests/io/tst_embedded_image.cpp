@@ -1,5 +1,5 @@
-#include "io/embedded_image.h"
-#include "io/software_tag.h"
+#include "io/document/embedded_image.h"
+#include "io/pictures/software_tag.h"
 #include "support/file_bytes.h"
 #include "support/pictures.h"
 

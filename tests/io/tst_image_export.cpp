@@ -1,9 +1,9 @@
 #include "document/document.h"
-#include "io/covering_image.h"
 #include "io/file_names.h"
-#include "io/image_export.h"
-#include "io/image_import.h"
-#include "io/software_tag.h"
+#include "io/pictures/covering_image.h"
+#include "io/pictures/image_export.h"
+#include "io/pictures/image_import.h"
+#include "io/pictures/software_tag.h"
 #include "scene/scene_renderer.h"
 #include "support/pictures.h"
 

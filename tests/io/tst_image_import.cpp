@@ -1,6 +1,6 @@
 #include "document/document.h"
 #include "io/image_allocation.h"
-#include "io/image_import.h"
+#include "io/pictures/image_import.h"
 #include "support/pictures.h"
 
 #include <QBuffer>

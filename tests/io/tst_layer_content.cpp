@@ -1,6 +1,6 @@
-#include "io/fill_records.h"
-#include "io/layer_content.h"
-#include "io/path_records.h"
+#include "io/document/fill_records.h"
+#include "io/document/layer_content.h"
+#include "io/document/path_records.h"
 #include "support/file_bytes.h"
 #include "support/pictures.h"
 

@@ -1,6 +1,6 @@
-#include "io/filter_records.h"
-#include "io/layer_section.h"
-#include "io/parameter_records.h"
+#include "io/document/filter_records.h"
+#include "io/document/layer_section.h"
+#include "io/document/parameter_records.h"
 #include "support/document_log.h"
 #include "support/file_bytes.h"
 

@@ -1,0 +1,13 @@
+#pragma once
+
+#include "document/text_state.h"
+#include "io/document/record_fields.h"
+
+namespace zm {
+
+std::optional<QByteArray> encodeTextRun(const TextRun &run, FileError &error);
+
+/// Takes one run.
+std::optional<TextRun> decodeTextRun(ByteReader &reader, FileError &error);
+
+} // namespace zm
