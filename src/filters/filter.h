@@ -13,6 +13,9 @@
 
 namespace zm {
 
+struct FilterRenderRequest;
+struct FilterRenderResult;
+
 enum class FilterFlag : quint32 {
     /// The result may leave the layer's box.
     ExtendsBeyondBounds = 1,
@@ -64,8 +67,8 @@ struct AutoAddText
     std::optional<Stroke> stroke;
 };
 
-/// An effect: what it is called, its controls, and how the interface treats it. Without state and shared by all its
-/// instances, which name it by id. How it renders is a matter of the concrete kinds.
+/// An effect: what it is called, its controls, how the interface treats it, and how it renders. Without state and
+/// shared by all its instances, which name it by id.
 class Filter
 {
 public:
@@ -95,6 +98,11 @@ public:
     virtual QList<AutoAddFilter> autoAddFilters() const { return {}; }
     virtual QList<AutoAddText> autoAddText() const { return {}; }
     virtual std::optional<QColor> preferredBackground() const { return std::nullopt; }
+
+    /// False for a filter that works on the processor, too: only such a one is asked to render without a renderer.
+    virtual bool needsRenderer() const { return true; }
+    /// Pure: the same request gives the same picture. A failure gives the input. The request has a picture.
+    virtual FilterRenderResult render(const FilterRenderRequest &request) const = 0;
 };
 
 } // namespace zm

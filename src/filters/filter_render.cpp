@@ -1,7 +1,5 @@
 #include "filters/filter_render.h"
 
-#include "values/parameter_definition.h"
-
 #include <algorithm>
 #include <cmath>
 
@@ -30,16 +28,22 @@ QPointF FilterRenderRequest::placeInLayer(double x, double y) const
             (box.top() - bounds.top() + y * box.height()) / bounds.height() * image.height()};
 }
 
-double FilterRenderRequest::diagonalPixels(const QString &key, double fallback) const
+int FilterRenderRequest::choice(const QString &key) const
 {
-    return number(key, fallback) * std::hypot(image.width(), image.height()) / 1000.0;
+    const ParameterDefinition *definition = findParameter(controls, key);
+    const auto *control = definition ? std::get_if<ChoiceParameter>(definition) : nullptr;
+    const std::optional<QString> chosen = optionText(parameters.entries().value(key));
+    if (!control || !chosen)
+        return 0;
+    const auto found = std::ranges::find(control->options, chosen,
+                                         [](const ParameterOption &option) { return optionText(option.value); });
+    return found == control->options.end() ? 0 : int(found - control->options.begin());
 }
 
-int FilterRenderRequest::choice(const QString &key, std::initializer_list<QLatin1StringView> options) const
+QLineF FilterRenderRequest::line(const QString &key) const
 {
-    const QString chosen = optionText(parameters.entries().value(key)).value_or(QString());
-    const auto found = std::ranges::find(options, chosen);
-    return found == options.end() ? 0 : int(found - options.begin());
+    const GradientPosition position = parameters.gradientPosition(known(key), {});
+    return {placeInLayer(position.x1, position.y1), placeInLayer(position.x2, position.y2)};
 }
 
 FilterRenderResult FilterRenderRequest::singlePass(const LibraryUniformBlock &block) const

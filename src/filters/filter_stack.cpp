@@ -1,14 +1,9 @@
 #include "filters/filter_stack.h"
 
 #include "base/fuzzy.h"
-#include "filters/fade_out_filter.h"
 #include "filters/filter_registry.h"
 #include "filters/filter_result_cache.h"
-#include "filters/library_filter.h"
 #include "filters/selection_blend.h"
-#include "filters/shape_tool_filter.h"
-
-using namespace Qt::StringLiterals;
 
 namespace zm {
 
@@ -19,25 +14,30 @@ QImage straightRgba(const QImage &image)
     return image.convertToFormat(QImage::Format_RGBA8888);
 }
 
-/// The instances that render at all, without what makes no difference to the result.
-QList<FilterInstance> effectiveInstances(const QList<FilterInstance> &instances)
+/// A filter and how it is set.
+struct Step
 {
-    QList<FilterInstance> effective;
+    const Filter *filter;
+    const FilterInstance *instance;
+};
+
+/// The instances that render at all, each with its filter.
+QList<Step> stepsOf(const QList<FilterInstance> &instances)
+{
+    QList<Step> steps;
     for (const FilterInstance &instance : instances) {
-        if (instance.enabled && FilterRegistry::instance().find(instance.filterId))
-            effective.append({{}, instance.filterId, instance.parameters, true, instance.rasterSelectionScoped});
+        if (!instance.enabled)
+            continue;
+        if (const Filter *filter = FilterRegistry::instance().find(instance.filterId))
+            steps.append({filter, &instance});
     }
-    return effective;
+    return steps;
 }
 
-FilterRenderResult render(const FilterInstance &instance, const FilterRenderResult &input,
-                          const RenderServices *services, const QRectF &layerBox)
+/// An instance without what makes no difference to the result.
+FilterInstance keyOf(const FilterInstance &instance)
 {
-    if (instance.filterId == ShapeToolFilter::kId)
-        return {ShapeToolFilter::cutOut(input.image, input.bounds, instance.parameters, services), input.bounds};
-    if (instance.filterId == FadeOutFilter::kId)
-        return {FadeOutFilter::faded(input.image, instance.parameters, services), input.bounds};
-    return renderLibraryFilter(instance.filterId, input.image, input.bounds, instance.parameters, services, layerBox);
+    return {{}, instance.filterId, instance.parameters, true, instance.rasterSelectionScoped};
 }
 
 /// A filter that grew its picture cannot be limited to a selection.
@@ -46,15 +46,13 @@ bool isSamePlace(const FilterRenderResult &a, const FilterRenderResult &b)
     return a.image.size() == b.image.size() && fuzzyEqual(a.bounds, b.bounds);
 }
 
-FilterRenderResult renderScoped(const FilterInstance &instance, const FilterRenderResult &before,
-                                const RenderServices *services, const QRectF &layerBox,
-                                const std::optional<EditablePath> &selection)
+FilterRenderResult renderScoped(const Step &step, const FilterRenderResult &before, const RenderServices *services,
+                                const QRectF &layerBox, const std::optional<EditablePath> &selection)
 {
-    FilterRenderResult after = render(instance, before, services, layerBox);
-    after.image = straightRgba(after.image);
-    const Filter *filter = FilterRegistry::instance().find(instance.filterId);
-    if (instance.rasterSelectionScoped && selection && filter->flags().testFlag(FilterFlag::SupportsRasterSelection)
-        && isSamePlace(before, after))
+    FilterRenderResult after =
+        renderFilter(*step.filter, before.image, before.bounds, step.instance->parameters, services, layerBox);
+    if (step.instance->rasterSelectionScoped && selection
+        && step.filter->flags().testFlag(FilterFlag::SupportsRasterSelection) && isSamePlace(before, after))
         after.image = blendedInSelection(before.image, after.image, *selection, after.bounds);
     return after;
 }
@@ -66,14 +64,17 @@ FilterRenderResult evaluateFilterStack(const QImage &image, const QSizeF &size, 
                                        const std::optional<EditablePath> &rasterSelection,
                                        [[maybe_unused]] quint64 revision)
 {
-    const QList<FilterInstance> effective = effectiveInstances(instances);
+    const QList<Step> steps = stepsOf(instances);
     const QRectF layerBox(QPointF(), size);
     FilterRenderResult current{straightRgba(image), layerBox};
     if (current.image.isNull())
         return current;
 
     FilterResultCache *cache = services ? services->filterResults : nullptr;
-    FilterStackKey key{current.image.cacheKey(), size, rasterSelection, effective};
+    FilterStackKey key{current.image.cacheKey(), size, rasterSelection, {}};
+    for (const Step &step : steps)
+        key.instances.append(keyOf(*step.instance));
+    const QList<FilterInstance> whole = key.instances;
     qsizetype finished = 0;
     if (cache) {
         const FilterResultCache::Beginning beginning = cache->longestBeginning(key);
@@ -83,35 +84,35 @@ FilterRenderResult evaluateFilterStack(const QImage &image, const QSizeF &size, 
     }
     const FilterUtilityRenderer *renderer = services ? services->filterRenderer : nullptr;
     const quint64 failuresBefore = renderer ? renderer->failureCount() : 0;
-    for (; finished < effective.size(); ++finished) {
-        current = renderScoped(effective[finished], current, services, layerBox, rasterSelection);
+    for (; finished < steps.size(); ++finished) {
+        current = renderScoped(steps[finished], current, services, layerBox, rasterSelection);
         // What has seen a failure may come out better the next time.
         if (cache && renderer && renderer->failureCount() == failuresBefore) {
-            key.instances = effective.first(finished + 1);
+            key.instances = whole.first(finished + 1);
             cache->insert(key, current);
         }
     }
     return current;
 }
 
-FilterRenderResult renderLibraryFilter(const QString &filterId, const QImage &image, const QRectF &bounds,
-                                       const ParameterValues &parameters, const RenderServices *services,
-                                       const std::optional<QRectF> &canvas)
+FilterRenderResult renderFilter(const Filter &filter, const QImage &image, const QRectF &bounds,
+                                const ParameterValues &parameters, const RenderServices *services,
+                                const std::optional<QRectF> &canvas)
 {
-    const auto *filter = dynamic_cast<const LibraryFilter *>(FilterRegistry::instance().find(filterId));
-    const QImage input = straightRgba(image);
-    if (!filter || input.isNull() || !services || !services->filterRenderer)
-        return {input, bounds};
     FilterRenderRequest request;
-    request.image = input;
+    request.image = straightRgba(image);
     request.bounds = bounds;
-    request.parameters = completeParameters(filter->controls(), parameters);
-    request.services = *services;
-    request.renderer = services->filterRenderer;
-    request.inputFormat = filter->inputImageFormat();
-    request.outputFormat = filter->outputImageFormat();
+    if (services)
+        request.services = *services;
+    request.renderer = request.services.filterRenderer;
+    if (request.image.isNull() || (filter.needsRenderer() && !request.renderer))
+        return request.unchanged();
+    request.controls = filter.controls();
+    request.parameters = readableParameters(request.controls, parameters);
+    request.inputFormat = filter.inputImageFormat();
+    request.outputFormat = filter.outputImageFormat();
     request.canvas = canvas;
-    FilterRenderResult result = filter->render(request);
+    FilterRenderResult result = filter.render(request);
     result.image = straightRgba(result.image);
     return result;
 }

@@ -3,10 +3,19 @@
 #include "filters/description/filter_definition.h"
 #include "filters/filter_render.h"
 
+#include <memory>
+
+/// Defines what makes an effect of library/: `Name` as in ZM_LIBRARY_EFFECTS, its class, and what that is made of.
+#define ZM_LIBRARY_EFFECT(Name, Class, ...) \
+    std::unique_ptr<Filter> make##Name##Filter() \
+    { \
+        return std::make_unique<Class>(__VA_ARGS__); \
+    }
+
 namespace zm {
 
 /// A filter that is described by a JSON file of the resources and draws with shaders of the library. Concrete classes
-/// add render().
+/// add render(), and are registered by a line in library/effects.h.
 class LibraryFilter : public Filter
 {
 public:
@@ -32,10 +41,6 @@ public:
     QList<AutoAddFilter> autoAddFilters() const override { return m_definition.autoAddFilters; }
     QList<AutoAddText> autoAddText() const override { return m_definition.autoAddText; }
     std::optional<QColor> preferredBackground() const override { return m_definition.preferredBackground; }
-
-    /// Pure: the same request gives the same picture. A failure gives the input. The request has a picture and a
-    /// renderer.
-    virtual FilterRenderResult render(const FilterRenderRequest &request) const = 0;
 
 private:
     const FilterDefinition m_definition;

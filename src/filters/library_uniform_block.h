@@ -6,6 +6,7 @@
 #include <QColor>
 #include <QLatin1StringView>
 #include <QList>
+#include <QSize>
 #include <QString>
 
 namespace zm {
@@ -27,6 +28,12 @@ public:
     void setFloat(QLatin1StringView name, double value);
     /// The other two components become zero.
     void setVec2(QLatin1StringView name, double x, double y);
+    void setSize(QLatin1StringView name, const QSize &pixels) { setVec2(name, pixels.width(), pixels.height()); }
+    /// What one pixel of a picture of that size is of its width and height.
+    void setTexelSize(QLatin1StringView name, const QSize &pixels)
+    {
+        setVec2(name, 1.0 / pixels.width(), 1.0 / pixels.height());
+    }
     /// Red, green and blue as 0..1, in the encoding of the colour, and the last component stays. White when invalid.
     void setColor(QLatin1StringView name, const QColor &color);
     void setVec4(QLatin1StringView name, double x, double y, double z, double w);

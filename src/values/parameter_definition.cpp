@@ -89,6 +89,32 @@ struct Acceptance
     }
 };
 
+/// Whether a control's readers make something of a value.
+struct Readability
+{
+    const ParameterValue &value;
+
+    bool isNumber() const { return std::holds_alternative<double>(value) || std::holds_alternative<qint64>(value); }
+
+    bool operator()(const NumericParameter<double> &) const { return isNumber(); }
+    bool operator()(const NumericParameter<qint64> &) const { return isNumber(); }
+    bool operator()(const ChoiceParameter &) const { return optionText(value).has_value(); }
+    bool operator()(const TexturePickerParameter &) const { return optionText(value).has_value(); }
+    bool operator()(const ShapeParameter &) const
+    {
+        return std::holds_alternative<ShapeMask>(value) || std::holds_alternative<QString>(value);
+    }
+    bool operator()(const ParameterHead &) const { return true; }
+
+    template<typename Control>
+    bool operator()(const Control &control) const
+        requires requires { control.defaultValue; } && (!std::derived_from<Control, NumericParameter<double>>)
+        && (!std::derived_from<Control, NumericParameter<qint64>>)
+    {
+        return value.index() == ParameterValue(control.defaultValue).index();
+    }
+};
+
 } // namespace
 
 const ParameterHead &parameterHead(const ParameterDefinition &definition)
@@ -201,6 +227,19 @@ ParameterValues completeParameters(const QList<ParameterDefinition> &definitions
         const std::optional<ParameterValue> value = defaultValue(definition);
         if (value && !result.contains(key))
             result.set(key, *value);
+    }
+    return result;
+}
+
+ParameterValues readableParameters(const QList<ParameterDefinition> &definitions, const ParameterValues &values)
+{
+    ParameterValues result = completeParameters(definitions, values);
+    for (const ParameterDefinition &definition : definitions) {
+        const QString &key = parameterHead(definition).id;
+        const std::optional<ParameterValue> fallback = defaultValue(definition);
+        const auto stored = result.entries().constFind(key);
+        if (fallback && stored != result.entries().cend() && !std::visit(Readability{*stored}, definition))
+            result.set(key, *fallback);
     }
     return result;
 }

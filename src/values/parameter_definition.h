@@ -231,4 +231,8 @@ const ParameterDefinition *findParameter(const QList<ParameterDefinition> &defin
 /// The stored values, and the defaults of the keys that are absent. Values without a definition are kept.
 ParameterValues completeParameters(const QList<ParameterDefinition> &definitions, const ParameterValues &values);
 
+/// What renders from the values: the same, with the default in place of a stored value of another kind than the
+/// control's. A number may be real or integer, an option a number or a text, a shape also the id of its generator.
+ParameterValues readableParameters(const QList<ParameterDefinition> &definitions, const ParameterValues &values);
+
 } // namespace zm

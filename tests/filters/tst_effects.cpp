@@ -1,7 +1,6 @@
 #include "filters/description/filter_catalog.h"
 #include "filters/filter_registry.h"
 #include "filters/filter_stack.h"
-#include "filters/library_filter.h"
 #include "generators/bundled_texture_loader.h"
 #include "rendering/opengl_texture_renderer.h"
 #include "support/pictures.h"
@@ -243,20 +242,6 @@ private slots:
                     QVERIFY2(isSameColor(meanColor(other), meanColor(usual)), "the seed changes the colours");
             }
         }
-    }
-
-    void classesRepeatTheDefaults_data() { addEffects(); }
-    void classesRepeatTheDefaults()
-    {
-        const auto *filter = dynamic_cast<const LibraryFilter *>(&effect());
-        if (!filter)
-            return;
-        FilterRenderRequest request;
-        request.image = m_scene;
-        request.bounds = QRectF(QPointF(), kSize);
-        request.services = m_services;
-        request.renderer = &m_renderer;
-        QCOMPARE(filter->render(request).image, rendered(filter->id(), {}, m_scene).image);
     }
 
     /// A preview is the picture scaled down.

@@ -1,9 +1,7 @@
 #include "filters/description/filter_catalog.h"
 #include "filters/description/filter_definition.h"
 #include "filters/description/filter_pictures.h"
-#include "filters/fade_out_filter.h"
 #include "filters/filter_registry.h"
-#include "filters/shape_tool_filter.h"
 
 #include <QTest>
 #include <QTranslator>
@@ -176,7 +174,7 @@ private slots:
     /// The filters that are built in code are described in the resources too, for the pictures of the picker.
     void nativeFiltersMatchTheirFiles()
     {
-        for (const QString &id : {QString(FadeOutFilter::kId), QString(ShapeToolFilter::kId)}) {
+        for (const QString &id : {u"fade-image"_s, u"shape-tool"_s}) {
             const FilterDefinition file = loadFilterDefinition(id);
             const Filter &filter = *FilterRegistry::instance().find(id);
             QCOMPARE(file.label, filter.label());

@@ -1,3 +1,4 @@
+#include "filters/craft/recipe.h"
 #include "filters/craft/shape_mask.h"
 #include "filters/filter_registry.h"
 #include "filters/filter_result_cache.h"
@@ -63,8 +64,36 @@ private slots:
         // Without a GPU, and without a picture, everything passes through.
         QCOMPARE(evaluateFilterStack(m_picture, {40, 30}, {instance(u"bevel"_s)}, nullptr, {}, 1).image, m_picture);
         QVERIFY(evaluateFilterStack({}, {40, 30}, {instance(u"bevel"_s)}, &m_services, {}, 1).image.isNull());
-        const QRectF bounds(1, 2, 3, 4);
-        QCOMPARE(renderLibraryFilter(u"fade-image"_s, m_picture, bounds, {}, &m_services, {}).image, m_picture);
+        QVERIFY(evaluateFilterStack(m_picture, {40, 30}, {instance(u"shape-tool"_s)}, nullptr, {}, 1).image
+                != m_picture);
+    }
+
+    void valuesOfTheWrongKindReadAsDefaults()
+    {
+        for (const QString &id : {u"bevel"_s, u"vignette"_s, u"relight"_s, u"star-mask"_s, u"fade-image"_s}) {
+            FilterInstance odd = instance(id);
+            for (const ParameterDefinition &control : FilterRegistry::instance().find(id)->controls())
+                odd.parameters.set(parameterHead(control).id, EnabledColor{});
+            QVERIFY2(evaluate({odd}).image == evaluate({instance(id)}).image, qPrintable(id));
+        }
+    }
+
+    /// The room is on the sides that were asked for, and no side outgrows a texture.
+    void recipesGrowOutward()
+    {
+        Recipe frame = RecipePass("rounded-corners").outputSize("u_size");
+        QMargins wanted(3, 2, 5, 1);
+        frame.growth = [&wanted](const FilterRenderRequest &) { return wanted; };
+        const RecipeFilter filter(u"bevel"_s, frame);
+        const auto grown = [&] { return renderFilter(filter, m_picture, {10, 10, 80, 60}, {}, &m_services, {}); };
+        QCOMPARE(grown().image.size(), QSize(48, 33));
+        QCOMPARE(grown().bounds, QRectF(4, 6, 96, 66));
+        const int longest = m_renderer.maximumTextureSize();
+        wanted = {longest, 0, longest, 0};
+        QCOMPARE(grown().image.size(), QSize(longest, 30));
+        QVERIFY(std::abs(grown().bounds.center().x() - 50.0) <= 2.0);
+        wanted = {-4, 0, -4, 0};
+        QCOMPARE(grown().image.size(), m_picture.size());
     }
 
     void orderMatters()

@@ -7,6 +7,7 @@
 #include <QColorSpace>
 #include <QColorTransform>
 #include <QDir>
+#include <QRegularExpression>
 #include <QSet>
 #include <QTest>
 
@@ -111,6 +112,33 @@ private slots:
                 QCOMPARE(blocks.first().members.at(i).name, "u_param"_ba + QByteArray::number(i));
                 QCOMPARE(blocks.first().members.at(i).type, QShaderDescription::Vec4);
             }
+        }
+    }
+
+    /// A name that stood for another position would draw with another control's value.
+    void sourcesNameTheirFieldsAsTheirRowsDo()
+    {
+        static const QRegularExpression definition(u"^#define (u_\\w+) u_param(\\d+)\\b"_s,
+                                                   QRegularExpression::MultilineOption);
+        const QDir folder(QStringLiteral(LIBRARY_SHADERS));
+        const QStringList sources = folder.entryList({u"*.frag"_s});
+        QVERIFY(sources.size() > 50);
+        for (const QString &name : sources) {
+            const LibraryShaderRow *row = findLibraryShader(QStringView(name).chopped(5));
+            if (!row) // of pixel-drift-rank
+                continue;
+            QFile file(folder.filePath(name));
+            QVERIFY(file.open(QIODevice::ReadOnly));
+            const QString source = QString::fromUtf8(file.readAll());
+            QStringList names;
+            for (const QRegularExpressionMatch &match : definition.globalMatch(source)) {
+                QCOMPARE(match.captured(2).toInt(), names.size());
+                names.append(match.captured(1));
+            }
+            QCOMPARE(names, QStringList(row->fields.cbegin(), row->fields.cend()));
+            // Beyond the block and the names nothing speaks of positions.
+            QVERIFY2(source.lastIndexOf("u_param"_L1) <= source.indexOf("\n\n"_L1, source.lastIndexOf("#define u_"_L1)),
+                     qPrintable(name));
         }
     }
 

@@ -156,6 +156,32 @@ private slots:
         QCOMPARE(completed.number(u"i"_s, 0.0), 4.0);
         QVERIFY(completed.contains(u"unknown"_s));
     }
+
+    void readersFindTheKindOfTheControl()
+    {
+        auto choice = headed<ChoiceParameter>(u"choice"_s, {});
+        choice.defaultValue = u"a"_s;
+        const QList<ParameterDefinition> controls{realParameter(u"real"_s, {}, 0.5, 0.0, 1.0, 0.1), choice,
+                                                  headed<ShapeParameter>(u"shape"_s, {}),
+                                                  headed<ColorParameter>(u"color"_s, {})};
+        ParameterValues stored;
+        stored.set(u"real"_s, qint64(3));
+        stored.set(u"choice"_s, 7.0);
+        stored.set(u"shape"_s, u"star5"_s);
+        stored.set(u"color"_s, true);
+        stored.set(u"unknown"_s, true);
+        ParameterValues read = readableParameters(controls, stored);
+        QCOMPARE(read.number(u"real"_s, 0.0), 3.0); // an integer is a number, too, and is not limited here
+        QCOMPARE(read.entries().value(u"choice"_s), ParameterValue(7.0));
+        QCOMPARE(read.string(u"shape"_s, {}), u"star5"_s);
+        QCOMPARE(read.color(u"color"_s, Qt::white), QColor(Qt::black));
+        QVERIFY(read.contains(u"unknown"_s));
+        stored.set(u"real"_s, u"3"_s);
+        stored.set(u"choice"_s, true);
+        read = readableParameters(controls, stored);
+        QCOMPARE(read.number(u"real"_s, 0.0), 0.5);
+        QCOMPARE(read.string(u"choice"_s, {}), u"a"_s);
+    }
 };
 
 QTEST_GUILESS_MAIN(TestParameters)

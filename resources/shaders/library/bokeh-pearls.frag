@@ -15,19 +15,23 @@ layout(location = 0) out vec4 fragColor;
 layout(binding = 0) uniform sampler2D u_input;
 layout(binding = 1) uniform sampler2D u_mask;
 layout(std140, binding = 2) uniform LibraryUniforms {
-    vec4 u_param0;   // size: width and height, pixels
-    vec4 u_param1;   // density: 0..1
-    vec4 u_param2;   // radius: of the largest lights, pixels
-    vec4 u_param3;   // softness: of the outline, 0..1
-    vec4 u_param4;   // rim: brightness of the outline over the inside, 0..1
-    vec4 u_param5;   // intensity: x 0..1; y 1 draws the lights outside the mask; z step: 0 all at once, 1 the lights
-                     // alone, 2 with the lights as they were drawn; w reduction: of the lights drawn alone, 0 or more
-    vec4 u_param6;   // shape: 0 disc, 1 hexagon, 2 heart
-    vec4 u_param7;   // colorBoost: saturation of the lights, 0..1
-    vec4 u_param8;   // variation: of the sizes, 0..1
-    vec4 u_param9;   // overlap: 0 apart, 1 over each other
-    vec4 u_param10;  // colorWarmth: -1 cool .. 1 warm
+    vec4 u_param0, u_param1, u_param2, u_param3, u_param4, u_param5, u_param6, u_param7, u_param8, u_param9,
+         u_param10, u_param11, u_param12, u_param13;
 };
+#define u_size u_param0.xy          // width and height, pixels
+#define u_density u_param1.x        // 0..1
+#define u_radius u_param2.x         // of the largest lights, pixels
+#define u_softness u_param3.x       // of the outline, 0..1
+#define u_rim u_param4.x            // brightness of the outline over the inside, 0..1
+#define u_intensity u_param5.x      // 0..1
+#define u_shape u_param6.x          // 0 disc, 1 hexagon, 2 heart
+#define u_colorBoost u_param7.x     // saturation of the lights, 0..1
+#define u_variation u_param8.x      // of the sizes, 0..1
+#define u_overlap u_param9.x        // 0 apart, 1 over each other
+#define u_colorWarmth u_param10.x   // -1 cool .. 1 warm
+#define u_maskInverted u_param11.x  // 1 draws the lights outside the mask
+#define u_step u_param12.x          // 0 all at once, 1 the lights alone, 2 lays them over the picture
+#define u_reduction u_param13.x     // pixels of the picture for one of the lights
 
 const int kDepths = 3;
 const float kJitter = 0.6; // of a cell: with radii up to 0.66, and corners a little farther, no light leaves its cells
@@ -55,10 +59,10 @@ float sdHeart(vec2 p)
 // For a light of radius 1.
 float distanceTo(vec2 p, float turn)
 {
-    if (u_param6.x < 0.5)
+    if (u_shape < 0.5)
         return sdCircle(p, 1.0);
     p = rotation(turn) * p;
-    if (u_param6.x < 1.5)
+    if (u_shape < 1.5)
         return sdHexagon(p, 0.87) - 0.05; // the blades of a diaphragm are a little round
     return 1.5 * sdHeart(vec2(p.x, 0.78 - p.y) / 1.5);
 }
@@ -75,13 +79,13 @@ vec4 colorAround(vec2 uv, vec2 reach)
 // The light of one depth in linear colour. `scale` is of the radius, 0..1.
 vec3 depthLight(vec2 px, float scale, float sharpness, uint seed)
 {
-    float fraction = mix(0.32, 0.66, u_param9.x); // radius in cells
-    float radius = max(u_param2.x * scale, 0.75);
+    float fraction = mix(0.32, 0.66, u_overlap); // radius in cells
+    float radius = max(u_radius * scale, 0.75);
     float cellSize = radius / fraction;
     vec2 place = px / cellSize;
     ivec2 base = ivec2(floor(place - 0.5));
-    float spread = 0.7 * u_param8.x;
-    float pixel = max(u_param5.w, 1.0) / radius;
+    float spread = 0.7 * u_variation;
+    float pixel = max(u_reduction, 1.0) / radius;
     vec3 sum = vec3(0.0);
     for (int i = 0; i < 4; ++i) {
         ivec2 cell = base + ivec2(i & 1, i >> 1);
@@ -94,32 +98,32 @@ vec3 depthLight(vec2 px, float scale, float sharpness, uint seed)
         float chance = hash21(cell, seed + 1u);
         // Lights come in groups.
         float group = smoothstep(0.3, 0.7, valueNoise((vec2(cell) + 0.5) * 0.45, seed + 2u));
-        if (chance >= u_param1.x * (0.25 + 1.0 * group))
+        if (chance >= u_density * (0.25 + 1.0 * group))
             continue;
         float d = distanceTo(p, 0.6 * (random.x - 0.5));
-        float edge = max(mix(0.02, 0.5, u_param3.x * sharpness), pixel / size);
+        float edge = max(mix(0.02, 0.5, u_softness * sharpness), pixel / size);
         float body = 1.0 - smoothstep(-edge, min(edge, pixel / size), d);
         if (body <= 0.0)
             continue;
 
-        vec2 uv = center * cellSize / u_param0.xy;
+        vec2 uv = center * cellSize / u_size;
         float inside = texture(u_mask, uv).a;
-        float mask = mix(inside, 1.0 - inside, u_param5.y);
-        vec4 behind = colorAround(uv, 0.3 * radius / u_param0.xy);
+        float mask = mix(inside, 1.0 - inside, u_maskInverted);
+        vec4 behind = colorAround(uv, 0.3 * radius / u_size);
         vec3 color = toLinear(straight(behind).rgb) * behind.a;
         float light = linearLuminance(color);
         // The hue of the picture at full strength; where it is nearly grey, gold to rose, as of lamps.
         vec3 own = color / max(max(color.r, max(color.g, color.b)), 1e-4);
         float chroma = 1.0 - min(own.r, min(own.g, own.b));
-        vec3 lamp = mix(vec3(1.0, 0.56, 0.14), vec3(1.0, 0.30, 0.22), chance / max(u_param1.x, 1e-4));
+        vec3 lamp = mix(vec3(1.0, 0.56, 0.14), vec3(1.0, 0.30, 0.22), chance / max(u_density, 1e-4));
         vec3 tint = mix(lamp, own, smoothstep(0.1, 0.5, chroma) * smoothstep(0.002, 0.03, light));
-        tint = mix(vec3(1.0), tint, 0.4 + 0.6 * sqrt(u_param7.x));
-        tint *= mix(vec3(1.0), u_param10.x > 0.0 ? vec3(1.25, 0.85, 0.4) : vec3(0.45, 0.85, 1.35), abs(u_param10.x));
+        tint = mix(vec3(1.0), tint, 0.4 + 0.6 * sqrt(u_colorBoost));
+        tint *= mix(vec3(1.0), u_colorWarmth > 0.0 ? vec3(1.25, 0.85, 0.4) : vec3(0.45, 0.85, 1.35), abs(u_colorWarmth));
         float strength = (0.22 + 0.9 * smoothstep(0.0, 0.6, sqrt(light))) * (0.2 + 0.8 * random.y * random.y);
         // Brighter along the outline, as an overcorrected lens draws it.
         float rimWidth = 0.045 + 0.5 * edge;
         float rim = exp2(-pow((d + 0.7 * rimWidth) / rimWidth, 2.0));
-        float face = mix(1.0, 0.72 + 0.28 * clamp(1.0 + d, 0.0, 1.0), u_param4.x) + 0.9 * rim * u_param4.x;
+        float face = mix(1.0, 0.72 + 0.28 * clamp(1.0 + d, 0.0, 1.0), u_rim) + 0.9 * rim * u_rim;
         sum += tint * (strength * mask * body * face);
     }
     return sum;
@@ -133,22 +137,22 @@ vec3 lights(vec2 px)
     for (int i = 0; i < kDepths; ++i) {
         // Farther lights are smaller, sharper and brighter.
         light += (0.55 + 0.25 * float(i)) * depthLight(px, scale, 1.0 - 0.25 * float(i), 11u + 7u * uint(i));
-        scale *= mix(0.86, 0.52, u_param8.x);
+        scale *= mix(0.86, 0.52, u_variation);
     }
-    return 1.0 - exp(-light * u_param5.x * 1.7);
+    return 1.0 - exp(-light * u_intensity * 1.7);
 }
 
 void main()
 {
-    vec2 px = v_uv * u_param0.xy;
-    if (u_param5.z > 0.5 && u_param5.z < 1.5) {
+    vec2 px = v_uv * u_size;
+    if (u_step > 0.5 && u_step < 1.5) {
         fragColor = vec4(sqrt(lights(px)), 1.0); // steps of the root are even to the eye
         return;
     }
     vec4 src = texture(u_input, v_uv);
     vec3 light = texture(u_mask, v_uv).rgb;
     light *= light;
-    if (u_param5.z < 0.5)
+    if (u_step < 0.5)
         light = lights(px);
     vec3 rgb = toEncoded(blendScreen(toLinear(src.rgb), light));
     fragColor = vec4(dot(light, vec3(1.0)) > 0.0 ? rgb : src.rgb, src.a);

@@ -8,15 +8,16 @@ layout(location = 0) in vec2 v_uv;
 layout(location = 0) out vec4 fragColor;
 layout(binding = 0) uniform sampler2D u_input;
 layout(std140, binding = 1) uniform LibraryUniforms {
-    vec4 u_param0;  // size: width and height, pixels
-    vec4 u_param1;  // style: 0 sunday, 1 pulp, 2 noir
-    vec4 u_param2;  // ink: strength of contours and shadows, 0..1
-    vec4 u_param3;  // levels: of tone, 3..8
-    vec4 u_param4;  // dotSize: pitch of the screen, pixels; under 0.5 there are no dots
-    vec4 u_param5;  // colorPunch: 0..1
-    vec4 u_param6;  // brightnessCorrection: -1..1
-    vec4 u_param7;  // renderScale: reach of the contours, pixels, 0.5..4
+    vec4 u_param0, u_param1, u_param2, u_param3, u_param4, u_param5, u_param6, u_param7;
 };
+#define u_size u_param0.xy                 // width and height, pixels
+#define u_style u_param1.x                 // 0 sunday, 1 pulp, 2 noir
+#define u_ink u_param2.x                   // strength of contours and shadows, 0..1
+#define u_levels u_param3.x                // of tone, 3..8
+#define u_dotSize u_param4.x               // pitch of the screen, pixels; under 0.5 there are no dots
+#define u_colorPunch u_param5.x            // 0..1
+#define u_brightnessCorrection u_param6.x  // -1..1
+#define u_renderScale u_param7.x           // reach of the contours, pixels, 0.5..4
 
 const vec3 kInk[3] = vec3[](vec3(0.025, 0.04, 0.085), vec3(0.105, 0.028, 0.022), vec3(0.018, 0.026, 0.045));
 const vec3 kPaper[3] = vec3[](vec3(1.0, 0.955, 0.82), vec3(0.965, 0.825, 0.57), vec3(0.945, 0.9, 0.76));
@@ -84,14 +85,14 @@ float contour(vec2 reach, float ink)
 
 void main()
 {
-    vec2 size = max(u_param0.xy, 1.0);
-    int style = int(clamp(floor(u_param1.x + 0.5), 0.0, 2.0));
-    float ink = clamp(u_param2.x, 0.0, 1.0);
-    float levels = clamp(floor(u_param3.x + 0.5), 3.0, 8.0);
-    float dotSize = max(u_param4.x, 0.0);
-    float punch = clamp(u_param5.x, 0.0, 1.0);
-    float brightness = clamp(u_param6.x, -1.0, 1.0);
-    float scale = clamp(u_param7.x, 0.5, 4.0);
+    vec2 size = max(u_size, 1.0);
+    int style = int(clamp(floor(u_style + 0.5), 0.0, 2.0));
+    float ink = clamp(u_ink, 0.0, 1.0);
+    float levels = clamp(floor(u_levels + 0.5), 3.0, 8.0);
+    float dotSize = max(u_dotSize, 0.0);
+    float punch = clamp(u_colorPunch, 0.0, 1.0);
+    float brightness = clamp(u_brightnessCorrection, -1.0, 1.0);
+    float scale = clamp(u_renderScale, 0.5, 4.0);
 
     vec4 src = readInside(u_input, v_uv);
     vec3 color = graded(src.rgb, style, punch);

@@ -14,17 +14,21 @@ layout(location = 0) in vec2 v_uv;
 layout(location = 0) out vec4 fragColor;
 layout(binding = 0) uniform sampler2D u_input;
 layout(std140, binding = 1) uniform LibraryUniforms {
-    vec4 u_param0;  // size: xy of the picture, zw of the forms, pixels
-    vec4 u_param1;  // stitchSize: x width of a thread, pixels; y 1 draws the map of directions, else 0
-    vec4 u_param2;  // direction: of stitches where no contour leads them, radians, clockwise from right
-    vec4 u_param3;  // followContours: 0..1
-    vec4 u_param4;  // threadSheen: 0..1
-    vec4 u_param5;  // fabricTexture: relief of the fabric, 0..1
-    vec4 u_param6;  // colorDepth: number of thread colours, 0 few to 1 many
-    vec4 u_param7;  // fabricColor: red, green, blue, 0..1
-    vec4 u_param8;  // seed
-    vec4 u_param9;  // renderScale: not read, as all sizes come in pixels
+    vec4 u_param0, u_param1, u_param2, u_param3, u_param4, u_param5, u_param6, u_param7, u_param8, u_param9,
+         u_param10, u_param11;
 };
+#define u_size u_param0.xy           // of the picture, pixels
+#define u_stitchSize u_param1.x      // width of a thread, pixels
+#define u_direction u_param2.x       // of stitches where no contour leads them, radians, clockwise from right
+#define u_followContours u_param3.x  // 0..1
+#define u_threadSheen u_param4.x     // 0..1
+#define u_fabricTexture u_param5.x   // relief of the fabric, 0..1
+#define u_colorDepth u_param6.x      // number of thread colours, 0 few to 1 many
+#define u_fabricColor u_param7.rgb   // red, green, blue, 0..1
+#define u_seed u_param8.x
+#define u_renderScale u_param9.x     // not read, as all sizes come in pixels
+#define u_formsSize u_param10.xy     // of the forms, pixels
+#define u_step u_param11.x           // 1 draws the map of directions, 0 the stitches
 
 const int kAngles = 8;
 const float kPi = 3.14159265;
@@ -95,19 +99,19 @@ Stitch stitchAt(vec2 q, uint seed)
 
 void main()
 {
-    vec2 size = max(u_param0.xy, 1.0);
-    float width = max(u_param1.x, 0.5);
-    float follow = clamp(u_param3.x, 0.0, 1.0);
-    float sheen = clamp(u_param4.x, 0.0, 1.0);
-    uint seed = seedBits(u_param8.x);
+    vec2 size = max(u_size, 1.0);
+    float width = max(u_stitchSize, 0.5);
+    float follow = clamp(u_followContours, 0.0, 1.0);
+    float sheen = clamp(u_threadSheen, 0.0, 1.0);
+    uint seed = seedBits(u_seed);
 
     vec2 p = v_uv * size / width; // in thread widths
     float pixel = 1.0 / width;    // a pixel in that unit
     vec2 unit = width / size;     // the unit in uv
-    vec2 forms = u_param0.zw;
+    vec2 forms = u_formsSize;
     vec2 reach = 1.8 * unit;
-    vec2 wanted = vec2(cos(2.0 * u_param2.x), sin(2.0 * u_param2.x));
-    if (u_param1.y > 0.5) {
+    vec2 wanted = vec2(cos(2.0 * u_direction), sin(2.0 * u_direction));
+    if (u_step > 0.5) {
         fragColor = vec4(0.5 + 0.5 * doubledDirection(v_uv, reach, wanted, follow), 0.0, 1.0);
         return;
     }
@@ -121,7 +125,7 @@ void main()
     float random = 0.5;
     float full = 1.0; // how much of the fabric it covers
     mat2 turned = rotation(kPi / float(kAngles));
-    vec2 d = vec2(cos(u_param2.x), sin(u_param2.x));
+    vec2 d = vec2(cos(u_direction), sin(u_direction));
     for (int i = 0; i < kAngles; ++i, d = turned * d) {
         vec2 doubled = vec2(d.x * d.x - d.y * d.y, 2.0 * d.x * d.y);
         // Rows are not ruled: they sway a little.
@@ -158,7 +162,7 @@ void main()
     vec3 threadColor = mix(readStackedPicture(u_input, forms, topUv).rgb, local.rgb, 0.35);
 
     // Thread colours of a palette: a step in lightness and in the two colour axes.
-    vec3 steps = mix(5.0, 30.0, u_param6.x) * vec3(1.0, 2.0, 2.0);
+    vec3 steps = mix(5.0, 30.0, u_colorDepth) * vec3(1.0, 2.0, 2.0);
     vec3 lab = encodedToOklab(threadColor) + vec3((random - 0.5) * 0.045, 0.0, 0.0);
     lab = floor(lab * steps + 0.5) / steps;
     lab.yz *= 1.1;
@@ -186,6 +190,6 @@ void main()
     shiny += sheen * 0.09 * gloss * gloss * mix(vec3(1.0), thread, 0.4) * mix(0.6, 1.0, plies);
 
     // Fabric between threads lies in their shadow.
-    vec3 ground = toLinear(fabric(p, u_param7.rgb, u_param5.x, seed + 90u)) * mix(vec3(0.25), thread, 0.4);
+    vec3 ground = toLinear(fabric(p, u_fabricColor, u_fabricTexture, seed + 90u)) * mix(vec3(0.25), thread, 0.4);
     fragColor = vec4(toEncoded(clamp(mix(ground, shiny, cover), 0.0, 1.0)), local.a);
 }

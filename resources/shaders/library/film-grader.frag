@@ -9,45 +9,53 @@ layout(location = 0) in vec2 v_uv;
 layout(location = 0) out vec4 fragColor;
 layout(binding = 0) uniform sampler2D u_input;
 layout(std140, binding = 1) uniform LibraryUniforms {
-    vec4 u_param0;  // size: width and height, pixels
-    vec4 u_param1;  // style: x contrast; y chroma; z how far black is lifted; w exposure in stops
-    vec4 u_param2;  // strength: x share of the graded picture, 0..1; yzw what black fades to, encoded
-    vec4 u_param3;  // saturation: x -1..1, 0 is the stock's own; yz tint of shadows, Oklab a and b
-    vec4 u_param4;  // contrast: x -1..1, 0 is the stock's own; yz tint of highlights, Oklab a and b
-    vec4 u_param5;  // fade: x how far black is lifted, 0..1
-    vec4 u_param6;  // grain: x 0..1, with the stock's own; y size of a grain, pixels
-    vec4 u_param7;  // vignette: x loss of light in the corners, 0..1; yz an axis in Oklab's a and b; w how far other hues
-                    // are drawn to it
-    vec4 u_param8;  // artifacts: dust and scratches, 0..1
-    vec4 u_param9;  // seed: x; y how dark strong colours get, as dyes do
+    vec4 u_param0, u_param1, u_param2, u_param3, u_param4, u_param5, u_param6, u_param7, u_param8, u_param9,
+         u_param10, u_param11, u_param12, u_param13, u_param14, u_param15, u_param16;
 };
+#define u_size u_param0.xy          // width and height, pixels
+#define u_style u_param1            // of the stock: x contrast; y chroma; z how far black is lifted; w exposure in stops
+#define u_strength u_param2.x       // share of the graded picture, 0..1
+#define u_saturation u_param3.x     // -1..1, 0 is the stock's own
+#define u_contrast u_param4.x       // -1..1, 0 is the stock's own
+#define u_fade u_param5.x           // x how far black is lifted, 0..1
+#define u_grain u_param6.x          // 0..1, with the stock's own
+#define u_vignette u_param7.x       // loss of light in the corners, 0..1
+#define u_artifacts u_param8.x      // dust and scratches, 0..1
+#define u_seed u_param9.x
+#define u_fadedBlack u_param10.xyz  // what black fades to, encoded
+#define u_shadowTint u_param11.xy   // Oklab a and b
+#define u_lightTint u_param12.xy    // Oklab a and b
+#define u_grainSize u_param13.x     // of a grain, pixels
+#define u_hueAxis u_param14.xy      // an axis in Oklab's a and b
+#define u_hueDraw u_param15.x       // how far other hues are drawn to it, 0..1
+#define u_dyeDensity u_param16.x    // how dark strong colours get, as dyes do
 
 vec3 developed(vec3 linear)
 {
-    vec3 lab = linearToOklab(rolledOff(linear * exp2(u_param1.w), 0.72));
-    float chroma = u_param1.y * (1.0 + u_param3.x);
+    vec3 lab = linearToOklab(rolledOff(linear * exp2(u_style.w), 0.72));
+    float chroma = u_style.y * (1.0 + u_saturation);
     // Black and white sees blue darker and red lighter than the eye.
-    lab.x += 0.30 * (1.0 - min(u_param1.y * 4.0, 1.0)) * dot(lab.yz, vec2(0.35, 0.65)) * lab.x;
+    lab.x += 0.30 * (1.0 - min(u_style.y * 4.0, 1.0)) * dot(lab.yz, vec2(0.35, 0.65)) * lab.x;
 
-    float along = dot(lab.yz, u_param7.yz);
-    vec2 across = lab.yz - along * u_param7.yz;
-    lab.yz = vibrantChroma(along * u_param7.yz + across * (1.0 - u_param7.w), chroma);
-    lab.x *= 1.0 - u_param9.y * min(length(lab.yz), 0.4) * lab.x;
+    float along = dot(lab.yz, u_hueAxis);
+    vec2 across = lab.yz - along * u_hueAxis;
+    lab.yz = vibrantChroma(along * u_hueAxis + across * (1.0 - u_hueDraw), chroma);
+    lab.x *= 1.0 - u_dyeDensity * min(length(lab.yz), 0.4) * lab.x;
 
-    lab.x = toneCurve(lab.x, clamp(u_param1.x + 0.8 * u_param4.x, -1.0, 1.0));
+    lab.x = toneCurve(lab.x, clamp(u_style.x + 0.8 * u_contrast, -1.0, 1.0));
     // Tints come and go with the tone: none in the deepest black and in white.
     float shadows = lab.x * (1.0 - lab.x) * (1.0 - lab.x) * 6.75;
     float lights = lab.x * lab.x * (1.0 - lab.x * lab.x) * 4.0;
-    float tint = min(1.0 + u_param3.x, 1.0) * (1.0 - 0.35 * skinShare(lab.yz));
-    lab.yz += tint * (u_param3.yz * shadows + u_param4.yz * lights);
+    float tint = min(1.0 + u_saturation, 1.0) * (1.0 - 0.35 * skinShare(lab.yz));
+    lab.yz += tint * (u_shadowTint * shadows + u_lightTint * lights);
     return oklabToEncoded(lab);
 }
 
 // Dark is lifted towards the colour that the stock fades to, white comes down a little.
 vec3 faded(vec3 color)
 {
-    float amount = clamp(u_param1.z + u_param5.x, 0.0, 1.2);
-    vec3 black = u_param2.yzw * 0.62 * amount;
+    float amount = clamp(u_style.z + u_fade, 0.0, 1.2);
+    vec3 black = u_fadedBlack * 0.62 * amount;
     return black + color * (1.0 - black - 0.05 * amount * vec3(0.4, 0.7, 1.3));
 }
 
@@ -55,9 +63,9 @@ vec3 faded(vec3 color)
 // through the projector. Sizes follow the diagonal.
 float wear(vec2 pixel, uint seed)
 {
-    float unit = length(u_param0.xy) / 1000.0;
+    float unit = length(u_size) / 1000.0;
     vec2 p = pixel / unit;
-    float amount = u_param8.x;
+    float amount = u_artifacts;
     float thin = min(unit * 0.8, 1.0); // lines narrower than a pixel show less
     float sum = 0.0;
     for (int layer = 0; layer < 2; ++layer) {
@@ -91,7 +99,7 @@ float wear(vec2 pixel, uint seed)
     for (int i = 0; i < 6; ++i) {
         vec3 line = hash23(ivec2(i, 77), seed + 3u);
         float sway = valueNoise(vec2(p.y * 0.004, float(i) * 7.0), seed + 4u) - 0.5;
-        float across = line.x * u_param0.x / unit + 5.0 * sway;
+        float across = line.x * u_size.x / unit + 5.0 * sway;
         float broken = smoothstep(0.42, 0.60, valueNoise(vec2(p.y * 0.012, float(i) * 13.0), seed + 6u));
         float width = 0.18 + 0.35 * line.y;
         float body = coverage((abs(p.x - across) - width) * unit) * thin;
@@ -103,31 +111,31 @@ float wear(vec2 pixel, uint seed)
 // The share of light that the printer leaves in the corners, around a soft ellipse.
 float printed(vec2 uv)
 {
-    vec2 halfSize = 0.5 * u_param0.xy;
+    vec2 halfSize = 0.5 * u_size;
     vec2 p = (2.0 * uv - 1.0);
     float radius = length(p);
     float inward = (1.0 - radius) * radius / max(length(p / halfSize), 1e-6); // pixels, to the ellipse
     float feather = 0.67 * min(halfSize.x, halfSize.y);
-    return 1.0 - 0.5 * u_param7.x * (1.0 - smoothstep(-feather, feather, inward));
+    return 1.0 - 0.5 * u_vignette * (1.0 - smoothstep(-feather, feather, inward));
 }
 
 void main()
 {
     vec4 src = texture(u_input, v_uv);
-    vec2 pixel = v_uv * u_param0.xy;
-    uint seed = seedBits(u_param9.x);
+    vec2 pixel = v_uv * u_size;
+    uint seed = seedBits(u_seed);
 
-    vec3 light = toLinear(src.rgb) * lensFalloff(v_uv, u_param0.xy, 0.45 * u_param7.x);
+    vec3 light = toLinear(src.rgb) * lensFalloff(v_uv, u_size, 0.45 * u_vignette);
     vec3 rgb = faded(developed(light));
     float luma = luminance(rgb);
-    vec3 grain = filmGrain(pixel, u_param6.y, u_param1.y > 0.0 ? 0.2 : 0.0, seed);
-    rgb = withGrain(rgb, grain * u_param6.x * 0.42 * (0.45 + 0.55 * smoothstep(0.0, 0.3, luma)));
-    if (u_param8.x > 0.0) {
+    vec3 grain = filmGrain(pixel, u_grainSize, u_style.y > 0.0 ? 0.2 : 0.0, seed);
+    rgb = withGrain(rgb, grain * u_grain * 0.42 * (0.45 + 0.55 * smoothstep(0.0, 0.3, luma)));
+    if (u_artifacts > 0.0) {
         float mark = wear(pixel, seed + 20u);
         vec3 dirt = mark > 0.0 ? vec3(0.95, 0.93, 0.88) : vec3(0.06, 0.05, 0.05);
-        rgb = mix(rgb, dirt, abs(mark) * (0.35 + 0.65 * u_param8.x));
+        rgb = mix(rgb, dirt, abs(mark) * (0.35 + 0.65 * u_artifacts));
     }
-    rgb = mix(src.rgb, rgb, u_param2.x);
+    rgb = mix(src.rgb, rgb, u_strength);
     float lost = 1.0 - printed(v_uv);
     rgb *= 1.0 - lost * (0.446 + 0.17 * lost); // of the encoded colour, what that is of the light
     fragColor = vec4(clamp(dithered(rgb, gl_FragCoord.xy), 0.0, 1.0), src.a);

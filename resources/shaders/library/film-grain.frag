@@ -8,13 +8,14 @@ layout(location = 0) in vec2 v_uv;
 layout(location = 0) out vec4 fragColor;
 layout(binding = 0) uniform sampler2D u_input;
 layout(std140, binding = 1) uniform LibraryUniforms {
-    vec4 u_param0;  // size: width and height, pixels
-    vec4 u_param1;  // style: 0 classic, 1 fine, 2 pushed, 3 coarse, 4 mottled, 5 paper, 6 canvas
-    vec4 u_param2;  // amount: depth of the grain, 0..1
-    vec4 u_param3;  // opacity: share of the grained picture, 0..1
-    vec4 u_param4;  // seed
-    vec4 u_param5;  // scale: size of a grain of the classic film, pixels
+    vec4 u_param0, u_param1, u_param2, u_param3, u_param4, u_param5;
 };
+#define u_size u_param0.xy    // width and height, pixels
+#define u_style u_param1.x    // 0 classic, 1 fine, 2 pushed, 3 coarse, 4 mottled, 5 paper, 6 canvas
+#define u_amount u_param2.x   // depth of the grain, 0..1
+#define u_opacity u_param3.x  // share of the grained picture, 0..1
+#define u_seed u_param4.x
+#define u_scale u_param5.x    // size of a grain of the classic film, pixels
 
 const int kPaper = 5;
 
@@ -50,24 +51,24 @@ float surfaceHeight(int style, vec2 p, uint seed)
 void main()
 {
     vec4 src = texture(u_input, v_uv);
-    vec2 pixel = v_uv * u_param0.xy;
-    int style = int(u_param1.x + 0.5);
-    uint seed = seedBits(u_param4.x);
-    float scale = max(u_param5.x, 0.05);
+    vec2 pixel = v_uv * u_size;
+    int style = int(u_style + 0.5);
+    uint seed = seedBits(u_seed);
+    float scale = max(u_scale, 0.05);
     vec3 rgb;
     if (style < kPaper) {
         vec4 film = kFilms[clamp(style, 0, 4)];
         vec3 grain = filmGrain(pixel, scale * film.x, film.z, seed);
         float spared = 1.0 - film.w * (1.0 - smoothstep(0.0, 0.35, luminance(src.rgb)));
-        rgb = withGrain(src.rgb, grain * film.y * spared * 1.15 * u_param2.x);
+        rgb = withGrain(src.rgb, grain * film.y * spared * 1.15 * u_amount);
     } else {
         // The slope towards the light, over the width of a fibre; when a fibre is less than a pixel it fades.
         vec2 p = pixel / scale;
         float reach = max(0.6, 1.0 / scale);
         float slope = surfaceHeight(style, p + 0.5 * reach, seed) - surfaceHeight(style, p - 0.5 * reach, seed);
-        float relief = clamp(slope * (style == kPaper ? 2.0 : 1.1) / reach * min(scale, 1.0), -1.0, 1.0) * u_param2.x;
+        float relief = clamp(slope * (style == kPaper ? 2.0 : 1.1) / reach * min(scale, 1.0), -1.0, 1.0) * u_amount;
         rgb = src.rgb * (1.0 + (style == kPaper ? 0.45 : 0.38) * relief * (1.0 - 0.35 * luminance(src.rgb)));
         rgb += 0.05 * max(relief, 0.0) * (1.0 - src.rgb);
     }
-    fragColor = vec4(clamp(mix(src.rgb, rgb, u_param3.x), 0.0, 1.0), src.a);
+    fragColor = vec4(clamp(mix(src.rgb, rgb, u_opacity), 0.0, 1.0), src.a);
 }

@@ -11,30 +11,33 @@ layout(location = 0) in vec2 v_uv;
 layout(location = 0) out vec4 fragColor;
 layout(binding = 0) uniform sampler2D u_input;
 layout(std140, binding = 1) uniform LibraryUniforms {
-    vec4 u_param0;  // size: xy of the picture, zw of the copy, pixels
-    vec4 u_param1;  // texel size: one pixel in 0..1
-    vec4 u_param2;  // tint
-    vec4 u_param3;  // strength: 0..1
-    vec4 u_param4;  // blur radius: sigma of the copy, pixels; 0 makes the copy
-    vec4 u_param5;  // noise: 0..1
-    vec4 u_param6;  // threshold: brightness from which something shows, 0..1
-    vec4 u_param7;  // softness: span of brightness around it, above 0
-    vec4 u_param8;  // glow: 0..1
-    vec4 u_param9;  // fade: how much mist there is, 0..1
+    vec4 u_param0, u_param1, u_param2, u_param3, u_param4, u_param5, u_param6, u_param7, u_param8, u_param9,
+         u_param10;
 };
+#define u_size u_param0.xy       // of the picture, pixels
+#define u_texelSize u_param1.xy  // one pixel in 0..1
+#define u_tint u_param2.rgb
+#define u_strength u_param3.x    // 0..1
+#define u_blurRadius u_param4.x  // sigma of the copy, pixels; 0 makes the copy
+#define u_noise u_param5.x       // 0..1
+#define u_threshold u_param6.x   // brightness from which something shows, 0..1
+#define u_softness u_param7.x    // span of brightness around it, above 0
+#define u_glow u_param8.x        // 0..1
+#define u_fade u_param9.x        // how much mist there is, 0..1
+#define u_copySize u_param10.xy  // of the soft copy, pixels
 
-float apparition(float tone) { return smoothstep(u_param6.x - u_param7.x, u_param6.x + u_param7.x, tone); }
+float apparition(float tone) { return smoothstep(u_threshold - u_softness, u_threshold + u_softness, tone); }
 
 // The soft copy, which transparent surroundings darken no more than they must.
-vec3 softAt(vec2 uv) { return straight(readStackedMap(u_input, u_param0.xy, u_param0.zw, uv)).rgb; }
+vec3 softAt(vec2 uv) { return straight(readStackedMap(u_input, u_size, u_copySize, uv)).rgb; }
 
 void main()
 {
-    vec2 size = u_param0.xy;
-    if (u_param4.x <= 0.0) {
+    vec2 size = u_size;
+    if (u_blurRadius <= 0.0) {
         vec4 sum = vec4(0.0);
         for (int i = 0; i < 4; ++i)
-            sum += premultiplied(readInside(u_input, v_uv + (vec2(i & 1, i >> 1) - 0.5) * 0.5 / u_param0.zw));
+            sum += premultiplied(readInside(u_input, v_uv + (vec2(i & 1, i >> 1) - 0.5) * 0.5 / u_copySize));
         fragColor = sum * 0.25;
         return;
     }
@@ -45,7 +48,7 @@ void main()
 
     // Itself, and beside it the two that it is about to become; mist carries them off in waves.
     float sway = gradientNoise(px / (60.0 * unit), 31u);
-    vec2 apart = u_param1.xy * u_param4.x * vec2(1.6, 0.5 * sway);
+    vec2 apart = u_texelSize * u_blurRadius * vec2(1.6, 0.5 * sway);
     vec3 soft = softAt(v_uv);
     float toneSoft = luminance(soft);
     float toneBeside = max(luminance(softAt(v_uv + apart)), luminance(softAt(v_uv - apart)));
@@ -55,7 +58,7 @@ void main()
 
     // Bright things appear, dark ones recede to a cold depth.
     float shown = apparition(body);
-    vec3 tint = u_param2.rgb;
+    vec3 tint = u_tint;
     vec3 depth = tint * tint * vec3(0.11, 0.13, 0.17);
     float pale = mix(0.62 * body, pow(body, 0.7), shown);
     vec3 ghost = mix(depth, tint * (1.0 + 0.12 * pale), pale);
@@ -63,10 +66,10 @@ void main()
 
     // What shines is the soft copy of what appears.
     float halo = apparition(toneSoft) * (0.35 + 0.65 * toneSoft);
-    ghost = blendScreen(clamp(ghost, 0.0, 1.0), tint * clamp(halo * u_param8.x * 0.75, 0.0, 1.0));
+    ghost = blendScreen(clamp(ghost, 0.0, 1.0), tint * clamp(halo * u_glow * 0.75, 0.0, 1.0));
 
     // Mist rises from below in long drifts.
-    float fade = u_param9.x;
+    float fade = u_fade;
     vec2 drift = px / (230.0 * unit) * vec2(0.8, 2.2);
     drift += 0.22 * vec2(sway, gradientNoise(px / (120.0 * unit), 32u));
     float fog = fbm(drift, 5.0, 33u);
@@ -77,7 +80,7 @@ void main()
 
     // The grain of a plate that was exposed too long.
     float grain = valueNoise(px / (1.1 * unit) + 3.0, 35u) + 0.6 * valueNoise(px / (2.7 * unit), 36u) - 0.8;
-    ghost += grain * u_param5.x * 0.26 * (0.35 + ghost.g);
+    ghost += grain * u_noise * 0.26 * (0.35 + ghost.g);
 
-    fragColor = vec4(clamp(mix(src.rgb, ghost, u_param3.x), 0.0, 1.0), src.a);
+    fragColor = vec4(clamp(mix(src.rgb, ghost, u_strength), 0.0, 1.0), src.a);
 }

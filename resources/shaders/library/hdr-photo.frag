@@ -9,12 +9,15 @@ layout(location = 0) in vec2 v_uv;
 layout(location = 0) out vec4 fragColor;
 layout(binding = 0) uniform sampler2D u_input;
 layout(std140, binding = 1) uniform LibraryUniforms {
-    vec4 u_param0;  // texelSize: 1 / width and 1 / height of the picture, pixels
-    vec4 u_param1;  // amount: compression of the broad tones, 0..1
-    vec4 u_param2;  // detail: gain of what is finer, 0..1
-    vec4 u_param3;  // color: 0..1
-    vec4 u_param4;  // radius: x cell of the map, pixels; y step: 0 use, 1 gather, 2 smooth; zw size of the map
+    vec4 u_param0, u_param1, u_param2, u_param3, u_param4, u_param5, u_param6;
 };
+#define u_texelSize u_param0.xy  // 1 / width and 1 / height of the picture, pixels
+#define u_amount u_param1.x      // compression of the broad tones, 0..1
+#define u_detail u_param2.x      // gain of what is finer, 0..1
+#define u_color u_param3.x       // 0..1
+#define u_radius u_param4.x      // cell of the map, pixels
+#define u_step u_param5.x        // 0 use, 1 gather, 2 smooth
+#define u_mapSize u_param6.xy    // pixels
 
 const int kMostTaps = 6;  // along a side of a cell
 const int kReach = 4;     // of the smoothing, cells: two standard deviations
@@ -70,7 +73,7 @@ float compressed(float base, float amount)
 vec4 toneMapped(ivec2 size, vec2 position, float cell)
 {
     vec4 src = texelFetch(u_input, clamp(ivec2(position), ivec2(0), size - 1), 0);
-    float amount = u_param1.x;
+    float amount = u_amount;
     float tone = luminance(src.rgb);
     vec2 broad = toneBase(u_input, size, cell, position, tone);
     float base = broad.x;
@@ -83,22 +86,22 @@ vec4 toneMapped(ivec2 size, vec2 position, float cell)
     float fine = tone - base;
     float follow = clamp(sqrt((newBase + 0.02) / (base + 0.02)), 0.8, 1.6);
     float clear = mix(0.2, 1.0, broad.y) * smoothstep(-0.05, 0.15, base);
-    float gain = follow * (1.0 + 3.0 * u_param2.x * clear / (1.0 + 6.0 * abs(fine)));
+    float gain = follow * (1.0 + 3.0 * u_detail * clear / (1.0 + 6.0 * abs(fine)));
     float newTone = curved(newBase + fine * gain, 0.22 * amount);
 
     // Faint colours gain more than strong ones.
-    float vivid = 1.0 - 0.12 * amount + u_param3.x * (1.0 - 0.75 * strong);
+    float vivid = 1.0 - 0.12 * amount + u_color * (1.0 - 0.75 * strong);
     return vec4(fitted(withTone(src.rgb, tone, newTone, vivid)), src.a);
 }
 
 void main()
 {
-    ivec2 size = ivec2(1.0 / u_param0.xy + 0.5);
-    float cell = max(u_param4.x, 1.0);
-    if (u_param4.y < 0.5) {
+    ivec2 size = ivec2(1.0 / u_texelSize + 0.5);
+    float cell = max(u_radius, 1.0);
+    if (u_step < 0.5) {
         fragColor = toneMapped(size, v_uv * vec2(size), cell);
         return;
     }
-    ivec2 at = ivec2(v_uv * u_param4.zw);
-    fragColor = u_param4.y < 1.5 ? gathered(size, at, cell) : smoothed(at);
+    ivec2 at = ivec2(v_uv * u_mapSize);
+    fragColor = u_step < 1.5 ? gathered(size, at, cell) : smoothed(at);
 }

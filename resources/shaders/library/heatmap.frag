@@ -8,13 +8,14 @@ layout(location = 0) out vec4 fragColor;
 layout(binding = 0) uniform sampler2D u_input;
 layout(binding = 1) uniform sampler2D u_lut;  // one row, cold to hot
 layout(std140, binding = 2) uniform LibraryUniforms {
-    vec4 u_param0;  // lutSize: x width of the palette, pixels
-    vec4 u_param1;  // mix: share of the palette's colours, 0..1
-    vec4 u_param2;  // contrast: -1..1
-    vec4 u_param3;  // gamma: exponent, below 1 makes midtones hotter
-    vec4 u_param4;  // reverse: 1 makes dark hot
-    vec4 u_param5;  // bands: number of steps; under 2 there are none
+    vec4 u_param0, u_param1, u_param2, u_param3, u_param4, u_param5;
 };
+#define u_lutSize u_param0.x   // x width of the palette, pixels
+#define u_mix u_param1.x       // share of the palette's colours, 0..1
+#define u_contrast u_param2.x  // -1..1
+#define u_gamma u_param3.x     // exponent, below 1 makes midtones hotter
+#define u_reverse u_param4.x   // 1 makes dark hot
+#define u_bands u_param5.x     // number of steps; under 2 there are none
 
 // Steps of equal width, their borders a pixel soft.
 float banded(float heat, float count)
@@ -29,13 +30,13 @@ float banded(float heat, float count)
 void main()
 {
     vec4 src = texture(u_input, v_uv);
-    float heat = pow(luminance(src.rgb), u_param3.x);
-    heat = curved(heat, u_param2.x);
-    if (u_param5.x > 1.5)
-        heat = banded(heat, u_param5.x);
-    heat = mix(heat, 1.0 - heat, u_param4.x);
+    float heat = pow(luminance(src.rgb), u_gamma);
+    heat = curved(heat, u_contrast);
+    if (u_bands > 1.5)
+        heat = banded(heat, u_bands);
+    heat = mix(heat, 1.0 - heat, u_reverse);
 
-    float width = max(u_param0.x, 1.0);
+    float width = max(u_lutSize, 1.0);
     vec3 color = texture(u_lut, vec2((heat * (width - 1.0) + 0.5) / width, 0.5)).rgb;
-    fragColor = vec4(mix(src.rgb, color, u_param1.x), src.a);
+    fragColor = vec4(mix(src.rgb, color, u_mix), src.a);
 }

@@ -11,14 +11,15 @@ layout(location = 0) in vec2 v_uv;
 layout(location = 0) out vec4 fragColor;
 layout(binding = 0) uniform sampler2D u_input;
 layout(std140, binding = 1) uniform LibraryUniforms {
-    vec4 u_param0;  // size: width and height, pixels
-    vec4 u_param1;  // angle: of the bands, radians
-    vec4 u_param2;  // rainbow: strength and number of the bands, 0..1
-    vec4 u_param3;  // foilScalePx: from crease to crease, pixels
-    vec4 u_param4;  // shimmer: play of light and glitter, 0..1
-    vec4 u_param5;  // relief: how deep the picture is embossed, 0..1
-    vec4 u_param6;  // blend: 0 the picture, 1 all foil
+    vec4 u_param0, u_param1, u_param2, u_param3, u_param4, u_param5, u_param6;
 };
+#define u_size u_param0.xy        // width and height, pixels
+#define u_angle u_param1.x        // of the bands, radians
+#define u_rainbow u_param2.x      // strength and number of the bands, 0..1
+#define u_foilScalePx u_param3.x  // from crease to crease, pixels
+#define u_shimmer u_param4.x      // play of light and glitter, 0..1
+#define u_relief u_param5.x       // how deep the picture is embossed, 0..1
+#define u_blend u_param6.x        // 0 the picture, 1 all foil
 
 const uint kSeed = 401u;
 
@@ -35,8 +36,8 @@ vec2 toneSlope(vec2 uv, vec2 reach)
 void main()
 {
     vec4 src = texture(u_input, v_uv);
-    vec2 size = u_param0.xy;
-    float scale = max(u_param3.x, 1.0);
+    vec2 size = u_size;
+    float scale = max(u_foilScalePx, 1.0);
     float diagonal = length(size);
     vec2 p = v_uv * size / scale;
     float tone = luminance(src.rgb);
@@ -47,18 +48,18 @@ void main()
     vec2 crease = gradientNoise2(folds, kSeed + 2u);
     vec2 slope = toneSlope(v_uv, max(0.0016 * diagonal, 1.0) / size);
     slope /= 1.0 + 0.5 * length(slope);
-    vec2 surface = 0.6 * wave + 0.3 * crease + 1.3 * u_param5.x * slope;
+    vec2 surface = 0.6 * wave + 0.3 * crease + 1.3 * u_relief * slope;
     vec3 normal = normalize(vec3(-surface, 1.6));
 
-    vec2 across = vec2(cos(u_param1.x), sin(u_param1.x));
-    float bands = mix(0.55, 1.7, u_param2.x);
-    float order = bands * (dot(p, across) + 0.8 * dot(surface, across) + 0.45 * tone * u_param5.x + 0.3 * wave.x);
+    vec2 across = vec2(cos(u_angle), sin(u_angle));
+    float bands = mix(0.55, 1.7, u_rainbow);
+    float order = bands * (dot(p, across) + 0.8 * dot(surface, across) + 0.45 * tone * u_relief + 0.3 * wave.x);
     vec3 colors = interference(order);
-    vec3 pastel = mix(vec3(1.0), 0.42 + 0.75 * colors, mix(0.1, 1.0, u_param2.x));
+    vec3 pastel = mix(vec3(1.0), 0.42 + 0.75 * colors, mix(0.1, 1.0, u_rainbow));
 
     vec3 light = normalize(vec3(-across, 1.1));
     float gleam = pow(max(dot(reflect(-light, normal), vec3(0.0, 0.0, 1.0)), 0.0), 7.0);
-    float sheen = 0.55 + (0.3 + 0.38 * u_param4.x) * sin(6.28318531 * (0.5 * order + dot(normal.xy, across)));
+    float sheen = 0.55 + (0.3 + 0.38 * u_shimmer) * sin(6.28318531 * (0.5 * order + dot(normal.xy, across)));
 
     // Glitter: flakes, each tilted its own way, of which some catch the light.
     float flake = 0.0032 * diagonal;
@@ -73,15 +74,15 @@ void main()
 
     float silver = mix(0.68, 1.1, sheen);
     vec3 foil = pastel * silver * mix(0.27, 1.02, pow(tone, 0.8));
-    foil += 0.4 * gleam * mix(vec3(1.0), colors, 0.35) + 0.1 * colors * u_param2.x * (1.0 - tone);
-    vec3 glint = u_param4.x * spark * (0.5 + colors);
+    foil += 0.4 * gleam * mix(vec3(1.0), colors, 0.35) + 0.1 * colors * u_rainbow * (1.0 - tone);
+    vec3 glint = u_shimmer * spark * (0.5 + colors);
     foil += glint;
     // The picture as ink on the foil: its dark parts hide it, its light ones let it shine.
     vec3 printed = src.rgb * pastel * (0.72 + 0.4 * silver);
-    vec3 shine = colors * u_param2.x * (0.05 + 0.28 * sheen * sheen) * (0.3 + 0.7 * tone) + 0.3 * gleam;
+    vec3 shine = colors * u_rainbow * (0.05 + 0.28 * sheen * sheen) * (0.3 + 0.7 * tone) + 0.3 * gleam;
     printed = blendScreen(clamp(printed, 0.0, 1.0), shine);
     printed += 0.6 * glint;
-    float blend = u_param6.x;
+    float blend = u_blend;
     vec3 rgb = mix(mix(src.rgb, printed, smoothstep(0.0, 0.5, blend)), foil, smoothstep(0.4, 1.0, blend) * 0.92);
     fragColor = vec4(clamp(rgb, 0.0, 1.0), src.a);
 }

@@ -8,15 +8,16 @@ layout(location = 0) in vec2 v_uv;
 layout(location = 0) out vec4 fragColor;
 layout(binding = 0) uniform sampler2D u_input;
 layout(std140, binding = 1) uniform LibraryUniforms {
-    vec4 u_param0;  // size: width and height, pixels
-    vec4 u_param1;  // edge_size: how far the line reaches into the picture, pixels
-    vec4 u_param2;  // roughness: 0, a straight line, to 1
-    vec4 u_param3;  // pattern_size: length of one form along the side, pixels
-    vec4 u_param4;  // detail: 0..1, fine forms upon the large ones, or unevenness of regular ones
-    vec4 u_param5;  // style: 0 torn, 1 deckle, 2 jagged, 3 zigzag, 4 scalloped, 5 perforated
-    vec4 u_param6;  // seed
-    vec4 u_param7;  // softness: width of the fade at the line, pixels
+    vec4 u_param0, u_param1, u_param2, u_param3, u_param4, u_param5, u_param6, u_param7;
 };
+#define u_size u_param0.xy         // width and height, pixels
+#define u_edge_size u_param1.x     // how far the line reaches into the picture, pixels
+#define u_roughness u_param2.x     // 0, a straight line, to 1
+#define u_pattern_size u_param3.x  // length of one form along the side, pixels
+#define u_detail u_param4.x        // 0..1, fine forms upon the large ones, or unevenness of regular ones
+#define u_style u_param5.x         // 0 torn, 1 deckle, 2 jagged, 3 zigzag, 4 scalloped, 5 perforated
+#define u_seed u_param6.x
+#define u_softness u_param7.x      // width of the fade at the line, pixels
 
 // Straight lines between points at random distances and heights, 0..1; about one point a unit.
 float brokenLine(float x, uint seed)
@@ -41,11 +42,11 @@ float brokenLine(float x, uint seed)
 // this length.
 float beyondLine(vec2 px, float along, float depth, float side, uint seed)
 {
-    float edge = u_param1.x;
-    float roughness = u_param2.x;
-    float detail = u_param4.x;
-    float pattern = max(u_param3.x, 1.0);
-    int style = int(u_param5.x + 0.5);
+    float edge = u_edge_size;
+    float roughness = u_roughness;
+    float detail = u_detail;
+    float pattern = max(u_pattern_size, 1.0);
+    int style = int(u_style + 0.5);
 
     if (style <= 1) {
         bool torn = style == 0;
@@ -85,12 +86,12 @@ float beyondLine(vec2 px, float along, float depth, float side, uint seed)
 
 void main()
 {
-    vec2 size = u_param0.xy;
+    vec2 size = u_size;
     vec2 px = v_uv * size;
     vec4 src = texture(u_input, v_uv);
-    uint seed = seedBits(u_param6.x);
-    bool perforated = u_param5.x > 4.5;
-    float reach = (perforated ? 0.5 * u_param1.x + 0.6 * u_param3.x : 1.3 * u_param1.x) + u_param7.x + 2.0;
+    uint seed = seedBits(u_seed);
+    bool perforated = u_style > 4.5;
+    float reach = (perforated ? 0.5 * u_edge_size + 0.6 * u_pattern_size : 1.3 * u_edge_size) + u_softness + 2.0;
 
     float beyond = reach;
     vec4 depths = vec4(px.y, size.x - px.x, size.y - px.y, px.x);
@@ -101,6 +102,6 @@ void main()
                                             seed + uint(100 * i)));
     }
     float width = max(0.7 * fwidth(beyond), 1e-3);
-    float covered = smoothstep(-width, width + u_param7.x, beyond);
+    float covered = smoothstep(-width, width + u_softness, beyond);
     fragColor = vec4(src.rgb, src.a * covered);
 }

@@ -12,14 +12,15 @@ layout(location = 0) in vec2 v_uv;
 layout(location = 0) out vec4 fragColor;
 layout(binding = 0) uniform sampler2D u_input;
 layout(std140, binding = 1) uniform LibraryUniforms {
-    vec4 u_param0;  // size: width and height of the picture, pixels
-    vec4 u_param1;  // facet size: side of a square, pixels, above 0
-    vec4 u_param2;  // variation: how strongly facets catch the light, 0..1
-    vec4 u_param3;  // saturation: 1 changes nothing, 0..2
-    vec4 u_param4;  // edge width: pixels
-    vec4 u_param5;  // edge colour
-    vec4 u_param6;  // seed: in the map
+    vec4 u_param0, u_param1, u_param2, u_param3, u_param4, u_param5, u_param6;
 };
+#define u_size u_param0.xy        // width and height of the picture, pixels
+#define u_facetSize u_param1.x    // side of a square, pixels, above 0
+#define u_variation u_param2.x    // how strongly facets catch the light, 0..1
+#define u_saturation u_param3.x   // 1 changes nothing, 0..2
+#define u_edgeWidth u_param4.x    // pixels
+#define u_edgeColor u_param5.rgb  // edge colour
+#define u_seed u_param6.x         // in the map
 
 struct Point
 {
@@ -93,33 +94,33 @@ vec4 facetAt(vec2 p, ivec2 origin)
     float distance = min(toLine(p, a.place, b.place), min(toLine(p, b.place, c.place), toLine(p, c.place, a.place)));
     ivec2 color = ivec2((nw.square.x + 1) * 3 + (falling == left ? 1 : 2), nw.square.y + 1);
     vec4 entry = fetchStackedMap(u_input, origin, color);
-    vec3 rgb = saturated(entry.rgb, u_param3.x);
-    float light = (2.0 * entry.a - 1.0) * u_param2.x;
+    vec3 rgb = saturated(entry.rgb, u_saturation);
+    float light = (2.0 * entry.a - 1.0) * u_variation;
     rgb = light > 0.0 ? mix(rgb, vec3(1.0), light * 0.3) : rgb * (1.0 + 0.45 * light);
     return vec4(rgb, max(distance, 0.0));
 }
 
 vec3 drawnAt(vec4 facet, float width)
 {
-    float line = coverage(facet.w * u_param1.x - 0.5 * max(width, 1.0)) * min(width, 1.0);
-    return mix(facet.rgb, u_param5.rgb, line);
+    float line = coverage(facet.w * u_facetSize - 0.5 * max(width, 1.0)) * min(width, 1.0);
+    return mix(facet.rgb, u_edgeColor, line);
 }
 
 void main()
 {
-    vec2 size = u_param0.xy;
-    float facetSize = max(u_param1.x, 0.01);
+    vec2 size = u_size;
+    float facetSize = max(u_facetSize, 0.01);
     ivec2 origin = mapOrigin(u_input, size);
     vec2 p = v_uv * size / facetSize;
     vec4 facet = facetAt(p, origin);
-    vec3 rgb = drawnAt(facet, u_param4.x);
+    vec3 rgb = drawnAt(facet, u_edgeWidth);
     if (facet.w * facetSize < 0.75) {
         // An edge crosses this pixel: four places of a turned square see how much lies on either side.
         vec3 sum = vec3(0.0);
         for (int i = 0; i < 4; ++i) {
             vec2 corner = vec2(i & 1, i >> 1) - 0.5;
             vec2 offset = vec2(0.5 * corner.x + 0.25 * corner.y, 0.5 * corner.y - 0.25 * corner.x);
-            sum += drawnAt(facetAt(p + offset / facetSize, origin), u_param4.x);
+            sum += drawnAt(facetAt(p + offset / facetSize, origin), u_edgeWidth);
         }
         rgb = 0.25 * sum;
     }

@@ -10,12 +10,11 @@
 layout(location = 0) in vec2 v_uv;
 layout(location = 0) out vec4 fragColor;
 layout(binding = 0) uniform sampler2D u_input;
-layout(std140, binding = 1) uniform LibraryUniforms {
-    vec4 u_param0;  // size: of the result, pixels
-    vec4 u_param1;  // direction: unit vector, y downward; (0, 0) follows the contours of the picture
-    vec4 u_param2;  // radiusPx: reach to either side, pixels of the result
-    vec4 u_param3;  // detail: how much of what differs in colour stays apart, 0..1
-};
+layout(std140, binding = 1) uniform LibraryUniforms { vec4 u_param0, u_param1, u_param2, u_param3; };
+#define u_size u_param0.xy       // of the result, pixels
+#define u_direction u_param1.xy  // unit vector, y downward; (0, 0) follows the contours of the picture
+#define u_radiusPx u_param2.x    // reach to either side, pixels of the result
+#define u_detail u_param3.x      // how much of what differs in colour stays apart, 0..1
 
 const int kMostTaps = 6;         // of each reach
 const float kCalm = 900.0;       // times the variance: 1 where a reach begins to count as an edge
@@ -39,11 +38,11 @@ void add(inout Reach reach, vec4 color, float weight)
 
 void main()
 {
-    vec2 texel = 1.0 / max(u_param0.xy, 1.0);
+    vec2 texel = 1.0 / max(u_size, 1.0);
     vec4 middle = texture(u_input, v_uv);
-    float radius = clamp(u_param2.x, 0.0, 64.0);
-    float keenness = kKeenest * u_param3.x * u_param3.x;
-    vec2 direction = u_param1.xy;
+    float radius = clamp(u_radiusPx, 0.0, 64.0);
+    float keenness = kKeenest * u_detail * u_detail;
+    vec2 direction = u_direction;
     if (dot(direction, direction) < 0.25)
         direction = contourDirection(structureTensor(u_input, v_uv, texel * max(0.4 * radius, 1.0))).xy;
 

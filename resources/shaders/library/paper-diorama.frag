@@ -9,14 +9,15 @@ layout(location = 0) out vec4 fragColor;
 layout(binding = 0) uniform sampler2D u_input;
 layout(binding = 1) uniform sampler2D u_soft;
 layout(std140, binding = 2) uniform LibraryUniforms {
-    vec4 u_param0;  // size: width and height, pixels
-    vec4 u_param1;  // render scale: pixels for one of the layer
-    vec4 u_param2;  // layers: a whole number, at least 2
-    vec4 u_param3;  // depth: length of the shadow of one sheet on the next, pixels
-    vec4 u_param4;  // light direction: unit vector towards the light, y grows downward
-    vec4 u_param5;  // palette: 0 original, 1 dusk, 2 forest, 3 ocean, 4 candy, 5 kraft, 6 white
-    vec4 u_param6;  // paper texture: 0..1
+    vec4 u_param0, u_param1, u_param2, u_param3, u_param4, u_param5, u_param6;
 };
+#define u_size u_param0.xy            // width and height, pixels
+#define u_renderScale u_param1.x      // pixels for one of the layer
+#define u_layers u_param2.x           // a whole number, at least 2
+#define u_depthPx u_param3.x          // length of the shadow of one sheet on the next, pixels
+#define u_lightDirection u_param4.xy  // unit vector towards the light, y grows downward
+#define u_palette u_param5.x          // 0 original, 1 dusk, 2 forest, 3 ocean, 4 candy, 5 kraft, 6 white
+#define u_paperTexture u_param6.x     // 0..1
 
 // From the sheet at the back to the one in front.
 const vec3 kPalettes[30] =
@@ -33,23 +34,23 @@ const vec3 kPalettes[30] =
            vec3(0.988, 0.984, 0.976), vec3(0.957, 0.949, 0.933), vec3(0.918, 0.906, 0.886), vec3(0.875, 0.859, 0.835),
            vec3(0.827, 0.808, 0.78));
 
-float unitLength() { return length(u_param0.xy) / 1000.0; }
+float unitLength() { return length(u_size) / 1000.0; }
 
 // How far in front a place lies: 0 at the back to the number of layers. The knife wobbles a little.
 float heightAt(vec2 px, float wobble)
 {
-    vec4 soft = texture(u_soft, px / u_param0.xy);
+    vec4 soft = texture(u_soft, px / u_size);
     float tone = luminance(soft.rgb);
     tone *= 1.3 - 0.3 * tone; // as many sheets for the shadows as for the lights
-    return clamp((1.0 - tone) * u_param2.x + wobble, 0.01, u_param2.x - 0.01);
+    return clamp((1.0 - tone) * u_layers + wobble, 0.01, u_layers - 0.01);
 }
 
 // dye: the Oklab colour of the picture.
 vec3 sheetColor(float sheet, vec3 dye)
 {
-    float last = max(u_param2.x - 1.0, 1.0);
+    float last = max(u_layers - 1.0, 1.0);
     float place = clamp(sheet / last, 0.0, 1.0);
-    int palette = int(u_param5.x + 0.5);
+    int palette = int(u_palette + 0.5);
     if (palette == 0) {
         // The paper is dyed in one tone; the picture gives it its hue.
         return oklabToEncoded(vec3(mix(0.97, 0.24, place), dye.yz * 1.25));
@@ -62,7 +63,7 @@ vec3 sheetColor(float sheet, vec3 dye)
 // Fibres and flakes, 0..2; every sheet has its own.
 float fibres(vec2 px, uint sheet)
 {
-    float scale = max(u_param1.x, 0.05);
+    float scale = max(u_renderScale, 0.05);
     vec2 p = px / scale;
     return 0.9 * valueNoise(p * vec2(0.11, 0.36), 50u + sheet) + 0.8 * valueNoise(p * vec2(0.31, 0.13), 70u + sheet)
         + 0.55 * valueNoise(p * 0.55, 90u + sheet);
@@ -72,10 +73,10 @@ void main()
 {
     vec4 src = texture(u_input, v_uv);
     vec3 soft = texture(u_soft, v_uv).rgb;
-    vec2 px = v_uv * u_param0.xy;
+    vec2 px = v_uv * u_size;
     float unit = unitLength();
-    float layers = max(u_param2.x, 2.0);
-    vec2 toLight = u_param4.xy;
+    float layers = max(u_layers, 2.0);
+    vec2 toLight = u_lightDirection;
 
     // The finer one breaks the steps that a tone of eight bits makes where it hardly changes.
     float wobble = 0.1 * gradientNoise(px / (32.0 * unit), 41u) + 0.03 * gradientNoise(px / (4.0 * unit), 42u);
@@ -98,7 +99,7 @@ void main()
     float sheet = upper - 1.0 + covered;
 
     // Sheets in front, towards the light, throw a shadow as long as they are high; it softens with the way.
-    float depth = u_param3.x;
+    float depth = u_depthPx;
     float shadow = 0.0;
     float contact = 0.0;
     const int kSteps = 9;
@@ -115,9 +116,9 @@ void main()
     shadow = clamp(shadow, 0.0, 1.0) * smoothstep(0.0, 1.0, depth);
 
     // The paper's surface in the same light, and the light that catches the rim of a cut.
-    float texture0 = u_param6.x;
+    float texture0 = u_paperTexture;
     uint which = uint(floor(sheet + 0.5));
-    float relief = fibres(px, which) - fibres(px + toLight * max(1.2 * u_param1.x, 0.5), which);
+    float relief = fibres(px, which) - fibres(px + toLight * max(1.2 * u_renderScale, 0.5), which);
     float flakes = valueNoise(px / (22.0 * unit), 60u + which) - 0.5;
     vec3 light = vec3(1.0 + texture0 * (0.42 * relief + 0.1 * flakes));
     float rim = (1.0 - smoothstep(0.4 * unit, 1.3 * unit, abs(fromCut - 0.6 * unit))) * step(0.0, fromCut)

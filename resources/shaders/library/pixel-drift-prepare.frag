@@ -7,13 +7,12 @@
 layout(location = 0) in vec2 v_uv;
 layout(location = 0) out vec4 fragColor;
 layout(binding = 0) uniform sampler2D u_input;
-layout(std140, binding = 1) uniform LibraryUniforms {
-    vec4 u_param0;  // sourceBatch: width and height, pixels; first line; number of lines
-    vec4 u_param1;  // atlasLayout: width, height; blocks of a line; slots of a block
-    vec4 u_param2;  // streak: pixels of a block; 1 walks along y; lines of a group, at least 1; seed
-    vec4 u_param3;  // thresholdOrder: lowest and highest brightness that takes part, 0..1; 1 sorts descending
-    vec4 u_param4;  // lineMapping: slope; across offset; 1 walks against the axis
-};
+layout(std140, binding = 1) uniform LibraryUniforms { vec4 u_param0, u_param1, u_param2, u_param3, u_param4; };
+#define u_sourceBatch u_param0     // width and height, pixels; first line; number of lines
+#define u_atlasLayout u_param1     // width, height; blocks of a line; slots of a block
+#define u_streak u_param2          // pixels of a block; 1 walks along y; lines of a group, at least 1; seed
+#define u_thresholdOrder u_param3  // lowest and highest brightness that takes part, 0..1; 1 sorts descending
+#define u_lineMapping u_param4     // slope; across offset; 1 walks against the axis
 
 const int kMostPixelsOfBin = 128;
 
@@ -21,26 +20,26 @@ float tone(vec4 color) { return dot(color.rgb, vec3(0.2126, 0.7152, 0.0722)); }
 
 bool eligible(vec4 color)
 {
-    return color.a > 1e-5 && tone(color) >= u_param3.x && tone(color) <= u_param3.y;
+    return color.a > 1e-5 && tone(color) >= u_thresholdOrder.x && tone(color) <= u_thresholdOrder.y;
 }
 
 void main()
 {
-    int blocks = int(u_param1.z);
-    int slots = int(u_param1.w);
-    int span = int(u_param2.x);
+    int blocks = int(u_atlasLayout.z);
+    int slots = int(u_atlasLayout.w);
+    int span = int(u_streak.x);
     ivec2 texel = ivec2(gl_FragCoord.xy);
-    int index = texel.y * int(u_param1.x) + texel.x;
+    int index = texel.y * int(u_atlasLayout.x) + texel.x;
     int localLine = index / (blocks * slots);
     int bin = index % slots;
     fragColor = vec4(-1.0, 0.0, 0.0, float(bin));
 
-    DriftLines lines = driftLines(u_param0, u_param2, u_param4);
-    int across = localLine + int(u_param0.z);
+    DriftLines lines = driftLines(u_sourceBatch, u_streak, u_lineMapping);
+    int across = localLine + int(u_sourceBatch.z);
     ivec2 line = clippedLine(lines, across);
-    if (localLine >= int(u_param0.w) || line.y <= line.x)
+    if (localLine >= int(u_sourceBatch.w) || line.y <= line.x)
         return;
-    int offset = blockOffset(across, span, u_param2.z, u_param2.w);
+    int offset = blockOffset(across, span, u_streak.z, u_streak.w);
     DriftBlock block = driftBlock(line, (index / slots) % blocks, span, offset);
     if (bin >= block.count)
         return;
@@ -55,6 +54,6 @@ void main()
         for (int i = 0; i < kMostPixelsOfBin && takesPart && first + i < last; ++i)
             takesPart = eligible(texelFetch(u_input, drifted(lines, first + i, across), 0));
     }
-    float key = u_param3.z > 0.5 ? 1.0 - tone(color) : tone(color);
+    float key = u_thresholdOrder.z > 0.5 ? 1.0 - tone(color) : tone(color);
     fragColor = vec4(takesPart ? 1.0 : 0.0, key, float(coordinate), float(bin));
 }

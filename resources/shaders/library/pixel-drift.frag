@@ -8,24 +8,23 @@ layout(location = 0) in vec2 v_uv;
 layout(location = 0) out vec4 fragColor;
 layout(binding = 0) uniform sampler2D u_input;
 layout(binding = 1) uniform sampler2D u_sorted;
-layout(std140, binding = 2) uniform LibraryUniforms {
-    vec4 u_param0;  // sourceBatch: width and height, pixels; first line; number of lines
-    vec4 u_param1;  // atlasLayout: width, height; blocks of a line; slots of a block
-    vec4 u_param2;  // streak: pixels of a block; 1 walks along y; lines of a group, at least 1; seed
-    vec4 u_param3;  // amount: share of the sorted picture, 0..1
-    vec4 u_param4;  // lineMapping: slope; across offset; 1 walks against the axis
-};
+layout(std140, binding = 2) uniform LibraryUniforms { vec4 u_param0, u_param1, u_param2, u_param3, u_param4; };
+#define u_sourceBatch u_param0  // width and height, pixels; first line; number of lines
+#define u_atlasLayout u_param1  // width, height; blocks of a line; slots of a block
+#define u_streak u_param2       // pixels of a block; 1 walks along y; lines of a group, at least 1; seed
+#define u_amount u_param3.x     // share of the sorted picture, 0..1
+#define u_lineMapping u_param4  // slope; across offset; 1 walks against the axis
 
 void main()
 {
-    DriftLines lines = driftLines(u_param0, u_param2, u_param4);
+    DriftLines lines = driftLines(u_sourceBatch, u_streak, u_lineMapping);
     ivec2 texel = ivec2(gl_FragCoord.xy);
     int major = lines.vertical ? texel.y : texel.x;
     int minor = lines.vertical ? texel.x : texel.y;
     int along = lines.reversed ? axisSize(lines) - 1 - major : major;
     int across = minor - sideStep(lines, along) + lines.acrossOffset;
-    int localLine = across - int(u_param0.z);
-    if (localLine < 0 || localLine >= int(u_param0.w))
+    int localLine = across - int(u_sourceBatch.z);
+    if (localLine < 0 || localLine >= int(u_sourceBatch.w))
         discard;
 
     vec4 source = texelFetch(u_input, texel, 0);
@@ -38,14 +37,14 @@ void main()
     if (along < line.x || along >= line.y)
         return;
 
-    int blocks = int(u_param1.z);
-    int slots = int(u_param1.w);
-    int span = int(u_param2.x);
-    int offset = blockOffset(across, span, u_param2.z, u_param2.w);
+    int blocks = int(u_atlasLayout.z);
+    int slots = int(u_atlasLayout.w);
+    int span = int(u_streak.x);
+    int offset = blockOffset(across, span, u_streak.z, u_streak.w);
     int blockIndex = (along - line.x + offset) / span;
     DriftBlock block = driftBlock(line, blockIndex, span, offset);
     int base = (localLine * blocks + blockIndex) * slots;
-    int width = int(u_param1.x);
+    int width = int(u_atlasLayout.x);
     int row = base / width;
     ivec2 first = ivec2(base - row * width, row); // of the block, whose entries lie in one row
     int slot = clamp(((2 * (along - block.start) + 1) * block.count) / (2 * block.pixels), 0, block.count - 1);
@@ -65,5 +64,5 @@ void main()
             color = mix(lowColor, highColor, clamp(position - float(left), 0.0, 1.0));
         }
     }
-    fragColor = vec4(clamp(mix(source.rgb, color, u_param3.x), 0.0, 1.0), source.a);
+    fragColor = vec4(clamp(mix(source.rgb, color, u_amount), 0.0, 1.0), source.a);
 }

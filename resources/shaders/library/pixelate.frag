@@ -9,14 +9,17 @@ layout(location = 0) in vec2 v_uv;
 layout(location = 0) out vec4 fragColor;
 layout(binding = 0) uniform sampler2D u_input;
 layout(std140, binding = 1) uniform LibraryUniforms {
-    vec4 u_param0;  // size: xy of the picture, pixels; zw of the grid, blocks
-    vec4 u_param1;  // block: x side in pixels; y the pass, 0 means, 1 colours, 2 enlarges
-    vec4 u_param2;  // palette: 0 original, 1 handheld, 2 8-bit, 3 console, 4 home computer, 5 amber, 6 black and white
-    vec4 u_param3;  // saturation: 1 changes nothing, 0..2
-    vec4 u_param4;  // contrast: 1 changes nothing, 0.5..2
-    vec4 u_param5;  // dither: 0..1
-    vec4 u_param6;  // outline: 0..1
+    vec4 u_param0, u_param1, u_param2, u_param3, u_param4, u_param5, u_param6, u_param7, u_param8;
 };
+#define u_size u_param0.xy       // of the picture, pixels
+#define u_block u_param1.x       // side, pixels
+#define u_palette u_param2.x     // 0 original, 1 handheld, 2 8-bit, 3 console, 4 home computer, 5 amber, 6 black and white
+#define u_saturation u_param3.x  // 1 changes nothing, 0..2
+#define u_contrast u_param4.x    // 1 changes nothing, 0.5..2
+#define u_dither u_param5.x      // 0..1
+#define u_outline u_param6.x     // 0..1
+#define u_gridSize u_param7.xy   // blocks
+#define u_step u_param8.x        // 0 means, 1 colours, 2 enlarges
 
 const vec3 kHandheld[4] = vec3[](vec3(0.059, 0.133, 0.106), vec3(0.173, 0.345, 0.216), vec3(0.486, 0.627, 0.216),
                                  vec3(0.745, 0.812, 0.416));
@@ -40,8 +43,8 @@ vec3 nearest(vec3 candidate, vec3 lab, vec3 best)
 // Colours to choose from are few, so lightness leads and the pattern of the dither fills the gaps.
 vec3 inPalette(vec3 color, float pattern)
 {
-    int palette = int(u_param2.x + 0.5);
-    float amount = u_param5.x;
+    int palette = int(u_palette + 0.5);
+    float amount = u_dither;
     if (palette == 0) {
         vec3 coarse = clamp(floor(color * 5.0 + 0.5 + pattern) / 5.0, 0.0, 1.0);
         return mix(color, coarse, amount);
@@ -68,21 +71,21 @@ vec3 inPalette(vec3 color, float pattern)
 
 vec4 meanOfBlock()
 {
-    vec2 cell = floor(v_uv * u_param0.zw);
-    int count = int(clamp(ceil(u_param1.x * 0.5), 1.0, 10.0));
+    vec2 cell = floor(v_uv * u_gridSize);
+    int count = int(clamp(ceil(u_block * 0.5), 1.0, 10.0));
     vec4 sum = vec4(0.0);
     for (int y = 0; y < count; ++y)
         for (int x = 0; x < count; ++x)
-            sum += premultiplied(readInside(u_input, (cell + (vec2(x, y) + 0.5) / float(count)) / u_param0.zw));
+            sum += premultiplied(readInside(u_input, (cell + (vec2(x, y) + 0.5) / float(count)) / u_gridSize));
     sum /= float(count * count);
     return vec4(straight(sum).rgb, sum.a);
 }
 
-vec4 blockAt(ivec2 cell) { return texelFetch(u_input, clamp(cell, ivec2(0), ivec2(u_param0.zw + 0.5) - 1), 0); }
+vec4 blockAt(ivec2 cell) { return texelFetch(u_input, clamp(cell, ivec2(0), ivec2(u_gridSize + 0.5) - 1), 0); }
 
 vec4 colorOfBlock()
 {
-    ivec2 cell = ivec2(v_uv * u_param0.zw);
+    ivec2 cell = ivec2(v_uv * u_gridSize);
     vec4 here = blockAt(cell);
     vec4 around[4] = vec4[](blockAt(cell + ivec2(1, 0)), blockAt(cell - ivec2(1, 0)), blockAt(cell + ivec2(0, 1)),
                             blockAt(cell - ivec2(0, 1)));
@@ -95,11 +98,11 @@ vec4 colorOfBlock()
         darker = max(darker, mix(1.0, luminance(around[i].rgb), around[i].a) - tone);
     }
     vec3 rgb = here.rgb + 0.3 * (here.rgb - mean);
-    rgb = mix(vec3(luminance(rgb)), rgb, u_param3.x);
-    rgb = clamp(contrasted(rgb, u_param4.x), 0.0, 1.0);
+    rgb = mix(vec3(luminance(rgb)), rgb, u_saturation);
+    rgb = clamp(contrasted(rgb, u_contrast), 0.0, 1.0);
 
     // Outlines as pixel artists set them: on the dark side of an edge, in a deep shade of the colour.
-    float line = smoothstep(0.08, 0.2, darker) * u_param6.x;
+    float line = smoothstep(0.08, 0.2, darker) * u_outline;
     rgb *= mix(vec3(1.0), vec3(0.16, 0.13, 0.2), line);
 
     float pattern = (kBayer[(cell.y & 3) * 4 + (cell.x & 3)] + 0.5) / 16.0 - 0.5;
@@ -109,16 +112,16 @@ vec4 colorOfBlock()
 // What a pixel sees of the blocks under it, read between the two nearest.
 vec4 enlarged()
 {
-    vec2 footprint = u_param0.zw / u_param0.xy;
-    vec2 far = v_uv * u_param0.zw + 0.5 * footprint;
+    vec2 footprint = u_gridSize / u_size;
+    vec2 far = v_uv * u_gridSize + 0.5 * footprint;
     vec2 cell = floor(far);
     vec2 share = clamp((far - cell) / footprint, 0.0, 1.0);
-    return readSmooth(u_input, (cell - 0.5 + share) / u_param0.zw);
+    return readSmooth(u_input, (cell - 0.5 + share) / u_gridSize);
 }
 
 void main()
 {
-    int stage = int(u_param1.y + 0.5);
+    int stage = int(u_step + 0.5);
     if (stage == 0)
         fragColor = meanOfBlock();
     else if (stage == 1)

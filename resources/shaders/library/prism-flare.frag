@@ -14,18 +14,20 @@ layout(location = 0) in vec2 v_uv;
 layout(location = 0) out vec4 fragColor;
 layout(binding = 0) uniform sampler2D u_input;
 layout(std140, binding = 1) uniform LibraryUniforms {
-    vec4 u_param0;  // size: xy width and height, pixels; zw those of a map of the light, pixels, below 0
-                    // where it is drawn, 0 where there is none
-    vec4 u_param1;  // start: the source, pixels
-    vec4 u_param2;  // end: where the light ends, pixels
-    vec4 u_param3;  // style: 0 beam, 1 rays, 2 crystal
-    vec4 u_param4;  // intensity: 0..1
-    vec4 u_param5;  // spread: how the light opens on its way, 0..1
-    vec4 u_param6;  // width: at its source, 0..1
-    vec4 u_param7;  // fragmentation: how much it is broken into pieces, 0..1
-    vec4 u_param8;  // ghosts: reflections along the line, 0..8
-    vec4 u_param9;  // seed: 0..999
+    vec4 u_param0, u_param1, u_param2, u_param3, u_param4, u_param5, u_param6, u_param7, u_param8, u_param9,
+         u_param10;
 };
+#define u_size u_param0.xy          // of the picture, pixels
+#define u_start u_param1.xy         // the source, pixels
+#define u_end u_param2.xy           // where the light ends, pixels
+#define u_style u_param3.x          // 0 beam, 1 rays, 2 crystal
+#define u_intensity u_param4.x      // 0..1
+#define u_spread u_param5.x         // how the light opens on its way, 0..1
+#define u_width u_param6.x          // at its source, 0..1
+#define u_fragmentation u_param7.x  // how much it is broken into pieces, 0..1
+#define u_ghosts u_param8.x         // reflections along the line, 0..8
+#define u_seed u_param9.x           // 0..999
+#define u_mapSize u_param10.xy      // of a map of the light, pixels; below 0 where it is drawn, 0 where there is none
 
 const int kMaximumGhosts = 8;
 
@@ -77,9 +79,9 @@ vec3 ghost(vec2 px, int index, float diagonal, uint seed)
 {
     vec3 h = hash23(ivec2(index, 3), seed);
     vec3 k = hash23(ivec2(index, 5), seed);
-    vec2 line = u_param2.xy - u_param1.xy;
+    vec2 line = u_end - u_start;
     float at = 0.3 + 1.15 * (float(index) + h.x) / float(kMaximumGhosts) * 1.1;
-    vec2 from = px - (u_param1.xy + line * at);
+    vec2 from = px - (u_start + line * at);
     float radius = diagonal * mix(0.012, 0.075, h.y * h.y);
     vec2 q = abs(from) / max(radius, 1.0);
     float hexagon = max(q.x * 0.866 + q.y * 0.5, q.y);
@@ -94,22 +96,22 @@ vec3 ghost(vec2 px, int index, float diagonal, uint seed)
 // What is added, as a share of the light that there is room for.
 vec3 exposure()
 {
-    vec2 size = u_param0.xy;
+    vec2 size = u_size;
     float diagonal = length(size);
     vec2 px = v_uv * size;
-    uint seed = seedBits(u_param9.x);
-    vec2 way = u_param2.xy - u_param1.xy;
+    uint seed = seedBits(u_seed);
+    vec2 way = u_end - u_start;
     float reach = max(length(way), 0.02 * diagonal);
     vec2 along = length(way) > 0.0 ? normalize(way) : vec2(0.8, 0.6);
-    vec2 from = px - u_param1.xy;
+    vec2 from = px - u_start;
     float a = dot(from, along) / reach;
     float across = dot(from, vec2(-along.y, along.x)) / diagonal;
     across += 0.05 * a * a * reach / diagonal; // no beam through glass is quite straight
-    float opening = 0.7 * u_param5.x * u_param5.x;
-    float halfWidth = mix(0.01, 0.16, u_param6.x) + max(a, 0.0) * reach / diagonal * opening;
+    float opening = 0.7 * u_spread * u_spread;
+    float halfWidth = mix(0.01, 0.16, u_width) + max(a, 0.0) * reach / diagonal * opening;
     float s = across / halfWidth;
-    int style = int(u_param3.x + 0.5);
-    float fragmentation = u_param7.x;
+    int style = int(u_style + 0.5);
+    float fragmentation = u_fragmentation;
 
     vec3 light;
     if (style == 0)
@@ -121,31 +123,31 @@ vec3 exposure()
     light *= 0.95 * mix(1.0, 0.4, clamp(a, 0.0, 1.0));
 
     // The source: a white core in a warm bloom.
-    float r = length(from) / (diagonal * mix(0.6, 1.4, u_param6.x));
+    float r = length(from) / (diagonal * mix(0.6, 1.4, u_width));
     light += vec3(1.0, 0.9, 0.74) * (1.1 * exp(-14.0 * r) + 0.5 * exp(-160.0 * r * r));
 
     for (int i = 0; i < kMaximumGhosts; ++i) {
-        float share = clamp(u_param8.x - float(i), 0.0, 1.0);
+        float share = clamp(u_ghosts - float(i), 0.0, 1.0);
         if (share <= 0.0)
             break;
         light += share * ghost(px, i, diagonal, seed + 20u);
     }
 
-    return 1.0 - exp(-1.5 * light * u_param4.x);
+    return 1.0 - exp(-1.5 * light * u_intensity);
 }
 
 void main()
 {
     vec4 src;
     vec3 exposed;
-    if (u_param0.z > 0.5) {
-        src = readStackedPicture(u_input, u_param0.xy, v_uv);
-        vec3 root = readStackedMap(u_input, u_param0.xy, u_param0.zw, v_uv).rgb;
+    if (u_mapSize.x > 0.5) {
+        src = readStackedPicture(u_input, u_size, v_uv);
+        vec3 root = readStackedMap(u_input, u_size, u_mapSize, v_uv).rgb;
         exposed = root * root;
     } else {
         src = texture(u_input, v_uv);
         exposed = exposure();
-        if (u_param0.z < -0.5) {
+        if (u_mapSize.x < -0.5) {
             // The root spends the levels of a byte where the eye does.
             fragColor = vec4(clamp(dithered(sqrt(exposed), gl_FragCoord.xy), 0.0, 1.0), 1.0);
             return;

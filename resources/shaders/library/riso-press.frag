@@ -10,15 +10,16 @@ layout(location = 0) in vec2 v_uv;
 layout(location = 0) out vec4 fragColor;
 layout(binding = 0) uniform sampler2D u_input;
 layout(std140, binding = 1) uniform LibraryUniforms {
-    vec4 u_param0;  // size: width and height, pixels
-    vec4 u_param1;  // palette: index of the inks below
-    vec4 u_param2;  // screenScale: pitch of the screens, pixels
-    vec4 u_param3;  // misregistration: shift of the inks, pixels
-    vec4 u_param4;  // inkDensity: 0..1
-    vec4 u_param5;  // grain: 0..1
-    vec4 u_param6;  // seed
-    vec4 u_param7;  // renderScale: not read, as all sizes come in pixels
+    vec4 u_param0, u_param1, u_param2, u_param3, u_param4, u_param5, u_param6, u_param7;
 };
+#define u_size u_param0.xy            // width and height, pixels
+#define u_palette u_param1.x          // index of the inks below
+#define u_screenScale u_param2.x      // pitch of the screens, pixels
+#define u_misregistration u_param3.x  // shift of the inks, pixels
+#define u_inkDensity u_param4.x       // 0..1
+#define u_grain u_param5.x            // 0..1
+#define u_seed u_param6.x
+#define u_renderScale u_param7.x      // not read, as all sizes come in pixels
 
 // Three inks a palette; a white one is none.
 const vec3 kInks[18] = vec3[](
@@ -74,11 +75,11 @@ float screened(vec2 pixel, float pitch, float angle, float share)
 
 void main()
 {
-    vec2 size = max(u_param0.xy, 1.0);
-    int palette = int(clamp(floor(u_param1.x + 0.5), 0.0, 5.0));
-    float pitch = max(u_param2.x, 1.0);
-    float grain = clamp(u_param5.x, 0.0, 1.0);
-    uint seed = seedBits(u_param6.x);
+    vec2 size = max(u_size, 1.0);
+    int palette = int(clamp(floor(u_palette + 0.5), 0.0, 5.0));
+    float pitch = max(u_screenScale, 1.0);
+    float grain = clamp(u_grain, 0.0, 1.0);
+    uint seed = seedBits(u_seed);
     float alpha = texture(u_input, v_uv).a;
     vec2 pixel = v_uv * size;
     vec2 place = pixel / pitch;
@@ -86,16 +87,16 @@ void main()
     vec4 inks[3];
     for (int i = 0; i < 3; ++i)
         inks[i] = density(kInks[3 * palette + i]);
-    float strength = mix(0.45, 1.25, u_param4.x);
+    float strength = mix(0.45, 1.25, u_inkDensity);
 
     vec3 print = kPaper * (1.0 + 0.05 * grain * gradientNoise(place * 0.35, seed + 50u));
     for (int i = 0; i < 3; ++i) {
         vec3 random = hash23(ivec2(i, palette), seed);
         float angle = 6.28318531 * (random.x + float(i) / 3.0);
-        vec2 shift = vec2(cos(angle), sin(angle)) * u_param3.x * mix(0.6, 1.0, random.y);
+        vec2 shift = vec2(cos(angle), sin(angle)) * u_misregistration * mix(0.6, 1.0, random.y);
         // Paper never feeds quite straight.
         vec2 fromMiddle = pixel - 0.5 * size;
-        shift += vec2(-fromMiddle.y, fromMiddle.x) * (random.z - 0.5) * 1.2 * u_param3.x / max(length(size), 1.0);
+        shift += vec2(-fromMiddle.y, fromMiddle.x) * (random.z - 0.5) * 1.2 * u_misregistration / max(length(size), 1.0);
         vec4 src = readInside(u_input, (pixel - shift) / size);
         vec3 color = mix(vec3(1.0), src.rgb, src.a);
         float share = separation(color, inks, strength)[i];

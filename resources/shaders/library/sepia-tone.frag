@@ -6,25 +6,24 @@
 layout(location = 0) in vec2 v_uv;
 layout(location = 0) out vec4 fragColor;
 layout(binding = 0) uniform sampler2D u_input;
-layout(std140, binding = 1) uniform LibraryUniforms {
-    vec4 u_param0;  // tintHS: x hue, 0..1; y saturation, 0..1
-    vec4 u_param1;  // brightness: -1..1
-    vec4 u_param2;  // contrast: -1..1
-    vec4 u_param3;  // intensity: share of the toned picture, 0..1
-};
+layout(std140, binding = 1) uniform LibraryUniforms { vec4 u_param0, u_param1, u_param2, u_param3; };
+#define u_tintHS u_param0.xy     // x hue, 0..1; y saturation, 0..1
+#define u_brightness u_param1.x  // -1..1
+#define u_contrast u_param2.x    // -1..1
+#define u_intensity u_param3.x   // share of the toned picture, 0..1
 
 const float kHueSpan = 0.035; // between the deepest shadow and the brightest light
 
 void main()
 {
     vec4 src = texture(u_input, v_uv);
-    float tone = pow(luminance(src.rgb), exp2(-0.9 * u_param1.x));
-    tone = curved(tone, u_param2.x);
+    float tone = pow(luminance(src.rgb), exp2(-0.9 * u_brightness));
+    tone = curved(tone, u_contrast);
 
-    vec3 hue = pureHue(u_param0.x + kHueSpan * (tone - 0.5));
+    vec3 hue = pureHue(u_tintHS.x + kHueSpan * (tone - 0.5));
     // Colour without brightness, most of it in the darker midtones; none in black, a trace in white.
-    vec3 chroma = (hue - luminance(hue)) * u_param0.y;
+    vec3 chroma = (hue - luminance(hue)) * u_tintHS.y;
     float profile = 1.7 * tone * (1.0 - tone) * (1.35 - 0.7 * tone) + 0.16 * tone * tone;
     vec3 toned = fitted(0.02 + tone * 0.955 + chroma * profile);
-    fragColor = vec4(mix(src.rgb, toned, u_param3.x), src.a);
+    fragColor = vec4(mix(src.rgb, toned, u_intensity), src.a);
 }

@@ -8,11 +8,11 @@
 layout(location = 0) in vec2 v_uv;
 layout(location = 0) out vec4 fragColor;
 layout(binding = 0) uniform sampler2D u_input;
-layout(std140, binding = 1) uniform LibraryUniforms {
-    vec4 u_param0;  // size: width and height, pixels
-    vec4 u_param1;  // strength: x 0..1; y step: 0 sharpen, 1 multiply by alpha, 2 divide by alpha
-    vec4 u_param2;  // radius: standard deviation of the surroundings, pixels
-};
+layout(std140, binding = 1) uniform LibraryUniforms { vec4 u_param0, u_param1, u_param2, u_param3; };
+#define u_size u_param0.xy     // width and height, pixels
+#define u_strength u_param1.x  // 0..1
+#define u_radius u_param2.x    // standard deviation of the surroundings, pixels
+#define u_step u_param3.x      // 0 sharpen, 1 multiply by alpha, 2 divide by alpha
 
 const float kReachPerRadius = 2.83; // of the disc whose bell has this standard deviation
 const float kMiddleWeight = 0.6;
@@ -22,21 +22,21 @@ const mat2 kGoldenTurn = mat2(-0.7373688, 0.6754903, -0.6754903, -0.7373688);
 void main()
 {
     vec4 src = texture(u_input, v_uv);
-    if (u_param1.y > 0.5) {
-        fragColor = u_param1.y < 1.5 ? premultiplied(src) : clamp(straight(src), 0.0, 1.0);
+    if (u_step > 0.5) {
+        fragColor = u_step < 1.5 ? premultiplied(src) : clamp(straight(src), 0.0, 1.0);
         return;
     }
 
     // Rings of six places over a disc, evenly, each turned against the one before; the weight (1 - r^2)^2 makes it a
     // bell. Six see lines of every direction alike, where four do not.
-    int rings = int(clamp(0.5 * u_param2.x + 0.5, 1.0, 3.0));
+    int rings = int(clamp(0.5 * u_radius + 0.5, 1.0, 3.0));
     float tone = luminance(src.rgb);
     float low = tone;
     float high = tone;
     float sum = tone * src.a * kMiddleWeight;
     float total = src.a * kMiddleWeight;
-    vec2 texel = 1.0 / u_param0.xy;
-    vec2 direction = vec2(0.9659258, 0.2588190) * kReachPerRadius * u_param2.x;
+    vec2 texel = 1.0 / u_size;
+    vec2 direction = vec2(0.9659258, 0.2588190) * kReachPerRadius * u_radius;
     int ring = 0;
     do { // asks at its end: a software renderer would run the body once more to find out
         float away = (float(ring) + 0.4) / float(rings); // squared
@@ -59,7 +59,7 @@ void main()
 
     float detail = total > 0.0 ? tone - sum / total : 0.0;
     detail *= mix(0.35, 1.0, smoothstep(0.0, 0.018, abs(detail)));
-    float sharp = tone + detail * 3.2 * u_param1.x;
+    float sharp = tone + detail * 3.2 * u_strength;
     float bounded = clamp(sharp, low, high);
     sharp = bounded + (sharp - bounded) * 0.4;
     fragColor = vec4(fitted(src.rgb + (sharp - tone)), src.a);

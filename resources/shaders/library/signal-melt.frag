@@ -11,14 +11,15 @@ layout(location = 0) in vec2 v_uv;
 layout(location = 0) out vec4 fragColor;
 layout(binding = 0) uniform sampler2D u_input;
 layout(std140, binding = 1) uniform LibraryUniforms {
-    vec4 u_param0;  // size: width and height, pixels
-    vec4 u_param1;  // tearAmount: how much of the picture breaks, 0..1
-    vec4 u_param2;  // blockSize: pixels
-    vec4 u_param3;  // displacement: the farthest that anything moves, pixels
-    vec4 u_param4;  // rgbSplit: between red and blue, pixels
-    vec4 u_param5;  // seed: 0..999
-    vec4 u_param6;  // mode: 0 melt, 1 digital, 2 analog
+    vec4 u_param0, u_param1, u_param2, u_param3, u_param4, u_param5, u_param6;
 };
+#define u_size u_param0.xy         // width and height, pixels
+#define u_tearAmount u_param1.x    // how much of the picture breaks, 0..1
+#define u_blockSize u_param2.x     // pixels
+#define u_displacement u_param3.x  // the farthest that anything moves, pixels
+#define u_rgbSplit u_param4.x      // between red and blue, pixels
+#define u_seed u_param5.x          // 0..999
+#define u_mode u_param6.x          // 0 melt, 1 digital, 2 analog
 
 // A place of the picture and what has become of the signal there.
 struct Signal
@@ -38,7 +39,7 @@ Signal melted(vec2 px, float block, float amount, float reach, uint seed)
     float thin = lineNoise(x * 2.3, seed + 1u);
     float fine = lineNoise(x * 9.0, seed + 2u);
     float string = 0.68 * wide + 0.26 * thin + 0.06 * fine;
-    float start = u_param0.y * mix(1.05, -0.25, amount)
+    float start = u_size.y * mix(1.05, -0.25, amount)
         + 6.0 * block * (lineNoise(x * 0.2, seed + 3u) - 0.5) + 4.0 * block * (0.5 - string);
     float below = max(px.y - start, 0.0);
     float pull = smoothstep(0.28, 0.72, string);
@@ -102,17 +103,17 @@ Signal taped(vec2 px, float block, float amount, float reach, uint seed)
 }
 
 // The picture goes on, mirrored, beyond its edges.
-vec4 read(vec2 px) { return readInside(u_input, abs(mod(px / u_param0.xy + 1.0, 2.0) - 1.0)); }
+vec4 read(vec2 px) { return readInside(u_input, abs(mod(px / u_size + 1.0, 2.0) - 1.0)); }
 
 void main()
 {
     vec4 src = texture(u_input, v_uv);
-    vec2 px = v_uv * u_param0.xy;
-    float amount = u_param1.x;
-    float block = max(u_param2.x, 1.0);
-    float reach = u_param3.x;
-    uint seed = seedBits(u_param5.x);
-    int mode = int(u_param6.x + 0.5);
+    vec2 px = v_uv * u_size;
+    float amount = u_tearAmount;
+    float block = max(u_blockSize, 1.0);
+    float reach = u_displacement;
+    uint seed = seedBits(u_seed);
+    int mode = int(u_mode + 0.5);
 
     Signal signal;
     if (mode == 0)
@@ -122,7 +123,7 @@ void main()
     else
         signal = taped(px, block, amount, reach, seed);
 
-    vec2 apart = vec2(u_param4.x * signal.split, 0.0);
+    vec2 apart = vec2(u_rgbSplit * signal.split, 0.0);
     vec4 red = read(signal.px - apart);
     vec4 green = read(signal.px);
     vec4 blue = read(signal.px + apart);

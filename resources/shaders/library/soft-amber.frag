@@ -6,12 +6,11 @@
 layout(location = 0) in vec2 v_uv;
 layout(location = 0) out vec4 fragColor;
 layout(binding = 0) uniform sampler2D u_input;
-layout(std140, binding = 1) uniform LibraryUniforms {
-    vec4 u_param0;  // strength: share of the whole look, 0..1
-    vec4 u_param1;  // warmth: 0..1
-    vec4 u_param2;  // pastel: how much softer tones and colours are, 0..1
-    vec4 u_param3;  // greens: how golden greens turn, 0..1
-};
+layout(std140, binding = 1) uniform LibraryUniforms { vec4 u_param0, u_param1, u_param2, u_param3; };
+#define u_strength u_param0.x  // share of the whole look, 0..1
+#define u_warmth u_param1.x    // 0..1
+#define u_pastel u_param2.x    // how much softer tones and colours are, 0..1
+#define u_greens u_param3.x    // how golden greens turn, 0..1
 
 const vec2 kAmber = vec2(0.019, 0.062); // direction of the light, Oklab a and b
 const float kGreen = 2.35;              // hue angles in Oklab, radians
@@ -20,8 +19,8 @@ const float kGreenReach = 0.85;
 void main()
 {
     vec4 src = texture(u_input, v_uv);
-    float warmth = u_param1.x;
-    float pastel = u_param2.x;
+    float warmth = u_warmth;
+    float pastel = u_pastel;
     // Squares and roots stand for the transfer function: near enough for a look, and a third of the cost.
     vec3 lab = linearToOklab(src.rgb * src.rgb);
 
@@ -31,7 +30,7 @@ void main()
     angle = angle < -0.8 ? angle + 6.28318531 : angle;
     float away = (angle - kGreen) / kGreenReach;
     float green = max(1.0 - away * away, 0.0);
-    green *= green * smoothstep(0.015, 0.06, chroma) * u_param3.x;
+    green *= green * smoothstep(0.015, 0.06, chroma) * u_greens;
     angle -= 0.55 * green;
     lab.yz = chroma * (1.0 - 0.3 * green) * vec2(cos(angle), sin(angle));
 
@@ -47,5 +46,5 @@ void main()
     lab.x = min(lab.x, 1.0 - 0.03 * warmth);
 
     vec3 graded = fitted(sqrt(max(oklabToLinear(lab), 0.0)));
-    fragColor = vec4(mix(src.rgb, graded, u_param0.x), src.a);
+    fragColor = vec4(mix(src.rgb, graded, u_strength), src.a);
 }

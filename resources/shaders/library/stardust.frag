@@ -12,17 +12,18 @@ layout(location = 0) out vec4 fragColor;
 layout(binding = 0) uniform sampler2D u_input;
 layout(binding = 1) uniform sampler2D u_mask; // alpha: the mask; red: the drifts of dust, drawn in a step before
 layout(std140, binding = 2) uniform LibraryUniforms {
-    vec4 u_param0;  // size: width and height, pixels
-    vec4 u_param1;  // sparkleColor: red, green, blue, 0..1
-    vec4 u_param2;  // sparkSeed
-    vec4 u_param3;  // fineSeed
-    vec4 u_param4;  // sparkParams: cell of a star, pixels; density 0..1; length of a ray, pixels; rays: 0 four, 1 six, 2 mixed
-    vec4 u_param5;  // fineParams: cell of a grain, pixels; density 0..1; diameter of a grain, pixels
-    vec4 u_param6;  // styleParams: glow 0..1; twinkle 0..1; variation of the colour 0..1
-    vec4 u_param7;  // renderParams: x: how much bright places are preferred, 0..1; y: 1 draws u_mask
-    vec4 u_param8;  // maskInverted: 1 draws outside the mask
-    vec4 u_param9;  // starsOnly: 1 leaves the picture out
+    vec4 u_param0, u_param1, u_param2, u_param3, u_param4, u_param5, u_param6, u_param7, u_param8, u_param9;
 };
+#define u_size u_param0.xy           // width and height, pixels
+#define u_sparkleColor u_param1.rgb  // red, green, blue, 0..1
+#define u_sparkSeed u_param2.x
+#define u_fineSeed u_param3.x
+#define u_sparkParams u_param4       // cell of a star, pixels; density 0..1; length of a ray, pixels; rays: 0 four, 1 six, 2 mixed
+#define u_fineParams u_param5        // cell of a grain, pixels; density 0..1; diameter of a grain, pixels
+#define u_styleParams u_param6       // glow 0..1; twinkle 0..1; variation of the colour 0..1
+#define u_renderParams u_param7.xy   // x: how much bright places are preferred, 0..1; y: 1 draws u_mask
+#define u_maskInverted u_param8.x    // 1 draws outside the mask
+#define u_starsOnly u_param9.x       // 1 leaves the picture out
 
 const float kJitter = 0.6;   // of a cell: 0.3 to either side, so that 0.7 are left to reach
 const float kDustJitter = 0.44;
@@ -31,19 +32,19 @@ const float kTurn = 6.28318531;
 float maskAt(vec2 uv)
 {
     float inside = texture(u_mask, uv).a;
-    return mix(inside, 1.0 - inside, u_param8.x);
+    return mix(inside, 1.0 - inside, u_maskInverted);
 }
 
 float preference(vec4 picture)
 {
-    return mix(1.0, smoothstep(0.15, 0.85, luminance(picture.rgb) * picture.a), u_param7.x);
+    return mix(1.0, smoothstep(0.15, 0.85, luminance(picture.rgb) * picture.a), u_renderParams.x);
 }
 
 // The colour of one sparkle, linear: the chosen one, with others to either side of its hue and some white ones.
 vec3 sparkleColor(float random)
 {
-    float variation = u_param6.z;
-    vec3 hsv = rgbToHsv(u_param1.rgb);
+    float variation = u_styleParams.z;
+    vec3 hsv = rgbToHsv(u_sparkleColor);
     float hue = hsv.x + variation * 0.35 * (random - 0.5);
     float saturation = clamp(max(hsv.y, 0.6 * variation) * (1.0 - 0.5 * variation * fract(random * 7.0)), 0.0, 1.0);
     return toLinear(hsvToRgb(vec3(hue, saturation, hsv.z)));
@@ -71,17 +72,17 @@ float starShape(vec2 p, float rays, float pixel)
     float core = max(0.055, 0.8 * pixel);
     float point = exp2(-2.0 * r * r / (core * core));
     float edge = max(1.0 - r, 0.0);
-    float glow = u_param6.x * edge * edge * (0.10 / (0.12 + 6.0 * r * r) + 0.05);
+    float glow = u_styleParams.x * edge * edge * (0.10 / (0.12 + 6.0 * r * r) + 0.05);
     return 1.3 * point + line + 0.55 * minorLine + glow;
 }
 
 // Linear light of the stars of one size class.
 vec3 stars(vec2 px, float scale, float density, uint seed)
 {
-    float cellSize = u_param4.x * scale;
+    float cellSize = u_sparkParams.x * scale;
     vec2 place = px / cellSize;
     ivec2 base = ivec2(floor(place - 0.5));
-    float reach = min(u_param4.z * scale / cellSize, 0.7); // a ray in cells
+    float reach = min(u_sparkParams.z * scale / cellSize, 0.7); // a ray in cells
     vec3 sum = vec3(0.0);
     for (int i = 0; i < 4; ++i) {
         ivec2 cell = base + ivec2(i & 1, i >> 1);
@@ -94,14 +95,14 @@ vec3 stars(vec2 px, float scale, float density, uint seed)
         vec3 character = hash23(cell, seed + 1u);
         if (character.x >= density)
             continue;
-        vec2 uv = center * cellSize / u_param0.xy;
+        vec2 uv = center * cellSize / u_size;
         float visible = maskAt(uv);
         if (visible <= 0.0)
             continue;
         visible *= preference(readInside(u_input, uv));
-        float rays = u_param4.w > 1.5 ? (character.y < 0.5 ? 4.0 : 6.0) : (u_param4.w > 0.5 ? 6.0 : 4.0);
-        float turn = (character.z - 0.5) * 0.35 * u_param6.y;
-        float brightness = mix(1.0, 0.25 + 1.25 * character.z * character.z, u_param6.y);
+        float rays = u_sparkParams.w > 1.5 ? (character.y < 0.5 ? 4.0 : 6.0) : (u_sparkParams.w > 0.5 ? 6.0 : 4.0);
+        float turn = (character.z - 0.5) * 0.35 * u_styleParams.y;
+        float brightness = mix(1.0, 0.25 + 1.25 * character.z * character.z, u_styleParams.y);
         float shape = starShape(rotation(turn) * p, rays, 1.0 / (size * cellSize));
         // The hot middle is white, whatever the colour.
         vec3 color = mix(sparkleColor(random.z), vec3(1.0), clamp(shape - 0.7, 0.0, 1.0));
@@ -113,8 +114,8 @@ vec3 stars(vec2 px, float scale, float density, uint seed)
 // Linear light of the grains of one size. Each lies whole within its own cell; turning them hides that.
 vec3 dust(vec2 px, float scale, float density, uint seed)
 {
-    float cellSize = u_param5.x * scale;
-    float radius = 0.5 * u_param5.z * scale;
+    float cellSize = u_fineParams.x * scale;
+    float radius = 0.5 * u_fineParams.z * scale;
     float drawn = max(radius, 0.6); // smaller than a pixel: larger and paler instead
     float pale = radius * radius / (drawn * drawn);
     vec2 place = mat2(0.8, 0.6, -0.6, 0.8) * px / cellSize;
@@ -128,31 +129,31 @@ vec3 dust(vec2 px, float scale, float density, uint seed)
     float d = length(place - center) * cellSize / (drawn * mix(1.0, 0.6, fract(chance * 389.0)));
     if (d >= 2.0)
         return vec3(0.0);
-    float sparkle = mix(0.7, 0.06 + 3.2 * pow(random.z, 5.0), u_param6.y);
+    float sparkle = mix(0.7, 0.06 + 3.2 * pow(random.z, 5.0), u_styleParams.y);
     float light = (exp2(-2.0 * d * d) - exp2(-8.0)) * pale * sparkle;
     return mix(sparkleColor(fract(chance * 977.0)), vec3(1.0), 0.35 * random.z * random.z) * light;
 }
 
 void main()
 {
-    vec2 px = v_uv * u_param0.xy;
-    uint fineSeed = seedBits(u_param3.x);
-    if (u_param7.y > 0.5) {
-        float drift = valueFbm(px / max(length(u_param0.xy), 1.0) * 9.0, 3.0, fineSeed);
+    vec2 px = v_uv * u_size;
+    uint fineSeed = seedBits(u_fineSeed);
+    if (u_renderParams.y > 0.5) {
+        float drift = valueFbm(px / max(length(u_size), 1.0) * 9.0, 3.0, fineSeed);
         fragColor = vec4(vec3(drift), texture(u_mask, v_uv).a);
         return;
     }
     vec4 src = texture(u_input, v_uv);
-    uint sparkSeed = seedBits(u_param2.x);
+    uint sparkSeed = seedBits(u_sparkSeed);
 
-    vec3 light = stars(px, 1.0, 0.55 * u_param4.y, sparkSeed) + stars(px, 0.42, 0.8 * u_param4.y, sparkSeed + 2u);
+    vec3 light = stars(px, 1.0, 0.55 * u_sparkParams.y, sparkSeed) + stars(px, 0.42, 0.8 * u_sparkParams.y, sparkSeed + 2u);
     float amount = maskAt(v_uv) * preference(src);
-    if (u_param5.y > 0.0 && amount > 0.0) {
-        float density = u_param5.y * (0.25 + 1.5 * smoothstep(0.35, 0.75, texture(u_mask, v_uv).r)) * amount;
+    if (u_fineParams.y > 0.0 && amount > 0.0) {
+        float density = u_fineParams.y * (0.25 + 1.5 * smoothstep(0.35, 0.75, texture(u_mask, v_uv).r)) * amount;
         light += 1.5 * (dust(px, 1.0, 0.5 * density, fineSeed + 11u) + dust(px, 0.55, density, fineSeed + 13u));
     }
 
-    if (u_param9.x > 0.5) {
+    if (u_starsOnly > 0.5) {
         vec3 shown = 1.0 - exp(-light);
         float alpha = max(shown.r, max(shown.g, shown.b));
         fragColor = vec4(toEncoded(shown / max(alpha, 1e-4)), toEncoded(vec3(alpha)).r * src.a);

@@ -10,16 +10,17 @@ layout(location = 0) in vec2 v_uv;
 layout(location = 0) out vec4 fragColor;
 layout(binding = 0) uniform sampler2D u_input;
 layout(std140, binding = 1) uniform LibraryUniforms {
-    vec4 u_param0;  // size: width and height, pixels
-    vec4 u_param1;  // dotSize: diameter of a dot in a middle tone, pixels
-    vec4 u_param2;  // density: 0..1; 0.5 keeps the tone of the picture
-    vec4 u_param3;  // contrast: 0..1; 0 keeps it
-    vec4 u_param4;  // inkColor: red, green, blue, 0..1
-    vec4 u_param5;  // paperColor: red, green, blue, 0..1
-    vec4 u_param6;  // paperTexture: 0..1
-    vec4 u_param7;  // seed
-    vec4 u_param8;  // renderScale: not read, as all sizes come in pixels
+    vec4 u_param0, u_param1, u_param2, u_param3, u_param4, u_param5, u_param6, u_param7, u_param8;
 };
+#define u_size u_param0.xy         // width and height, pixels
+#define u_dotSize u_param1.x       // diameter of a dot in a middle tone, pixels
+#define u_density u_param2.x       // 0..1; 0.5 keeps the tone of the picture
+#define u_contrast u_param3.x      // 0..1; 0 keeps it
+#define u_inkColor u_param4.rgb    // red, green, blue, 0..1
+#define u_paperColor u_param5.rgb  // red, green, blue, 0..1
+#define u_paperTexture u_param6.x  // 0..1
+#define u_seed u_param7.x
+#define u_renderScale u_param8.x   // not read, as all sizes come in pixels
 
 const float kPi = 3.14159265;
 const float kJitter = 0.72;
@@ -62,11 +63,11 @@ float neededArea(vec2 uv, float contrast, float exposure)
 
 void main()
 {
-    vec2 size = max(u_param0.xy, 1.0);
-    float pitch = max(u_param1.x, 0.6) * 0.92;
-    uint seed = seedBits(u_param7.x);
+    vec2 size = max(u_size, 1.0);
+    float pitch = max(u_dotSize, 0.6) * 0.92;
+    uint seed = seedBits(u_seed);
     float alpha = texture(u_input, v_uv).a;
-    float exposure = exp2(2.4 * (u_param2.x - 0.5));
+    float exposure = exp2(2.4 * (u_density - 0.5));
 
     vec2 p = v_uv * size / pitch;
     float pixel = 1.0 / pitch;
@@ -77,7 +78,7 @@ void main()
             ivec2 cell = home + ivec2(x, y);
             vec3 random = hash23(cell, seed);
             vec2 centre = vec2(cell) + 0.5 + kJitter * (random.xy - 0.5);
-            float area = neededArea(centre * pitch / size, u_param3.x, exposure);
+            float area = neededArea(centre * pitch / size, u_contrast, exposure);
             float ink = 1.0 - exp(-area);
             float radius = mix(0.34, 0.78, ink * ink) * mix(0.86, 1.12, random.z);
             float needed = area / (kPi * radius * radius);
@@ -98,15 +99,15 @@ void main()
     }
 
     // Tooth of the paper, in units of the dots, so that they shrink with them.
-    float texture01 = clamp(u_param6.x, 0.0, 1.0);
+    float texture01 = clamp(u_paperTexture, 0.0, 1.0);
     float cloud = fbm(p * 0.3, visibleOctaves(pitch / 0.3, 3.0), seed + 31u);
-    vec3 sheet = u_param5.rgb * (1.0 + 0.22 * texture01 * cloud);
+    vec3 sheet = u_paperColor * (1.0 + 0.22 * texture01 * cloud);
     // Tooth that the ink did not reach.
     float tooth = valueNoise(p * 1.7, seed + 45u) + 0.4 * cloud;
     // Dots too small for the pixels show as the tone that they have from afar.
     float resolved = smoothstep(1.0, 2.2, pitch);
-    float area = neededArea(v_uv, u_param3.x, exposure);
+    float area = neededArea(v_uv, u_contrast, exposure);
     float afar = exp(-area * (kGain + kDarkGain * area));
     float covered = (1.0 - mix(afar, paper, resolved)) * (1.0 - texture01 * smoothstep(0.80, 1.1, tooth));
-    fragColor = vec4(clamp(mix(sheet, u_param4.rgb, covered), 0.0, 1.0), alpha);
+    fragColor = vec4(clamp(mix(sheet, u_inkColor, covered), 0.0, 1.0), alpha);
 }

@@ -8,13 +8,14 @@ layout(location = 0) out vec4 fragColor;
 layout(binding = 0) uniform sampler2D u_input;
 layout(binding = 1) uniform sampler2D u_blurred; // the same picture out of focus, of any size
 layout(std140, binding = 2) uniform LibraryUniforms {
-    vec4 u_param0;  // size: width and height, pixels
-    vec4 u_param1;  // focusPosition: where the band crosses the middle, 0 top to 1 bottom
-    vec4 u_param2;  // focusWidth: from its middle to where the blur begins, in picture heights
-    vec4 u_param3;  // angle: radians, clockwise
-    vec4 u_param4;  // blurStrength: 0..1
-    vec4 u_param5;  // colorPunch: 0..1
+    vec4 u_param0, u_param1, u_param2, u_param3, u_param4, u_param5;
 };
+#define u_size u_param0.xy          // width and height, pixels
+#define u_focusPosition u_param1.x  // where the band crosses the middle, 0 top to 1 bottom
+#define u_focusWidth u_param2.x     // from its middle to where the blur begins, in picture heights
+#define u_angle u_param3.x          // radians, clockwise
+#define u_blurStrength u_param4.x   // 0..1
+#define u_colorPunch u_param5.x     // 0..1
 
 // Half-transparent edges, and what the blur has mixed with them, take no blur.
 float stableCoverage(float alpha) { return smoothstep(0.985, 0.9995, alpha); }
@@ -49,11 +50,11 @@ void main()
 {
     vec4 src = texture(u_input, v_uv);
     vec4 blurred = texture(u_blurred, v_uv);
-    float strength = u_param4.x;
-    float punch = u_param5.x;
-    vec2 aspect = vec2(u_param0.x / max(u_param0.y, 1.0), 1.0);
+    float strength = u_blurStrength;
+    float punch = u_colorPunch;
+    vec2 aspect = vec2(u_size.x / max(u_size.y, 1.0), 1.0);
 
-    float mask = lensMask((v_uv - vec2(0.5, u_param1.x)) * aspect, u_param3.x, u_param2.x, strength);
+    float mask = lensMask((v_uv - vec2(0.5, u_focusPosition)) * aspect, u_angle, u_focusWidth, strength);
     float stable = stableCoverage(src.a) * stableCoverage(blurred.a);
     float blurMix = clamp(mask * strength, 0.0, 1.0) * stable;
     vec3 color = mix(src.rgb, blurred.rgb, blurMix);

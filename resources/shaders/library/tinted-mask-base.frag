@@ -7,16 +7,17 @@ layout(binding = 0) uniform sampler2D u_input;
 layout(binding = 1) uniform sampler2D u_texture;
 layout(binding = 2) uniform sampler2D u_mask;
 layout(std140, binding = 3) uniform LibraryUniforms {
-    vec4 u_param0;  // size: width and height, pixels
-    vec4 u_param1;  // texSize: width and height of the tile at its own scale, pixels of the picture
-    vec4 u_param2;  // textureScale: of the tile, above 0
-    vec4 u_param3;  // inverted: 0 inside the mask, 1 outside
-    vec4 u_param4;  // offset: from layer to layer, in tiles
-    vec4 u_param5;  // intensity: 0..1
-    vec4 u_param6;  // color0: red, green, blue, 0..1
-    vec4 u_param7;  // color1
-    vec4 u_param8;  // color2
+    vec4 u_param0, u_param1, u_param2, u_param3, u_param4, u_param5, u_param6, u_param7, u_param8;
 };
+#define u_size u_param0.xy         // width and height, pixels
+#define u_texSize u_param1.xy      // width and height of the tile at its own scale, pixels of the picture
+#define u_textureScale u_param2.x  // of the tile, above 0
+#define u_inverted u_param3.x      // 0 inside the mask, 1 outside
+#define u_offset u_param4.xy       // from layer to layer, in tiles
+#define u_intensity u_param5.x     // 0..1
+#define u_color0 u_param6.rgb      // red, green, blue, 0..1
+#define u_color1 u_param7.rgb      // color1
+#define u_color2 u_param8.rgb      // color2
 
 // The tile's alpha, in tiles. Within half a texel of the tile's border its own filtering would not look over to the
 // other side, and a hairline would show.
@@ -39,12 +40,12 @@ void main()
 {
     vec4 src = texture(u_input, v_uv);
     float maskAlpha = texture(u_mask, v_uv).a;
-    float area = mix(maskAlpha, 1.0 - maskAlpha, u_param3.x) * u_param5.x;
-    vec2 tileScale = u_param0.xy / (u_param1.xy * max(u_param2.x, 0.01));
+    float area = mix(maskAlpha, 1.0 - maskAlpha, u_inverted) * u_intensity;
+    vec2 tileScale = u_size / (u_texSize * max(u_textureScale, 0.01));
     vec2 base = v_uv * tileScale;
     vec3 rgb = src.rgb;
-    rgb = mix(rgb, u_param6.rgb, patternAt(base) * area);
-    rgb = mix(rgb, u_param7.rgb, patternAt(base + u_param4.xy) * area);
-    rgb = mix(rgb, u_param8.rgb, patternAt(base + 2.0 * u_param4.xy) * area);
+    rgb = mix(rgb, u_color0, patternAt(base) * area);
+    rgb = mix(rgb, u_color1, patternAt(base + u_offset) * area);
+    rgb = mix(rgb, u_color2, patternAt(base + 2.0 * u_offset) * area);
     fragColor = vec4(rgb, src.a);
 }

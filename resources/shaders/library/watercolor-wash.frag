@@ -11,14 +11,15 @@ layout(location = 0) in vec2 v_uv;
 layout(location = 0) out vec4 fragColor;
 layout(binding = 0) uniform sampler2D u_input;
 layout(std140, binding = 1) uniform LibraryUniforms {
-    vec4 u_param0;  // size: width and height, pixels
-    vec4 u_param1;  // renderScale: pixels for a thousandth of the diagonal
-    vec4 u_param2;  // bleed: how far borders wander and colour runs, 0..1
-    vec4 u_param3;  // pigment: strength of colour, dried edges and granulation, 0..1
-    vec4 u_param4;  // detail: 0..1
-    vec4 u_param5;  // paper: relief of the paper, 0..1
-    vec4 u_param6;  // blend: how much wet washes run into one another, 0..1
+    vec4 u_param0, u_param1, u_param2, u_param3, u_param4, u_param5, u_param6;
 };
+#define u_size u_param0.xy        // width and height, pixels
+#define u_renderScale u_param1.x  // pixels for a thousandth of the diagonal
+#define u_bleed u_param2.x        // how far borders wander and colour runs, 0..1
+#define u_pigment u_param3.x      // strength of colour, dried edges and granulation, 0..1
+#define u_detail u_param4.x       // 0..1
+#define u_paper u_param5.x        // relief of the paper, 0..1
+#define u_blend u_param6.x        // how much wet washes run into one another, 0..1
 
 const vec3 kPaper = vec3(0.985, 0.975, 0.95);
 
@@ -38,12 +39,12 @@ vec2 valueNoises(vec2 p, uint seed)
 
 void main()
 {
-    vec2 size = max(u_param0.xy, 1.0);
-    float unit = max(u_param1.x, 0.001);
-    float bleed = clamp(u_param2.x, 0.0, 1.0);
-    float pigment = clamp(u_param3.x, 0.0, 1.0);
-    float detail = clamp(u_param4.x, 0.0, 1.0);
-    float wet = clamp(u_param6.x, 0.0, 1.0);
+    vec2 size = max(u_size, 1.0);
+    float unit = max(u_renderScale, 0.001);
+    float bleed = clamp(u_bleed, 0.0, 1.0);
+    float pigment = clamp(u_pigment, 0.0, 1.0);
+    float detail = clamp(u_detail, 0.0, 1.0);
+    float wet = clamp(u_blend, 0.0, 1.0);
     float alpha = texture(u_input, v_uv).a;
     vec2 p = v_uv * size / unit; // thousandths of the diagonal
 
@@ -93,12 +94,12 @@ void main()
 
     // How much pigment lies here: pools, flow, grains in the hollows.
     float flow = (valueNoise(kOctaveStep * p / 90.0, 41u) - 0.5) + 0.4 * (wide.x - wide.y) + 0.35 * gradientNoise(p / 13.0, 42u);
-    float granulation = -tooth * (0.35 + 1.1 * pigment) * u_param5.x;
+    float granulation = -tooth * (0.35 + 1.1 * pigment) * u_paper;
     float amount = 1.0 + pooled * (0.9 + 1.6 * pigment) - 0.5 * fringe + flow * (0.3 + 0.6 * pigment) + granulation * 1.2;
     wash = clamp(pigmented(wash, clamp(amount, 0.15, 3.2)), 0.0, 1.0);
 
     // Light across the paper.
     float slope = 0.55 * unit * (dFdx(tooth) + dFdy(tooth));
-    vec3 sheet = kPaper * (1.0 + u_param5.x * 0.22 * slope);
+    vec3 sheet = kPaper * (1.0 + u_paper * 0.22 * slope);
     fragColor = vec4(clamp(wash * sheet, 0.0, 1.0), alpha);
 }

@@ -11,18 +11,21 @@ layout(location = 0) out vec4 fragColor;
 layout(binding = 0) uniform sampler2D u_input;
 layout(binding = 1) uniform sampler2D u_soft;
 layout(std140, binding = 2) uniform LibraryUniforms {
-    vec4 u_param0;   // size: width and height, pixels
-    vec4 u_param1;   // lightCenter: where the sun stands, 0..1
-    vec4 u_param2;   // lightRadius: pixels
-    vec4 u_param3;   // flash: strength of the veiled sun, 0..1
-    vec4 u_param4;   // saturation: -1..1
-    vec4 u_param5;   // coldness: 0..1
-    vec4 u_param6;   // softness: share of a soft copy, 0..1
-    vec4 u_param7;   // frost: how far it reaches inward, 0..1
-    vec4 u_param8;   // storm: snow in the air, 0..1
-    vec4 u_param9;   // vignette: 0..1
-    vec4 u_param10;  // grain: x: 0..1; y: size of a grain, pixels
+    vec4 u_param0, u_param1, u_param2, u_param3, u_param4, u_param5, u_param6, u_param7, u_param8, u_param9,
+         u_param10, u_param11;
 };
+#define u_size u_param0.xy         // width and height, pixels
+#define u_lightCenter u_param1.xy  // where the sun stands, 0..1
+#define u_lightRadius u_param2.x   // pixels
+#define u_flash u_param3.x         // strength of the veiled sun, 0..1
+#define u_saturation u_param4.x    // -1..1
+#define u_coldness u_param5.x      // 0..1
+#define u_softness u_param6.x      // share of a soft copy, 0..1
+#define u_frost u_param7.x         // how far it reaches inward, 0..1
+#define u_storm u_param8.x         // snow in the air, 0..1
+#define u_vignette u_param9.x      // 0..1
+#define u_grain u_param10.x        // 0..1
+#define u_grainSize u_param11.x    // of a grain, pixels
 
 // One layer of flakes, each within its own cell. `p` in cells, `edge` their softness, `share` how many cells have one.
 float flakes(vec2 p, float radius, float edge, float share, uint seed)
@@ -70,21 +73,21 @@ void main()
 {
     vec4 src = texture(u_input, v_uv);
     vec4 softCopy = texture(u_soft, v_uv);
-    vec2 pixel = v_uv * u_param0.xy;
-    float unit = length(u_param0.xy) / 1000.0;
+    vec2 pixel = v_uv * u_size;
+    float unit = length(u_size) / 1000.0;
     vec2 p = pixel / unit;
 
     vec3 light = toLinear(src.rgb);
     vec3 soft = softenedLight(softCopy, light);
-    light = mix(light, soft, 0.45 * u_param6.x) + 0.22 * u_param6.x * soft * soft;
+    light = mix(light, soft, 0.45 * u_softness) + 0.22 * u_softness * soft * soft;
 
     // Frost on the glass: the picture behind it blurs, crystals catch the light.
     float frost = 0.0;
     float crystals = 0.0;
-    if (u_param7.x > 0.0) {
-        vec2 fromEdge = min(pixel, u_param0.xy - pixel) / unit;
+    if (u_frost > 0.0) {
+        vec2 fromEdge = min(pixel, u_size - pixel) / unit;
         float inward = 1.3 / (1.0 / max(fromEdge.x, 0.01) + 1.0 / max(fromEdge.y, 0.01));
-        float reach = 240.0 * u_param7.x;
+        float reach = 240.0 * u_frost;
         float rough = 0.7 * reach * (valueFbm(p * 0.013, 4.0, 8u) - 0.5) * 2.0;
         frost = 1.0 - smoothstep(0.0, max(reach, 1.0), inward + rough);
         frost *= frost;
@@ -95,12 +98,12 @@ void main()
         }
         light = mix(light, soft, min(1.3 * frost, 0.8));
     }
-    light *= lensFalloff(v_uv, u_param0.xy, 0.9 * u_param9.x);
+    light *= lensFalloff(v_uv, u_size, 0.9 * u_vignette);
 
-    float cold = u_param5.x;
+    float cold = u_coldness;
     vec3 lab = linearToOklab(rolledOff(light, 0.75));
     float skin = skinShare(lab.yz);
-    lab.yz = vibrantChroma(lab.yz, (1.0 + u_param4.x) * mix(1.0, 0.82, cold * (1.0 - 0.5 * skin)));
+    lab.yz = vibrantChroma(lab.yz, (1.0 + u_saturation) * mix(1.0, 0.82, cold * (1.0 - 0.5 * skin)));
     lab.z -= 0.35 * cold * max(lab.z, 0.0) * (1.0 - 0.75 * skin);
     float shadows = lab.x * (1.0 - lab.x) * (1.0 - lab.x) * 6.75;
     float lights = lab.x * lab.x * (1.0 - lab.x * lab.x) * 4.0;
@@ -108,13 +111,13 @@ void main()
     lab.x = mix(lab.x, 0.03 + 0.97 * pow(max(lab.x, 0.0), 0.93), cold); // snow light fills the shadows
     light = max(oklabToLinear(lab), 0.0);
 
-    float reach = length(pixel - u_param1.xy * u_param0.xy) / max(u_param2.x, 1e-3);
+    float reach = length(pixel - u_lightCenter * u_size) / max(u_lightRadius, 1e-3);
     float glow = 0.6 * exp(-2.0 * reach * reach) + 0.25 / (1.0 + 5.0 * reach * reach);
-    light += u_param3.x * glow * (0.3 + 0.7 * smoothstep(0.0, 0.6, linearLuminance(soft))) * vec3(0.80, 0.92, 1.0);
+    light += u_flash * glow * (0.3 + 0.7 * smoothstep(0.0, 0.6, linearLuminance(soft))) * vec3(0.80, 0.92, 1.0);
 
     light = mix(light, vec3(0.80, 0.90, 0.98), 0.22 * frost + 0.60 * crystals);
-    if (u_param8.x > 0.0) {
-        float storm = u_param8.x;
+    if (u_storm > 0.0) {
+        float storm = u_storm;
         mat2 wind = rotation(-0.45);
         vec2 sway = 6.0 * vec2(gradientNoise(p * 0.008, 60u), 0.0);
         float far = flakes(wind * (p + sway) / 13.0, 0.13, max(0.06, 0.05 / unit), 0.85 * storm, 70u);
@@ -127,6 +130,6 @@ void main()
     }
 
     vec3 rgb = toEncoded(rolledOff(light, 0.8));
-    rgb = withGrain(rgb, filmGrain(pixel, u_param10.y, 0.2, 43u) * u_param10.x * 0.5);
+    rgb = withGrain(rgb, filmGrain(pixel, u_grainSize, 0.2, 43u) * u_grain * 0.5);
     fragColor = vec4(clamp(dithered(rgb, gl_FragCoord.xy), 0.0, 1.0), src.a);
 }

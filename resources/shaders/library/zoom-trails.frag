@@ -8,15 +8,16 @@ layout(location = 0) in vec2 v_uv;
 layout(location = 0) out vec4 fragColor;
 layout(binding = 0) uniform sampler2D u_input;
 layout(std140, binding = 1) uniform LibraryUniforms {
-    vec4 u_param0;  // size: width and height, pixels
-    vec4 u_param1;  // center: pixels
-    vec4 u_param2;  // focusRadius: of the sharp disc, pixels
-    vec4 u_param3;  // length: of the way to the centre that a trail takes, 0..1
-    vec4 u_param4;  // amount: 0..1
-    vec4 u_param5;  // focusSoftness: 0, a hard rim of the disc, to 1, no rim to be seen
-    vec4 u_param6;  // glow: how much more than their share bright places leave in a trail, 0..1
-    vec4 u_param7;  // colorSplit: of the trail's ends into red and blue, 0..1
+    vec4 u_param0, u_param1, u_param2, u_param3, u_param4, u_param5, u_param6, u_param7;
 };
+#define u_size u_param0.xy          // width and height, pixels
+#define u_center u_param1.xy        // pixels
+#define u_focusRadius u_param2.x    // of the sharp disc, pixels
+#define u_length u_param3.x         // of the way to the centre that a trail takes, 0..1
+#define u_amount u_param4.x         // 0..1
+#define u_focusSoftness u_param5.x  // 0, a hard rim of the disc, to 1, no rim to be seen
+#define u_glow u_param6.x           // how much more than their share bright places leave in a trail, 0..1
+#define u_colorSplit u_param7.x     // of the trail's ends into red and blue, 0..1
 
 const int kPlaces = 10;
 const float kGlowGain = 14.0;
@@ -25,27 +26,27 @@ const float kGlowGain = 14.0;
 void main()
 {
     vec4 src = texture(u_input, v_uv);
-    vec2 center = u_param1.xy / u_param0.xy;
+    vec2 center = u_center / u_size;
     vec2 fromCenter = v_uv - center;
-    float distance = length(fromCenter * u_param0.xy);
+    float distance = length(fromCenter * u_size);
 
     // 0 in the sharp disc, 1 outside it.
-    float rim = u_param2.x * u_param5.x + 0.004 * length(u_param0.xy);
-    float inner = u_param2.x - 0.35 * rim;
-    float outer = u_param2.x + 1.6 * rim;
+    float rim = u_focusRadius * u_focusSoftness + 0.004 * length(u_size);
+    float inner = u_focusRadius - 0.35 * rim;
+    float outer = u_focusRadius + 1.6 * rim;
     float outside = smoothstep(inner, outer, distance);
     if (outside <= 0.0) {
         fragColor = src;
         return;
     }
     // Steps of equal ratio: passes of different lengths then add up.
-    float way = log(1.0 - min(u_param3.x, 0.95)) * outside;
+    float way = log(1.0 - min(u_length, 0.95)) * outside;
 
     float places = float(kPlaces);
     float nearer = exp(0.5 * way / places);
     float next = nearer * nearer;
-    float glow = kGlowGain * u_param6.x;
-    vec3 split = u_param7.x * vec3(1.0, 0.0, -1.0);
+    float glow = kGlowGain * u_glow;
+    vec3 split = u_colorSplit * vec3(1.0, 0.0, -1.0);
     vec3 sum = vec3(0.0);
     vec3 total = vec3(0.0);
     for (int i = 0; i < kPlaces; ++i) {
@@ -61,5 +62,5 @@ void main()
         nearer *= next;
     }
     vec3 trail = mix(src.rgb, sum / max(total, 1e-4), step(1e-3, total));
-    fragColor = vec4(mix(src.rgb, trail, u_param4.x * outside), src.a);
+    fragColor = vec4(mix(src.rgb, trail, u_amount * outside), src.a);
 }

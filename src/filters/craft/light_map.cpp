@@ -9,9 +9,8 @@ namespace zm {
 FilterRenderResult renderWithLightMap(const FilterRenderRequest &request, LibraryUniformBlock block, int reduction)
 {
     const QSize size = request.size();
-    const auto setMap = [&](int width, int height) {
-        block.setVec4("u_size"_L1, size.width(), size.height(), width, height);
-    };
+    block.setSize("u_size"_L1, size);
+    const auto setMap = [&](int width, int height) { block.setVec2("u_mapSize"_L1, width, height); };
     if (reduction < 2) {
         setMap(0, 0);
         return request.singlePass(block);

@@ -22,7 +22,7 @@ PassChain::Picture addSmoothing(PassChain &chain, PassChain::Picture input, cons
                                 double radius, double detail)
 {
     LibraryUniformBlock block(u"paper-diorama-smooth"_s);
-    block.setVec2("u_size"_L1, size.width(), size.height());
+    block.setSize("u_size"_L1, size);
     block.setVec2("u_direction"_L1, direction.x(), direction.y());
     block.setFloat("u_radiusPx"_L1, radius);
     block.setFloat("u_detail"_L1, detail);

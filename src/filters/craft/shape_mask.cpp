@@ -60,14 +60,13 @@ double featherSigma(double feather, const QSize &imageSize)
     return std::clamp(feather, 0.0, 100.0) * kFeatherPerSide * std::min(imageSize.width(), imageSize.height());
 }
 
-PassChain::Picture addShapeMask(PassChain &chain, const FilterRenderRequest &request, const ShapeMaskDefaults &defaults)
+PassChain::Picture addShapeMask(PassChain &chain, const FilterRenderRequest &request)
 {
-    const ParameterValues &values = request.parameters;
     const QSizeF box = request.bounds.size();
-    const QPainterPath path = shapeMaskPath(values.string(u"mask"_s, defaults.generatorId), {},
-                                            values.maskTransform(u"mask.transform"_s, defaults.transform), box);
+    const QPainterPath path =
+        shapeMaskPath(request.text(u"mask"_s), {}, request.maskTransform(u"mask.transform"_s), box);
     // A soft mask has nothing to show between the pixels of a smaller picture, which the shader's sampler enlarges.
-    const double sigma = featherSigma(request.number(u"mask.feather"_s, defaults.feather), request.size());
+    const double sigma = featherSigma(request.number(u"mask.feather"_s), request.size());
     const double scale = std::min(kSoftMaskSigma / std::max(sigma, kSoftMaskSigma), 1.0);
     const QSize size = (QSizeF(request.size()) * scale).toSize().expandedTo({1, 1});
     return chain.gaussianBlur(chain.source(filledShapeMask(path, box, size)), sigma * scale);

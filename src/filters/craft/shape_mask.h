@@ -19,18 +19,9 @@ QImage filledShapeMask(const QPainterPath &path, const QSizeF &boxSize, const QS
 /// How soft a feather of 0..100 is: pixels of a mask of this size.
 double featherSigma(double feather, const QSize &imageSize);
 
-/// What the mask controls of a filter read where nothing is set.
-struct ShapeMaskDefaults
-{
-    QString generatorId;
-    MaskTransform transform;
-    double feather = 0.0;
-};
-
 /// The mask of the controls "mask", "mask.transform" and "mask.feather" in a chain: its alpha is the coverage, to be
 /// read with linear filtering; "mask.inverted" is left to the shader.
-PassChain::Picture addShapeMask(PassChain &chain, const FilterRenderRequest &request,
-                                const ShapeMaskDefaults &defaults);
+PassChain::Picture addShapeMask(PassChain &chain, const FilterRenderRequest &request);
 
 /// The mask of a vignette that has no controls of its own: a soft ellipse in a picture of a box of `size` units, small
 /// and to be read with linear filtering, whose alpha is 1 in the middle and falls to 0 at the corners. The ellipse

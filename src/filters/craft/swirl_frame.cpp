@@ -11,7 +11,7 @@ namespace zm {
 PassChain::Picture addSwirlFrame(PassChain &chain, PassChain::Picture picture, PassChain::Picture background,
                                  const SwirlFrameSettings &settings)
 {
-    const QSizeF size = chain.size(picture);
+    const QSize size = chain.size(picture);
     LibraryUniformBlock block(u"frame-swirl"_s);
     block.setFloat("u_swirlAngle"_L1, qDegreesToRadians(settings.swirlDegrees));
     block.setFloat("u_swirlRadius"_L1, settings.swirlReach);
@@ -20,11 +20,12 @@ PassChain::Picture addSwirlFrame(PassChain &chain, PassChain::Picture picture, P
     block.setFloat("u_thumbScale"_L1, settings.pictureScale);
     block.setFloat("u_thumbAlpha"_L1, settings.pictureOpacity);
     block.setFloat("u_thumbTilt"_L1, qDegreesToRadians(settings.pictureTiltDegrees));
-    block.setVec2("u_maskFeather"_L1, settings.feather, settings.fadeShare);
+    block.setFloat("u_maskFeather"_L1, settings.feather);
+    block.setFloat("u_fadeShare"_L1, settings.fadeShare);
     block.setFloat("u_ovalShape"_L1, settings.ovalShape);
-    block.setFloat("u_aspectRatio"_L1, size.width() / size.height());
-    block.setVec2("u_size"_L1, size.width(), size.height());
-    return chain.libraryShader(block.shaderId(), size.toSize(), {background, picture}, block.bytes());
+    block.setFloat("u_aspectRatio"_L1, double(size.width()) / size.height());
+    block.setSize("u_size"_L1, size);
+    return chain.libraryShader(block.shaderId(), size, {background, picture}, block.bytes());
 }
 
 } // namespace zm

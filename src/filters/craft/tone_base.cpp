@@ -21,8 +21,10 @@ int cells(int pixels, double cell)
 LibraryUniformBlock toneBaseBlock(const ToneBase &base, ToneBaseStage stage)
 {
     LibraryUniformBlock block(u"hdr-photo"_s);
-    block.setVec2("u_texelSize"_L1, 1.0 / base.pictureSize.width(), 1.0 / base.pictureSize.height());
-    block.setVec4("u_radius"_L1, base.cell, double(stage), base.mapSize.width(), base.mapSize.height());
+    block.setTexelSize("u_texelSize"_L1, base.pictureSize);
+    block.setFloat("u_radius"_L1, base.cell);
+    block.setFloat("u_step"_L1, double(stage));
+    block.setSize("u_mapSize"_L1, base.mapSize);
     return block;
 }
 

@@ -1,5 +1,4 @@
-#include "filters/library_filter.h"
-#include "filters/library_filters.h"
+#include "filters/craft/recipe.h"
 
 #include <cmath>
 
@@ -10,31 +9,19 @@ namespace zm {
 namespace {
 
 // The rim of the picture, lit from the top left.
-class BevelFilter final : public LibraryFilter
+Recipe bevel()
 {
-public:
-    BevelFilter()
-        : LibraryFilter(u"bevel"_s)
-    {
-    }
-
-    FilterRenderResult render(const FilterRenderRequest &request) const override
-    {
-        LibraryUniformBlock block(u"bevel"_s);
-        block.setVec2("u_size"_L1, request.image.width(), request.image.height());
-        block.setFloat("u_bevel"_L1, std::round(request.pixels(u"size"_s, 6.0)));
-        block.setFloat("u_strength"_L1, request.number(u"strength"_s, 1.0));
-        block.setFloat("u_smoothness"_L1, request.number(u"smoothness"_s, 0.5));
-        block.setFloat("u_sign"_L1, request.choice(u"mode"_s, {"0"_L1, "1"_L1}) == 1 ? -1.0 : 1.0);
-        return request.singlePass(block);
-    }
-};
+    return RecipePass("bevel")
+        .pictureSize("u_size")
+        .computed("u_bevel", [](const FilterRenderRequest &request) { return std::round(request.pixels(u"size"_s)); })
+        .number("u_strength", "strength")
+        .number("u_smoothness", "smoothness")
+        .computed("u_sign",
+                  [](const FilterRenderRequest &request) { return request.choice(u"mode"_s) == 1 ? -1.0 : 1.0; });
+}
 
 } // namespace
 
-std::unique_ptr<Filter> makeBevelFilter()
-{
-    return std::make_unique<BevelFilter>();
-}
+ZM_LIBRARY_EFFECT(Bevel, RecipeFilter, u"bevel"_s, bevel())
 
 } // namespace zm

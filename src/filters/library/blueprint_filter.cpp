@@ -1,6 +1,5 @@
 #include "filters/craft/map_size.h"
 #include "filters/library_filter.h"
-#include "filters/library_filters.h"
 
 #include <algorithm>
 
@@ -16,29 +15,25 @@ constexpr double kReachInMap = 1.6; // of the gradient, pixels of the map of ton
 class BlueprintFilter final : public LibraryFilter
 {
 public:
-    BlueprintFilter()
-        : LibraryFilter(u"blueprint"_s)
-    {
-    }
+    using LibraryFilter::LibraryFilter;
 
     FilterRenderResult render(const FilterRenderRequest &request) const override
     {
-        const double width = request.image.width();
-        const double height = request.image.height();
         LibraryUniformBlock block(u"blueprint"_s);
-        const double reach = std::max(1.4 * request.diagonalPixels(u"edgeRadius"_s, 0.8), 0.8);
+        const double reach = std::max(1.4 * request.diagonalPixels(u"edgeRadius"_s), 0.8);
         const int reduction = std::max(int(reach / kReachInMap), 1);
         const QSize tonesSize = mapSize(request.size(), reduction);
-        block.setVec4("u_size"_L1, width, height, tonesSize.width(), tonesSize.height());
-        block.setVec2("u_texelSize"_L1, 1.0 / width, 1.0 / height);
-        block.setColor("u_tint"_L1, request.parameters.color(u"tint"_s, QColor(0x12, 0x41, 0x8c)));
-        block.setColor("u_lineColor"_L1, request.parameters.color(u"lineColor"_s, QColor(0xee, 0xf6, 0xff)));
-        block.setFloat("u_intensity"_L1, request.percent(u"intensity"_s, 55.0));
-        block.setFloat("u_edgeStrength"_L1, request.percent(u"edgeStrength"_s, 60.0));
-        block.setFloat("u_tintMix"_L1, request.percent(u"tintMix"_s, 100.0));
-        block.setFloat("u_gridSize"_L1, request.diagonalPixels(u"gridSize"_s, 16.0));
-        block.setFloat("u_gridOpacity"_L1, request.percent(u"gridOpacity"_s, 32.0));
-        block.setColor("u_gridColor"_L1, request.parameters.color(u"gridColor"_s, QColor(0xa9, 0xcd, 0xf7)));
+        block.setSize("u_size"_L1, request.size());
+        block.setTexelSize("u_texelSize"_L1, request.size());
+        block.setSize("u_mapSize"_L1, tonesSize);
+        block.setColor("u_tint"_L1, request.color(u"tint"_s));
+        block.setColor("u_lineColor"_L1, request.color(u"lineColor"_s));
+        block.setFloat("u_intensity"_L1, request.percent(u"intensity"_s));
+        block.setFloat("u_edgeStrength"_L1, request.percent(u"edgeStrength"_s));
+        block.setFloat("u_tintMix"_L1, request.percent(u"tintMix"_s));
+        block.setFloat("u_gridSize"_L1, request.diagonalPixels(u"gridSize"_s));
+        block.setFloat("u_gridOpacity"_L1, request.percent(u"gridOpacity"_s));
+        block.setColor("u_gridColor"_L1, request.color(u"gridColor"_s));
 
         PassChain chain;
         const PassChain::Picture input = chain.source(request.image);
@@ -52,9 +47,6 @@ public:
 
 } // namespace
 
-std::unique_ptr<Filter> makeBlueprintFilter()
-{
-    return std::make_unique<BlueprintFilter>();
-}
+ZM_LIBRARY_EFFECT(Blueprint, BlueprintFilter, u"blueprint"_s)
 
 } // namespace zm

@@ -1,7 +1,6 @@
 #include "filters/craft/brush_coverage.h"
 #include "filters/craft/coverage.h"
 #include "filters/library_filter.h"
-#include "filters/library_filters.h"
 
 using namespace Qt::StringLiterals;
 
@@ -16,20 +15,17 @@ constexpr double kSteeper = 2.2;
 class BrushstrokeFrameFilter final : public LibraryFilter
 {
 public:
-    BrushstrokeFrameFilter()
-        : LibraryFilter(u"brushstroke-photo-frame"_s)
-    {
-    }
+    using LibraryFilter::LibraryFilter;
 
     FilterRenderResult render(const FilterRenderRequest &request) const override
     {
         BrushCoverageSettings settings;
-        settings.strokes = request.number(u"strokes"_s, 8.0);
-        settings.directionDegrees = request.number(u"direction"_s, -4.0);
-        settings.margin = request.number(u"margin"_s, 30.0) / 1000.0;
-        settings.roughness = request.percent(u"roughness"_s, 60.0);
-        settings.dryness = request.percent(u"dryness"_s, 50.0);
-        settings.seed = quint32(request.number(u"seed"_s, 3.0));
+        settings.strokes = request.number(u"strokes"_s);
+        settings.directionDegrees = request.number(u"direction"_s);
+        settings.margin = request.number(u"margin"_s) / 1000.0;
+        settings.roughness = request.percent(u"roughness"_s);
+        settings.dryness = request.percent(u"dryness"_s);
+        settings.seed = quint32(request.number(u"seed"_s));
         const QImage mask = brushCoverage(request.size(), settings);
         if (mask.isNull())
             return request.unchanged();
@@ -41,9 +37,6 @@ public:
 
 } // namespace
 
-std::unique_ptr<Filter> makeBrushstrokeFrameFilter()
-{
-    return std::make_unique<BrushstrokeFrameFilter>();
-}
+ZM_LIBRARY_EFFECT(BrushstrokeFrame, BrushstrokeFrameFilter, u"brushstroke-photo-frame"_s)
 
 } // namespace zm

@@ -1,5 +1,4 @@
 #include "filters/library_filter.h"
-#include "filters/library_filters.h"
 
 using namespace Qt::StringLiterals;
 
@@ -10,21 +9,18 @@ namespace {
 class ColorAdjustFilter final : public LibraryFilter
 {
 public:
-    ColorAdjustFilter()
-        : LibraryFilter(u"color-adjust"_s)
-    {
-    }
+    using LibraryFilter::LibraryFilter;
 
     FilterRenderResult render(const FilterRenderRequest &request) const override
     {
         ColorAdjustment adjustment;
-        adjustment.brightness = request.percent(u"brightness"_s, 0.0);
-        adjustment.saturation = request.percent(u"saturation"_s, 0.0);
-        adjustment.hue = request.percent(u"hue"_s, 0.0);
-        adjustment.contrast = request.percent(u"contrast"_s, 0.0);
-        adjustment.exposure = request.percent(u"exposure"_s, 0.0);
-        adjustment.temperature = request.percent(u"temperature"_s, 0.0);
-        adjustment.gamma = request.percent(u"gamma"_s, 0.0);
+        adjustment.brightness = request.percent(u"brightness"_s);
+        adjustment.saturation = request.percent(u"saturation"_s);
+        adjustment.hue = request.percent(u"hue"_s);
+        adjustment.contrast = request.percent(u"contrast"_s);
+        adjustment.exposure = request.percent(u"exposure"_s);
+        adjustment.temperature = request.percent(u"temperature"_s);
+        adjustment.gamma = request.percent(u"gamma"_s);
         if (adjustment == ColorAdjustment{})
             return request.unchanged();
 
@@ -35,9 +31,6 @@ public:
 
 } // namespace
 
-std::unique_ptr<Filter> makeColorAdjustFilter()
-{
-    return std::make_unique<ColorAdjustFilter>();
-}
+ZM_LIBRARY_EFFECT(ColorAdjust, ColorAdjustFilter, u"color-adjust"_s)
 
 } // namespace zm

@@ -1,6 +1,5 @@
 #include "filters/craft/patch_smoothing.h"
 #include "filters/library_filter.h"
-#include "filters/library_filters.h"
 
 #include <cmath>
 
@@ -19,29 +18,26 @@ constexpr double kForm = 3.0; // the width of the smallest forms in the working 
 class ComicBookFilter final : public LibraryFilter
 {
 public:
-    ComicBookFilter()
-        : LibraryFilter(u"comic-book"_s)
-    {
-    }
+    using LibraryFilter::LibraryFilter;
 
     FilterRenderResult render(const FilterRenderRequest &request) const override
     {
         LibraryUniformBlock block(u"comic-book"_s);
-        block.setVec2("u_size"_L1, request.image.width(), request.image.height());
-        block.setFloat("u_style"_L1, request.choice(u"style"_s, {"sunday"_L1, "pulp"_L1, "noir"_L1}));
-        block.setFloat("u_ink"_L1, request.percent(u"ink"_s, 65.0));
-        block.setFloat("u_levels"_L1, request.number(u"levels"_s, 6.0));
-        block.setFloat("u_dotSize"_L1, request.diagonalPixels(u"dotSize"_s, 4.0));
-        block.setFloat("u_colorPunch"_L1, request.percent(u"colorPunch"_s, 45.0));
-        block.setFloat("u_brightnessCorrection"_L1, request.percent(u"brightness"_s, 25.0));
-        block.setFloat("u_renderScale"_L1, std::hypot(request.image.width(), request.image.height()) / kLineDiagonal);
+        block.setSize("u_size"_L1, request.size());
+        block.setFloat("u_style"_L1, request.choice(u"style"_s));
+        block.setFloat("u_ink"_L1, request.percent(u"ink"_s));
+        block.setFloat("u_levels"_L1, request.number(u"levels"_s));
+        block.setFloat("u_dotSize"_L1, request.diagonalPixels(u"dotSize"_s));
+        block.setFloat("u_colorPunch"_L1, request.percent(u"colorPunch"_s));
+        block.setFloat("u_brightnessCorrection"_L1, request.percent(u"brightness"_s));
+        block.setFloat("u_renderScale"_L1, request.diagonal() / kLineDiagonal);
 
         PassChain chain;
-        const double simplify = request.percent(u"simplify"_s, 50.0);
+        const double simplify = request.percent(u"simplify"_s);
         if (simplify <= 0.0)
             return request.chained(chain, addPass(chain, block, {chain.source(request.image)}));
         // Fewer and clearer forms, as an inker sees them.
-        const double form = std::hypot(request.image.width(), request.image.height()) * kLargestForm * simplify;
+        const double form = request.diagonal() * kLargestForm * simplify;
         const PassChain::Picture forms = addFlatPatches(chain, addWorkingCopy(chain, request, form, kForm), kForm, 0.5);
         return chainedWithAlpha(request, chain, addPass(chain, block, {addEnlargement(chain, forms, request.size())}));
     }
@@ -49,9 +45,6 @@ public:
 
 } // namespace
 
-std::unique_ptr<Filter> makeComicBookFilter()
-{
-    return std::make_unique<ComicBookFilter>();
-}
+ZM_LIBRARY_EFFECT(ComicBook, ComicBookFilter, u"comic-book"_s)
 
 } // namespace zm

@@ -1,5 +1,5 @@
+#include "filters/craft/film_look.h"
 #include "filters/library_filter.h"
-#include "filters/library_filters.h"
 
 #include <cmath>
 
@@ -12,16 +12,12 @@ namespace {
 class DreamyBlendFilter final : public LibraryFilter
 {
 public:
-    DreamyBlendFilter()
-        : LibraryFilter(u"dreamy-blend"_s)
-    {
-    }
+    using LibraryFilter::LibraryFilter;
 
     FilterRenderResult render(const FilterRenderRequest &request) const override
     {
-        const double glow = request.percent(u"glow"_s, 35.0);
-        const double sharpening = request.percent(u"sharpen"_s, 25.0);
-        const double diagonal = std::hypot(request.image.width(), request.image.height());
+        const double glow = request.percent(u"glow"_s);
+        const double sharpening = request.percent(u"sharpen"_s);
 
         LibraryUniformBlock energy(u"halation-highlights"_s);
         energy.setFloat("u_threshold"_L1, 0.25);
@@ -29,19 +25,20 @@ public:
         LibraryUniformBlock bloom(u"halation"_s);
         bloom.setFloat("u_strength"_L1, 0.75 * glow);
         LibraryUniformBlock wash(u"dreamy-blend"_s);
-        wash.setVec2("u_size"_L1, request.image.width(), request.image.height());
-        wash.setColor("u_tint"_L1, request.parameters.color(u"tint"_s, QColor(242, 167, 195)));
-        wash.setFloat("u_tintAmount"_L1, request.percent(u"tintAmount"_s, 50.0));
-        wash.setFloat("u_colorSpread"_L1, request.percent(u"colorSpread"_s, 60.0));
-        wash.setFloat("u_maskSize"_L1, request.percent(u"maskSize"_s, 55.0));
-        wash.setFloat("u_maskFeather"_L1, request.percent(u"maskFeather"_s, 70.0));
-        wash.setFloat("u_maskExpo"_L1, 1.5 * request.percent(u"maskExpo"_s, 40.0));
-        wash.setFloat("u_lightness"_L1, request.percent(u"lightness"_s, 10.0));
-        wash.setVec2("u_sharpen"_L1, sharpening, request.renderScale());
+        wash.setSize("u_size"_L1, request.size());
+        wash.setColor("u_tint"_L1, request.color(u"tint"_s));
+        wash.setFloat("u_tintAmount"_L1, request.percent(u"tintAmount"_s));
+        wash.setFloat("u_colorSpread"_L1, request.percent(u"colorSpread"_s));
+        wash.setFloat("u_maskSize"_L1, request.percent(u"maskSize"_s));
+        wash.setFloat("u_maskFeather"_L1, request.percent(u"maskFeather"_s));
+        wash.setFloat("u_maskExpo"_L1, 1.5 * request.percent(u"maskExpo"_s));
+        wash.setFloat("u_lightness"_L1, request.percent(u"lightness"_s));
+        wash.setFloat("u_sharpen"_L1, sharpening);
+        wash.setFloat("u_sharpenReach"_L1, request.renderScale());
         LibraryUniformBlock sharpen(u"sharpen"_s);
-        sharpen.setVec2("u_size"_L1, request.image.width(), request.image.height());
+        sharpen.setSize("u_size"_L1, request.size());
         sharpen.setFloat("u_strength"_L1, 0.5 * sharpening);
-        sharpen.setFloat("u_radius"_L1, 0.8 * request.renderScale());
+        sharpen.setFloat("u_radius"_L1, kSharpenRadius * request.renderScale());
 
         PassChain chain;
         PassChain::Picture picture = chain.source(request.image);
@@ -49,7 +46,8 @@ public:
             // With nothing to subtract the glow lies on the lights too, not only beside them.
             const PassChain::Picture nothing = chain.source(blackPixel());
             const PassChain::Picture lights = addPass(chain, energy, {picture});
-            picture = addPass(chain, bloom, {picture, nothing, chain.reducedBlur(lights, kGlowSize * diagonal)});
+            picture =
+                addPass(chain, bloom, {picture, nothing, chain.reducedBlur(lights, kBloomSize * request.diagonal())});
         }
         picture = addPass(chain, wash, {picture});
         if (sharpening > 0.0)
@@ -58,7 +56,7 @@ public:
     }
 
 private:
-    static constexpr double kGlowSize = 0.014; ///< sigma, as a share of the diagonal
+    static constexpr double kBloomSize = 0.014; ///< sigma, as a share of the diagonal
 
     static QImage blackPixel()
     {
@@ -70,9 +68,6 @@ private:
 
 } // namespace
 
-std::unique_ptr<Filter> makeDreamyBlendFilter()
-{
-    return std::make_unique<DreamyBlendFilter>();
-}
+ZM_LIBRARY_EFFECT(DreamyBlend, DreamyBlendFilter, u"dreamy-blend"_s)
 
 } // namespace zm

@@ -1,5 +1,5 @@
+#include "filters/craft/film_look.h"
 #include "filters/library_filter.h"
-#include "filters/library_filters.h"
 
 #include <array>
 
@@ -45,43 +45,36 @@ constexpr Stock kStocks[] = {
 class FilmGraderFilter final : public LibraryFilter
 {
 public:
-    FilmGraderFilter()
-        : LibraryFilter(u"film-grader"_s)
-    {
-    }
+    using LibraryFilter::LibraryFilter;
 
     FilterRenderResult render(const FilterRenderRequest &request) const override
     {
-        const Stock &stock =
-            kStocks[request.choice(u"style"_s,
-                                   {"negative"_L1, "slide"_L1, "teal-orange"_L1, "bleach-bypass"_L1, "faded-print"_L1,
-                                    "cross-process"_L1, "tungsten"_L1, "seventies"_L1, "mono"_L1})];
+        const Stock &stock = kStocks[request.choice(u"style"_s)];
 
         LibraryUniformBlock film(u"film-grader"_s);
-        film.setVec2("u_size"_L1, request.image.width(), request.image.height());
+        film.setSize("u_size"_L1, request.size());
         film.setVec4("u_style"_L1, stock.tone[0], stock.tone[1], stock.tone[2], stock.tone[3]);
-        film.setVec4("u_strength"_L1, request.percent(u"strength"_s, 100.0), stock.fadedBlack[0], stock.fadedBlack[1],
-                     stock.fadedBlack[2]);
-        film.setVec4("u_saturation"_L1, request.percent(u"saturation"_s, 0.0), stock.shadows[0], stock.shadows[1], 0.0);
-        film.setVec4("u_contrast"_L1, request.percent(u"contrast"_s, 0.0), stock.lights[0], stock.lights[1], 0.0);
-        film.setFloat("u_fade"_L1, request.percent(u"fade"_s, 10.0));
-        film.setVec2("u_grain"_L1, request.percent(u"grain"_s, 25.0) * stock.grain, kGrainSize * request.renderScale());
-        film.setVec4("u_vignette"_L1, request.percent(u"vignette"_s, 30.0), stock.palette[0], stock.palette[1],
-                     stock.palette[2]);
-        film.setFloat("u_artifacts"_L1, request.percent(u"artifacts"_s, 0.0));
-        film.setVec2("u_seed"_L1, request.number(u"seed"_s, 1.0), stock.palette[3]);
+        film.setFloat("u_strength"_L1, request.percent(u"strength"_s));
+        film.setVec4("u_fadedBlack"_L1, stock.fadedBlack[0], stock.fadedBlack[1], stock.fadedBlack[2], 0.0);
+        film.setFloat("u_saturation"_L1, request.percent(u"saturation"_s));
+        film.setVec2("u_shadowTint"_L1, stock.shadows[0], stock.shadows[1]);
+        film.setFloat("u_contrast"_L1, request.percent(u"contrast"_s));
+        film.setVec2("u_lightTint"_L1, stock.lights[0], stock.lights[1]);
+        film.setFloat("u_fade"_L1, request.percent(u"fade"_s));
+        film.setFloat("u_grain"_L1, request.percent(u"grain"_s) * stock.grain);
+        film.setFloat("u_grainSize"_L1, kFilmGrainSize * request.renderScale());
+        film.setFloat("u_vignette"_L1, request.percent(u"vignette"_s));
+        film.setVec2("u_hueAxis"_L1, stock.palette[0], stock.palette[1]);
+        film.setFloat("u_hueDraw"_L1, stock.palette[2]);
+        film.setFloat("u_dyeDensity"_L1, stock.palette[3]);
+        film.setFloat("u_artifacts"_L1, request.percent(u"artifacts"_s));
+        film.setFloat("u_seed"_L1, request.number(u"seed"_s));
         return request.singlePass(film);
     }
-
-private:
-    static constexpr double kGrainSize = 1.7; ///< layer pixels
 };
 
 } // namespace
 
-std::unique_ptr<Filter> makeFilmGraderFilter()
-{
-    return std::make_unique<FilmGraderFilter>();
-}
+ZM_LIBRARY_EFFECT(FilmGrader, FilmGraderFilter, u"film-grader"_s)
 
 } // namespace zm

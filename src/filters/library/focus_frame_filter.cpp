@@ -3,7 +3,6 @@
 #include "filters/craft/shape_mask.h"
 #include "filters/craft/silhouette.h"
 #include "filters/library_filter.h"
-#include "filters/library_filters.h"
 
 #include <QPainter>
 
@@ -64,41 +63,35 @@ void mixIn(QImage &outside, const QImage &image, const QImage &mask, bool invert
 class FocusFrameFilter final : public LibraryFilter
 {
 public:
-    FocusFrameFilter()
-        : LibraryFilter(u"focus-frame"_s)
-    {
-    }
+    using LibraryFilter::LibraryFilter;
 
     FilterRenderResult render(const FilterRenderRequest &request) const override
     {
-        const ParameterValues &values = request.parameters;
         const QSizeF box = request.bounds.size();
-        const bool inverted = values.boolean(u"mask.inverted"_s, false);
+        const bool inverted = request.flag(u"mask.inverted"_s);
         const QPainterPath path =
-            shapeMaskPath(values.string(u"mask"_s, u"rounded-rect"_s), {},
-                          values.maskTransform(u"mask.transform"_s, {.scaleX = 0.7, .scaleY = 0.7}), box);
+            shapeMaskPath(request.text(u"mask"_s), {}, request.maskTransform(u"mask.transform"_s), box);
         const QImage shape = filledShapeMask(path, box, request.size());
         QImage result = surroundings(request);
         if (result.isNull() || shape.isNull())
             return request.unchanged();
 
-        if (const double strength = std::clamp(request.percent(u"shadow"_s, 55.0), 0.0, 1.0); strength > 0.0)
+        if (const double strength = std::clamp(request.percent(u"shadow"_s), 0.0, 1.0); strength > 0.0)
             castShadow(request, shape, inverted, strength, result);
         const QImage mask =
-            request.renderer->gaussianBlur(shape, featherSigma(request.number(u"mask.feather"_s, 0.0), request.size()));
+            request.renderer->gaussianBlur(shape, featherSigma(request.number(u"mask.feather"_s), request.size()));
         if (mask.isNull())
             return request.unchanged();
         mixIn(result, request.image, mask, inverted);
 
-        if (const double line = request.diagonalPixels(u"lineWidth"_s, 3.0); line > 0.0) {
+        if (const double line = request.diagonalPixels(u"lineWidth"_s); line > 0.0) {
             QPainter painter(&result);
             painter.setRenderHint(QPainter::Antialiasing);
             painter.setCompositionMode(QPainter::CompositionMode_SourceAtop);
             const QTransform toPixels =
                 QTransform::fromScale(result.width() / box.width(), result.height() / box.height());
-            painter.strokePath(
-                toPixels.map(path),
-                QPen(values.color(u"lineColor"_s, Qt::white), line, Qt::SolidLine, Qt::RoundCap, Qt::MiterJoin));
+            painter.strokePath(toPixels.map(path),
+                               QPen(request.color(u"lineColor"_s), line, Qt::SolidLine, Qt::RoundCap, Qt::MiterJoin));
         }
         return request.result(result);
     }
@@ -107,10 +100,10 @@ private:
     /// The picture blurred and toned down.
     static QImage surroundings(const FilterRenderRequest &request)
     {
-        const double sigma = 0.5 * request.diagonalPixels(u"blur"_s, 16.0);
+        const double sigma = 0.5 * request.diagonalPixels(u"blur"_s);
         ColorAdjustment tone;
-        tone.exposure = -0.6 * request.percent(u"darken"_s, 30.0);
-        tone.saturation = -request.percent(u"desaturate"_s, 35.0);
+        tone.exposure = -0.6 * request.percent(u"darken"_s);
+        tone.saturation = -request.percent(u"desaturate"_s);
         if (hasTransparency(request.image))
             return weightedBlur(*request.renderer, request.image, sigma, tone);
         PassChain chain;
@@ -141,9 +134,6 @@ private:
 
 } // namespace
 
-std::unique_ptr<Filter> makeFocusFrameFilter()
-{
-    return std::make_unique<FocusFrameFilter>();
-}
+ZM_LIBRARY_EFFECT(FocusFrame, FocusFrameFilter, u"focus-frame"_s)
 
 } // namespace zm

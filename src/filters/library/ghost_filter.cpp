@@ -1,6 +1,5 @@
 #include "filters/craft/map_size.h"
 #include "filters/library_filter.h"
-#include "filters/library_filters.h"
 
 #include <algorithm>
 
@@ -16,26 +15,24 @@ constexpr int kCopyReduction = 4; // the copy is soft
 class GhostFilter final : public LibraryFilter
 {
 public:
-    GhostFilter()
-        : LibraryFilter(u"ghost"_s)
-    {
-    }
+    using LibraryFilter::LibraryFilter;
 
     FilterRenderResult render(const FilterRenderRequest &request) const override
     {
         const QSize size = request.size();
         const QSize copySize = mapSize(size, kCopyReduction);
-        const double radius = std::max(request.diagonalPixels(u"blurRadius"_s, 9.0), 0.01);
+        const double radius = std::max(request.diagonalPixels(u"blurRadius"_s), 0.01);
         LibraryUniformBlock block(u"ghost"_s);
-        block.setVec4("u_size"_L1, size.width(), size.height(), copySize.width(), copySize.height());
-        block.setVec2("u_texelSize"_L1, 1.0 / size.width(), 1.0 / size.height());
-        block.setColor("u_tint"_L1, request.parameters.color(u"tint"_s, QColor(0xb9, 0xdc, 0xf0)));
-        block.setFloat("u_strength"_L1, request.percent(u"strength"_s, 85.0));
-        block.setFloat("u_noise"_L1, request.percent(u"noise"_s, 25.0));
-        block.setFloat("u_threshold"_L1, request.percent(u"threshold"_s, 38.0));
-        block.setFloat("u_softness"_L1, std::max(request.percent(u"softness"_s, 45.0), 0.01));
-        block.setFloat("u_glow"_L1, request.percent(u"glow"_s, 55.0));
-        block.setFloat("u_fade"_L1, request.percent(u"fade"_s, 50.0));
+        block.setSize("u_size"_L1, size);
+        block.setTexelSize("u_texelSize"_L1, size);
+        block.setSize("u_copySize"_L1, copySize);
+        block.setColor("u_tint"_L1, request.color(u"tint"_s));
+        block.setFloat("u_strength"_L1, request.percent(u"strength"_s));
+        block.setFloat("u_noise"_L1, request.percent(u"noise"_s));
+        block.setFloat("u_threshold"_L1, request.percent(u"threshold"_s));
+        block.setFloat("u_softness"_L1, std::max(request.percent(u"softness"_s), 0.01));
+        block.setFloat("u_glow"_L1, request.percent(u"glow"_s));
+        block.setFloat("u_fade"_L1, request.percent(u"fade"_s));
 
         PassChain chain;
         const PassChain::Picture input = chain.source(request.image);
@@ -49,9 +46,6 @@ public:
 
 } // namespace
 
-std::unique_ptr<Filter> makeGhostFilter()
-{
-    return std::make_unique<GhostFilter>();
-}
+ZM_LIBRARY_EFFECT(Ghost, GhostFilter, u"ghost"_s)
 
 } // namespace zm

@@ -1,5 +1,4 @@
-#include "filters/library_filter.h"
-#include "filters/library_filters.h"
+#include "filters/craft/recipe.h"
 
 using namespace Qt::StringLiterals;
 
@@ -8,33 +7,20 @@ namespace zm {
 namespace {
 
 // The picture under moving water: bent by it, and lit by the net of light that it casts.
-class GlassCausticsFilter final : public LibraryFilter
+Recipe glassCaustics()
 {
-public:
-    GlassCausticsFilter()
-        : LibraryFilter(u"glass-caustics"_s)
-    {
-    }
-
-    FilterRenderResult render(const FilterRenderRequest &request) const override
-    {
-        LibraryUniformBlock block(u"glass-caustics"_s);
-        block.setVec2("u_size"_L1, request.image.width(), request.image.height());
-        block.setFloat("u_causticScale"_L1, request.diagonalPixels(u"size"_s, 85.0));
-        block.setFloat("u_refraction"_L1, request.percent(u"refraction"_s, 40.0));
-        block.setFloat("u_light"_L1, request.percent(u"light"_s, 60.0));
-        block.setFloat("u_flow"_L1, request.percent(u"flow"_s, 50.0));
-        block.setFloat("u_chroma"_L1, request.percent(u"chroma"_s, 35.0));
-        block.setFloat("u_seed"_L1, request.number(u"seed"_s, 0.0));
-        return request.singlePass(block);
-    }
-};
+    return RecipePass("glass-caustics")
+        .pictureSize("u_size")
+        .diagonalPixels("u_causticScale", "size")
+        .percent("u_refraction", "refraction")
+        .percent("u_light", "light")
+        .percent("u_flow", "flow")
+        .percent("u_chroma", "chroma")
+        .number("u_seed", "seed");
+}
 
 } // namespace
 
-std::unique_ptr<Filter> makeGlassCausticsFilter()
-{
-    return std::make_unique<GlassCausticsFilter>();
-}
+ZM_LIBRARY_EFFECT(GlassCaustics, RecipeFilter, u"glass-caustics"_s, glassCaustics())
 
 } // namespace zm

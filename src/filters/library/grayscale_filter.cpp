@@ -1,5 +1,4 @@
 #include "filters/library_filter.h"
-#include "filters/library_filters.h"
 
 using namespace Qt::StringLiterals;
 
@@ -10,20 +9,17 @@ namespace {
 class GrayscaleFilter final : public LibraryFilter
 {
 public:
-    GrayscaleFilter()
-        : LibraryFilter(u"grayscale"_s)
-    {
-    }
+    using LibraryFilter::LibraryFilter;
 
     FilterRenderResult render(const FilterRenderRequest &request) const override
     {
         GrayscaleLevels levels;
-        levels.amount = request.percent(u"amount"_s, 100.0);
-        levels.blackPoint = request.percent(u"blackPoint"_s, 0.0);
-        levels.whitePoint = request.percent(u"whitePoint"_s, 100.0);
-        levels.thresholdAmount = request.percent(u"thresholdAmount"_s, 0.0);
-        levels.thresholdPoint = request.percent(u"thresholdPoint"_s, 50.0);
-        levels.thresholdSoftness = request.percent(u"thresholdSoftness"_s, 8.0);
+        levels.amount = request.percent(u"amount"_s);
+        levels.blackPoint = request.percent(u"blackPoint"_s);
+        levels.whitePoint = request.percent(u"whitePoint"_s);
+        levels.thresholdAmount = request.percent(u"thresholdAmount"_s);
+        levels.thresholdPoint = request.percent(u"thresholdPoint"_s);
+        levels.thresholdSoftness = request.percent(u"thresholdSoftness"_s);
 
         PassChain chain;
         return request.chained(chain, chain.grayscale(chain.source(request.image), levels));
@@ -32,9 +28,6 @@ public:
 
 } // namespace
 
-std::unique_ptr<Filter> makeGrayscaleFilter()
-{
-    return std::make_unique<GrayscaleFilter>();
-}
+ZM_LIBRARY_EFFECT(Grayscale, GrayscaleFilter, u"grayscale"_s)
 
 } // namespace zm

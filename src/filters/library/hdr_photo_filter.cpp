@@ -1,6 +1,5 @@
 #include "filters/craft/tone_base.h"
 #include "filters/library_filter.h"
-#include "filters/library_filters.h"
 
 using namespace Qt::StringLiterals;
 
@@ -12,27 +11,21 @@ namespace {
 class HDRPhotoFilter final : public LibraryFilter
 {
 public:
-    HDRPhotoFilter()
-        : LibraryFilter(u"hdr-photo"_s)
-    {
-    }
+    using LibraryFilter::LibraryFilter;
 
     FilterRenderResult render(const FilterRenderRequest &request) const override
     {
-        const ToneBase base = toneBase(request, request.diagonalPixels(u"radius"_s, 14.0));
+        const ToneBase base = toneBase(request, request.diagonalPixels(u"radius"_s));
         LibraryUniformBlock block = toneBaseBlock(base, ToneBaseStage::Use);
-        block.setFloat("u_amount"_L1, request.percent(u"amount"_s, 70.0));
-        block.setFloat("u_detail"_L1, request.percent(u"detail"_s, 50.0));
-        block.setFloat("u_color"_L1, request.percent(u"color"_s, 20.0));
+        block.setFloat("u_amount"_L1, request.percent(u"amount"_s));
+        block.setFloat("u_detail"_L1, request.percent(u"detail"_s));
+        block.setFloat("u_color"_L1, request.percent(u"color"_s));
         return renderToneBase(request, base, block);
     }
 };
 
 } // namespace
 
-std::unique_ptr<Filter> makeHDRPhotoFilter()
-{
-    return std::make_unique<HDRPhotoFilter>();
-}
+ZM_LIBRARY_EFFECT(HDRPhoto, HDRPhotoFilter, u"hdr-photo"_s)
 
 } // namespace zm

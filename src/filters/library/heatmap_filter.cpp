@@ -1,5 +1,4 @@
 #include "filters/library_filter.h"
-#include "filters/library_filters.h"
 
 #include <QImage>
 #include <QRgb>
@@ -47,22 +46,18 @@ QImage palette(int index)
 class HeatmapFilter final : public LibraryFilter
 {
 public:
-    HeatmapFilter()
-        : LibraryFilter(u"heatmap"_s)
-    {
-    }
+    using LibraryFilter::LibraryFilter;
 
     FilterRenderResult render(const FilterRenderRequest &request) const override
     {
-        const QImage colors = palette(
-            request.choice(u"palette"_s, {"iron"_L1, "lava"_L1, "rainbow"_L1, "arctic"_L1, "aurora"_L1, "divided"_L1}));
+        const QImage colors = palette(request.choice(u"palette"_s));
         LibraryUniformBlock block(u"heatmap"_s);
-        block.setVec2("u_lutSize"_L1, colors.width(), colors.height());
-        block.setFloat("u_mix"_L1, request.percent(u"mix"_s, 100.0));
-        block.setFloat("u_contrast"_L1, request.percent(u"contrast"_s, 15.0));
-        block.setFloat("u_gamma"_L1, std::exp2(-1.5 * request.percent(u"gamma"_s, 0.0)));
-        block.setFloat("u_reverse"_L1, request.parameters.boolean(u"reverse"_s, false) ? 1.0 : 0.0);
-        block.setFloat("u_bands"_L1, std::round(request.number(u"bands"_s, 0.0)));
+        block.setSize("u_lutSize"_L1, colors.size());
+        block.setFloat("u_mix"_L1, request.percent(u"mix"_s));
+        block.setFloat("u_contrast"_L1, request.percent(u"contrast"_s));
+        block.setFloat("u_gamma"_L1, std::exp2(-1.5 * request.percent(u"gamma"_s)));
+        block.setFloat("u_reverse"_L1, request.flag(u"reverse"_s));
+        block.setFloat("u_bands"_L1, std::round(request.number(u"bands"_s)));
 
         PassChain chain;
         const PassChain::Picture input = chain.source(request.image);
@@ -72,9 +67,6 @@ public:
 
 } // namespace
 
-std::unique_ptr<Filter> makeHeatmapFilter()
-{
-    return std::make_unique<HeatmapFilter>();
-}
+ZM_LIBRARY_EFFECT(Heatmap, HeatmapFilter, u"heatmap"_s)
 
 } // namespace zm

@@ -1,5 +1,4 @@
-#include "filters/library_filter.h"
-#include "filters/library_filters.h"
+#include "filters/craft/recipe.h"
 
 using namespace Qt::StringLiterals;
 
@@ -7,38 +6,23 @@ namespace zm {
 
 namespace {
 
-class JaggedEdgeFilter final : public LibraryFilter
+Recipe jaggedEdge()
 {
-public:
-    JaggedEdgeFilter()
-        : LibraryFilter(u"jagged-edge"_s)
-    {
-    }
-
-    FilterRenderResult render(const FilterRenderRequest &request) const override
-    {
-        const double edge = request.diagonalPixels(u"edgeSize"_s, 30.0);
-        LibraryUniformBlock block(u"jagged-edge"_s);
-        block.setVec2("u_size"_L1, request.image.width(), request.image.height());
-        block.setFloat("u_edge_size"_L1, edge);
-        block.setFloat("u_roughness"_L1, request.percent(u"roughness"_s, 75.0));
-        block.setFloat("u_pattern_size"_L1, request.diagonalPixels(u"patternSize"_s, 60.0));
-        block.setFloat("u_detail"_L1, request.percent(u"detail"_s, 60.0));
-        block.setFloat(
-            "u_style"_L1,
-            request.choice(u"style"_s,
-                           {"torn"_L1, "deckle"_L1, "jagged"_L1, "zigzag"_L1, "scalloped"_L1, "perforated"_L1}));
-        block.setFloat("u_seed"_L1, request.number(u"seed"_s, 7.0));
-        block.setFloat("u_softness"_L1, request.percent(u"softness"_s, 0.0) * edge);
-        return request.singlePass(block);
-    }
-};
+    return RecipePass("jagged-edge")
+        .pictureSize("u_size")
+        .diagonalPixels("u_edge_size", "edgeSize")
+        .percent("u_roughness", "roughness")
+        .diagonalPixels("u_pattern_size", "patternSize")
+        .percent("u_detail", "detail")
+        .choice("u_style", "style")
+        .number("u_seed", "seed")
+        .computed("u_softness", [](const FilterRenderRequest &request) {
+            return request.percent(u"softness"_s) * request.diagonalPixels(u"edgeSize"_s);
+        });
+}
 
 } // namespace
 
-std::unique_ptr<Filter> makeJaggedEdgeFilter()
-{
-    return std::make_unique<JaggedEdgeFilter>();
-}
+ZM_LIBRARY_EFFECT(JaggedEdge, RecipeFilter, u"jagged-edge"_s, jaggedEdge())
 
 } // namespace zm

@@ -1,6 +1,5 @@
 #include "filters/craft/cell_picture.h"
 #include "filters/library_filter.h"
-#include "filters/library_filters.h"
 
 #include <algorithm>
 #include <cmath>
@@ -201,23 +200,20 @@ private:
 class LowPolyEffectFilter final : public LibraryFilter
 {
 public:
-    LowPolyEffectFilter()
-        : LibraryFilter(u"low-poly-effect"_s)
-    {
-    }
+    using LibraryFilter::LibraryFilter;
 
     FilterRenderResult render(const FilterRenderRequest &request) const override
     {
         const QSize size = request.size();
-        const double side = std::max(request.diagonalPixels(u"facetSize"_s, 16.0), 2.0);
-        const double seed = request.number(u"seed"_s, 7.0);
+        const double side = std::max(request.diagonalPixels(u"facetSize"_s), 2.0);
+        const double seed = request.number(u"seed"_s);
         LibraryUniformBlock block(u"low-poly-effect"_s);
-        block.setVec2("u_size"_L1, size.width(), size.height());
+        block.setSize("u_size"_L1, size);
         block.setFloat("u_facetSize"_L1, side);
-        block.setFloat("u_variation"_L1, request.percent(u"variation"_s, 25.0));
-        block.setFloat("u_saturation"_L1, request.percent(u"saturation"_s, 115.0));
-        block.setFloat("u_edgeWidth"_L1, request.diagonalPixels(u"edgeWidth"_s, 0.0));
-        block.setColor("u_edgeColor"_L1, request.parameters.color(u"edgeColor"_s, Qt::white));
+        block.setFloat("u_variation"_L1, request.percent(u"variation"_s));
+        block.setFloat("u_saturation"_L1, request.percent(u"saturation"_s));
+        block.setFloat("u_edgeWidth"_L1, request.diagonalPixels(u"edgeWidth"_s));
+        block.setColor("u_edgeColor"_L1, request.color(u"edgeColor"_s));
 
         PassChain chain;
         const PassChain::Picture map = chain.source(FacetMap(request.image, side, quint32(qRound(seed))).image());
@@ -229,9 +225,6 @@ public:
 
 } // namespace
 
-std::unique_ptr<Filter> makeLowPolyEffectFilter()
-{
-    return std::make_unique<LowPolyEffectFilter>();
-}
+ZM_LIBRARY_EFFECT(LowPolyEffect, LowPolyEffectFilter, u"low-poly-effect"_s)
 
 } // namespace zm

@@ -1,6 +1,6 @@
+#include "filters/craft/film_look.h"
 #include "filters/craft/shape_mask.h"
 #include "filters/library_filter.h"
-#include "filters/library_filters.h"
 
 #include <cmath>
 
@@ -13,39 +13,34 @@ namespace {
 class NightvisionFilter final : public LibraryFilter
 {
 public:
-    NightvisionFilter()
-        : LibraryFilter(u"nightvision"_s)
-    {
-    }
+    using LibraryFilter::LibraryFilter;
 
     FilterRenderResult render(const FilterRenderRequest &request) const override
     {
-        const double diagonal = std::hypot(request.image.width(), request.image.height());
 
         LibraryUniformBlock intensifier(u"nightvision-pre"_s);
-        intensifier.setFloat("u_contrast"_L1, request.percent(u"contrast"_s, 10.0));
+        intensifier.setFloat("u_contrast"_L1, request.percent(u"contrast"_s));
         LibraryUniformBlock screen(u"nightvision-comp"_s);
-        screen.setVec2("u_size"_L1, request.image.width(), request.image.height());
+        screen.setSize("u_size"_L1, request.size());
         screen.setColor("u_tint_a"_L1, QColor(2, 10, 4));
-        screen.setColor("u_tint_b"_L1, request.parameters.color(u"color"_s, QColor(77, 255, 90)));
-        screen.setFloat("u_scanlines"_L1, request.diagonalPixels(u"lineSize"_s, 3.5));
-        screen.setFloat("u_vignette"_L1, request.percent(u"vignette"_s, 100.0));
-        screen.setVec2("u_gain"_L1, std::exp2(4.0 * request.percent(u"gain"_s, 50.0) - 0.5),
-                       request.percent(u"glow"_s, 40.0));
-        screen.setFloat("u_tint_strength"_L1, request.percent(u"tintStrength"_s, 100.0));
-        screen.setFloat("u_line_strength"_L1, request.percent(u"lineStrength"_s, 35.0));
+        screen.setColor("u_tint_b"_L1, request.color(u"color"_s));
+        screen.setFloat("u_scanlines"_L1, request.diagonalPixels(u"lineSize"_s));
+        screen.setFloat("u_vignette"_L1, request.percent(u"vignette"_s));
+        screen.setFloat("u_gain"_L1, std::exp2(4.0 * request.percent(u"gain"_s) - 0.5));
+        screen.setFloat("u_glow"_L1, request.percent(u"glow"_s));
+        screen.setFloat("u_tint_strength"_L1, request.percent(u"tintStrength"_s));
+        screen.setFloat("u_line_strength"_L1, request.percent(u"lineStrength"_s));
 
         PassChain chain;
         const PassChain::Picture seen = addPass(chain, intensifier, {chain.source(request.image)});
         const PassChain::Picture noise = chain.addNoise(chain.source(noiseField(request.bounds.size())),
-                                                        {.amount = 0.45 * request.percent(u"noise"_s, 45.0)});
-        const PassChain::Picture glow = chain.reducedBlur(seen, kGlowSize * diagonal);
+                                                        {.amount = 0.45 * request.percent(u"noise"_s)});
+        const PassChain::Picture glow = chain.reducedBlur(seen, kGlowSize * request.diagonal());
         const PassChain::Picture view = addView(chain, request);
         return request.chained(chain, addPass(chain, screen, {seen, chain.gaussianBlur(noise, 0.6), glow, view}));
     }
 
 private:
-    static constexpr double kGlowSize = 0.012; ///< sigma, as a share of the diagonal
     static constexpr double kFieldDiagonal =
         1100.0; ///< pixels of the noise and of the mask, whatever the picture's size
 
@@ -70,7 +65,7 @@ private:
         const QPointF center(0.5 * size.width(), 0.5 * size.height());
         QPainterPath path;
         path.setFillRule(Qt::WindingFill);
-        switch (request.choice(u"view"_s, {"binocular"_L1, "monocular"_L1, "full"_L1})) {
+        switch (request.choice(u"view"_s)) {
         case 0: {
             const bool wide = size.width() >= size.height();
             const double length = std::max(size.width(), size.height());
@@ -94,9 +89,6 @@ private:
 
 } // namespace
 
-std::unique_ptr<Filter> makeNightvisionFilter()
-{
-    return std::make_unique<NightvisionFilter>();
-}
+ZM_LIBRARY_EFFECT(Nightvision, NightvisionFilter, u"nightvision"_s)
 
 } // namespace zm

@@ -1,6 +1,5 @@
 #include "filters/craft/patch_smoothing.h"
 #include "filters/library_filter.h"
-#include "filters/library_filters.h"
 
 using namespace Qt::StringLiterals;
 
@@ -17,16 +16,13 @@ constexpr double kLine = 0.7; // the reach of the dark lines, the same
 class PaintingFilter final : public LibraryFilter
 {
 public:
-    PaintingFilter()
-        : LibraryFilter(u"painting"_s)
-    {
-    }
+    using LibraryFilter::LibraryFilter;
 
     FilterRenderResult render(const FilterRenderRequest &request) const override
     {
-        const double brush = request.diagonalPixels(u"brushSize"_s, 6.0);
-        const double detail = request.percent(u"detail"_s, 40.0);
-        const double bristles = request.percent(u"bristles"_s, 50.0);
+        const double brush = request.diagonalPixels(u"brushSize"_s);
+        const double detail = request.percent(u"detail"_s);
+        const double bristles = request.percent(u"bristles"_s);
 
         PassChain chain;
         PassChain::Picture picture = addWorkingCopy(chain, request, brush, kBrush);
@@ -48,18 +44,15 @@ public:
 
         LibraryUniformBlock block(u"painting"_s);
         block.setVec2("u_texelSize"_L1, kLine / working.width(), kLine / working.height());
-        block.setFloat("u_strength"_L1, request.percent(u"strength"_s, 30.0));
-        block.setFloat("u_satMul"_L1, request.percent(u"saturation"_s, 130.0));
-        block.setFloat("u_brightMul"_L1, request.percent(u"brightness"_s, 108.0));
+        block.setFloat("u_strength"_L1, request.percent(u"strength"_s));
+        block.setFloat("u_satMul"_L1, request.percent(u"saturation"_s));
+        block.setFloat("u_brightMul"_L1, request.percent(u"brightness"_s));
         return chainedWithAlpha(request, chain, addPass(chain, block, {picture}));
     }
 };
 
 } // namespace
 
-std::unique_ptr<Filter> makePaintingFilter()
-{
-    return std::make_unique<PaintingFilter>();
-}
+ZM_LIBRARY_EFFECT(Painting, PaintingFilter, u"painting"_s)
 
 } // namespace zm

@@ -1,5 +1,4 @@
 #include "filters/library_filter.h"
-#include "filters/library_filters.h"
 
 #include <algorithm>
 #include <cmath>
@@ -20,25 +19,19 @@ constexpr int kSmoothingPasses = 4; // across and down in turn
 class PaperDioramaFilter final : public LibraryFilter
 {
 public:
-    PaperDioramaFilter()
-        : LibraryFilter(u"paper-diorama"_s)
-    {
-    }
+    using LibraryFilter::LibraryFilter;
 
     FilterRenderResult render(const FilterRenderRequest &request) const override
     {
-        const double angle = request.number(u"lightDirection"_s, 135.0) * std::numbers::pi / 180.0;
+        const double angle = request.radians(u"lightDirection"_s);
         LibraryUniformBlock block(u"paper-diorama"_s);
-        block.setVec2("u_size"_L1, request.image.width(), request.image.height());
+        block.setSize("u_size"_L1, request.size());
         block.setFloat("u_renderScale"_L1, request.renderScale());
-        block.setFloat("u_layers"_L1, request.number(u"layers"_s, 7.0));
-        block.setFloat("u_depthPx"_L1, request.diagonalPixels(u"depth"_s, 5.0));
+        block.setFloat("u_layers"_L1, request.number(u"layers"_s));
+        block.setFloat("u_depthPx"_L1, request.diagonalPixels(u"depth"_s));
         block.setVec2("u_lightDirection"_L1, std::cos(angle), -std::sin(angle));
-        block.setFloat(
-            "u_palette"_L1,
-            request.choice(u"palette"_s,
-                           {"original"_L1, "dusk"_L1, "forest"_L1, "ocean"_L1, "candy"_L1, "kraft"_L1, "white"_L1}));
-        block.setFloat("u_paperTexture"_L1, request.percent(u"paperTexture"_s, 50.0));
+        block.setFloat("u_palette"_L1, request.choice(u"palette"_s));
+        block.setFloat("u_paperTexture"_L1, request.percent(u"paperTexture"_s));
 
         PassChain chain;
         const PassChain::Picture input = chain.source(request.image);
@@ -50,13 +43,13 @@ private:
     /// lets the smoothing that keeps edges work at a reduced size.
     static PassChain::Picture softCopy(PassChain &chain, const FilterRenderRequest &request, PassChain::Picture input)
     {
-        const double reach = std::max(request.diagonalPixels(u"smoothness"_s, 5.0), 0.1);
+        const double reach = std::max(request.diagonalPixels(u"smoothness"_s), 0.1);
         PassChain::Picture soft = chain.reducedBlur(input, reach * kFirstBlur, TextureEdge::Clamp, kFirstBlurInCopy);
         const QSize size = chain.size(soft);
         LibraryUniformBlock block(u"paper-diorama-smooth"_s);
-        block.setVec2("u_size"_L1, size.width(), size.height());
+        block.setSize("u_size"_L1, size);
         block.setFloat("u_radiusPx"_L1, reach * size.width() / request.image.width());
-        block.setFloat("u_detail"_L1, request.percent(u"detail"_s, 60.0));
+        block.setFloat("u_detail"_L1, request.percent(u"detail"_s));
         for (int pass = 0; pass < kSmoothingPasses; ++pass) {
             block.setVec2("u_direction"_L1, pass % 2 == 0 ? 1.0 : 0.0, pass % 2 == 0 ? 0.0 : 1.0);
             soft = addPass(chain, block, {soft});
@@ -67,9 +60,6 @@ private:
 
 } // namespace
 
-std::unique_ptr<Filter> makePaperDioramaFilter()
-{
-    return std::make_unique<PaperDioramaFilter>();
-}
+ZM_LIBRARY_EFFECT(PaperDiorama, PaperDioramaFilter, u"paper-diorama"_s)
 
 } // namespace zm

@@ -1,5 +1,4 @@
 #include "filters/library_filter.h"
-#include "filters/library_filters.h"
 #include "generators/texture_loader.h"
 
 #include <algorithm>
@@ -19,26 +18,23 @@ constexpr double kSmoothingInCopy = 0.9; // sigma before the lines are found, pi
 class PencilSketchFilter final : public LibraryFilter
 {
 public:
-    PencilSketchFilter()
-        : LibraryFilter(u"pencil-sketch"_s)
-    {
-    }
+    using LibraryFilter::LibraryFilter;
 
     FilterRenderResult render(const FilterRenderRequest &request) const override
     {
-        const double diagonal = std::hypot(request.image.width(), request.image.height());
-        const double tileSize = request.diagonalPixels(u"strokeSize"_s, 280.0);
+        const double diagonal = request.diagonal();
+        const double tileSize = request.diagonalPixels(u"strokeSize"_s);
 
         LibraryUniformBlock block(u"pencil-sketch"_s);
-        block.setVec2("u_size"_L1, request.image.width(), request.image.height());
+        block.setSize("u_size"_L1, request.size());
         block.setFloat("u_tileSize"_L1, tileSize);
-        block.setFloat("u_color"_L1, request.percent(u"color"_s, 0.0));
-        block.setFloat("u_tone"_L1, request.percent(u"tone"_s, 55.0));
-        block.setFloat("u_texture"_L1, request.percent(u"texture"_s, 70.0));
-        block.setFloat("u_edgeStrength"_L1, request.percent(u"edgeStrength"_s, 90.0));
+        block.setFloat("u_color"_L1, request.percent(u"color"_s));
+        block.setFloat("u_tone"_L1, request.percent(u"tone"_s));
+        block.setFloat("u_texture"_L1, request.percent(u"texture"_s));
+        block.setFloat("u_edgeStrength"_L1, request.percent(u"edgeStrength"_s));
         // Strokes that melt together in a small tile are greys, whose share of ink is kept by a softer threshold.
         const double melted = std::clamp((kTileSize / std::max(tileSize, 1.0) - 3.0) / 8.0, 0.0, 1.0);
-        const double softness = std::max(request.percent(u"softness"_s, 18.0), 0.01);
+        const double softness = std::max(request.percent(u"softness"_s), 0.01);
         block.setFloat("u_softness"_L1, std::lerp(softness, 0.5, melted));
 
         PassChain chain;
@@ -66,9 +62,6 @@ private:
 
 } // namespace
 
-std::unique_ptr<Filter> makePencilSketchFilter()
-{
-    return std::make_unique<PencilSketchFilter>();
-}
+ZM_LIBRARY_EFFECT(PencilSketch, PencilSketchFilter, u"pencil-sketch"_s)
 
 } // namespace zm

@@ -1,7 +1,6 @@
 #include "filters/craft/lens_blur.h"
 #include "filters/craft/shape_mask.h"
 #include "filters/library_filter.h"
-#include "filters/library_filters.h"
 
 using namespace Qt::StringLiterals;
 
@@ -9,7 +8,6 @@ namespace zm {
 
 namespace {
 
-const MaskTransform kFocus{.x = 0.5, .y = 0.5, .scaleX = 0.58, .scaleY = 0.58};
 constexpr double kCornerShade = 0.45;   // strength of the dark corners, as a share of the fall-off's
 constexpr double kCornerFeather = 90.0; // 0..100
 constexpr int kCornerMaskSide = 256;    // pixels: soft as it is, it needs no more
@@ -26,20 +24,17 @@ QImage cornerMask(const QSizeF &box)
 class PetzvalLensFilter final : public LibraryFilter
 {
 public:
-    PetzvalLensFilter()
-        : LibraryFilter(u"petzval-lens"_s)
-    {
-    }
+    using LibraryFilter::LibraryFilter;
 
     FilterRenderResult render(const FilterRenderRequest &request) const override
     {
-        const MaskTransform focus = request.parameters.maskTransform(u"mask.transform"_s, kFocus);
-        const double shade = request.percent(u"vignette"_s, 45.0);
+        const MaskTransform focus = request.maskTransform(u"mask.transform"_s);
+        const double shade = request.percent(u"vignette"_s);
         LibraryUniformBlock lens(u"petzval-lens"_s);
-        lens.setVec2("u_size"_L1, request.image.width(), request.image.height());
+        lens.setSize("u_size"_L1, request.size());
         lens.setVec2("u_center"_L1, focus.x * request.image.width(), focus.y * request.image.height());
-        lens.setFloat("u_blurStrength"_L1, request.percent(u"blurStrength"_s, 100.0));
-        lens.setFloat("u_swirl"_L1, request.percent(u"swirl"_s, 55.0));
+        lens.setFloat("u_blurStrength"_L1, request.percent(u"blurStrength"_s));
+        lens.setFloat("u_swirl"_L1, request.percent(u"swirl"_s));
         lens.setFloat("u_vignette"_L1, shade);
         LibraryUniformBlock corners(u"vignette"_s);
         corners.setFloat("u_strength"_L1, shade * kCornerShade);
@@ -47,9 +42,9 @@ public:
 
         PassChain chain;
         const PassChain::Picture input = chain.source(request.image);
-        const double radius = request.diagonalPixels(u"blurSize"_s, 9.0);
+        const double radius = request.diagonalPixels(u"blurSize"_s);
         const PassChain::Picture soft = chain.source(lensBlurred(request.image, radius));
-        const PassChain::Picture mask = addShapeMask(chain, request, {u"ellipse"_s, kFocus, 45.0});
+        const PassChain::Picture mask = addShapeMask(chain, request);
         const PassChain::Picture turned = addPass(chain, lens, {input, soft, mask});
         const PassChain::Picture bright = chain.source(cornerMask(request.bounds.size()));
         const PassChain::Picture softBright =
@@ -60,9 +55,6 @@ public:
 
 } // namespace
 
-std::unique_ptr<Filter> makePetzvalLensFilter()
-{
-    return std::make_unique<PetzvalLensFilter>();
-}
+ZM_LIBRARY_EFFECT(PetzvalLens, PetzvalLensFilter, u"petzval-lens"_s)
 
 } // namespace zm

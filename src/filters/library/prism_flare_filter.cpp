@@ -1,7 +1,5 @@
 #include "filters/craft/light_map.h"
-#include "filters/craft/placed_line.h"
 #include "filters/library_filter.h"
-#include "filters/library_filters.h"
 
 #include <algorithm>
 #include <cmath>
@@ -16,25 +14,22 @@ namespace {
 class PrismFlareFilter final : public LibraryFilter
 {
 public:
-    PrismFlareFilter()
-        : LibraryFilter(u"prism-flare"_s)
-    {
-    }
+    using LibraryFilter::LibraryFilter;
 
     FilterRenderResult render(const FilterRenderRequest &request) const override
     {
-        const QLineF line = placedLine(request, u"position"_s, {0.04, 0.06, 0.82, 0.8});
+        const QLineF line = request.line(u"position"_s);
         LibraryUniformBlock block(u"prism-flare"_s);
         block.setVec2("u_start"_L1, line.x1(), line.y1());
         block.setVec2("u_end"_L1, line.x2(), line.y2());
-        block.setFloat("u_style"_L1, request.choice(u"style"_s, {"beam"_L1, "rays"_L1, "crystal"_L1}));
-        block.setFloat("u_intensity"_L1, request.percent(u"intensity"_s, 65.0));
-        block.setFloat("u_spread"_L1, request.percent(u"spread"_s, 35.0));
-        const double width = request.percent(u"width"_s, 28.0);
+        block.setFloat("u_style"_L1, request.choice(u"style"_s));
+        block.setFloat("u_intensity"_L1, request.percent(u"intensity"_s));
+        block.setFloat("u_spread"_L1, request.percent(u"spread"_s));
+        const double width = request.percent(u"width"_s);
         block.setFloat("u_width"_L1, width);
-        block.setFloat("u_fragmentation"_L1, request.percent(u"fragmentation"_s, 30.0));
-        block.setFloat("u_ghosts"_L1, request.number(u"ghosts"_s, 4.0));
-        block.setFloat("u_seed"_L1, request.number(u"seed"_s, 0.0));
+        block.setFloat("u_fragmentation"_L1, request.percent(u"fragmentation"_s));
+        block.setFloat("u_ghosts"_L1, request.number(u"ghosts"_s));
+        block.setFloat("u_seed"_L1, request.number(u"seed"_s));
         return renderWithLightMap(request, block, reduction(request.size(), width));
     }
 
@@ -50,9 +45,6 @@ private:
 
 } // namespace
 
-std::unique_ptr<Filter> makePrismFlareFilter()
-{
-    return std::make_unique<PrismFlareFilter>();
-}
+ZM_LIBRARY_EFFECT(PrismFlare, PrismFlareFilter, u"prism-flare"_s)
 
 } // namespace zm

@@ -1,5 +1,4 @@
 #include "filters/library_filter.h"
-#include "filters/library_filters.h"
 
 #include <QtMath>
 
@@ -39,15 +38,12 @@ void setLight(LibraryUniformBlock &block, int index, const LightSource &light, c
 class RelightFilter final : public LibraryFilter
 {
 public:
-    RelightFilter()
-        : LibraryFilter(u"relight"_s)
-    {
-    }
+    using LibraryFilter::LibraryFilter;
 
     FilterRenderResult render(const FilterRenderRequest &request) const override
     {
-        const double base = std::clamp(request.number(u"baseLight"_s, 100.0) * 0.01, 0.0, 2.0);
-        LightSources lights = request.parameters.lightSources(u"lights"_s, {LightSource{.x = 0.5, .y = 0.5}});
+        const double base = std::clamp(request.percent(u"baseLight"_s), 0.0, 2.0);
+        LightSources lights = request.parameters.lightSources(u"lights"_s, {});
         lights.resize(std::min<qsizetype>(lights.size(), kLights));
         if (lights.isEmpty() && qFuzzyCompare(base, 1.0))
             return request.unchanged();
@@ -62,9 +58,6 @@ public:
 
 } // namespace
 
-std::unique_ptr<Filter> makeRelightFilter()
-{
-    return std::make_unique<RelightFilter>();
-}
+ZM_LIBRARY_EFFECT(Relight, RelightFilter, u"relight"_s)
 
 } // namespace zm

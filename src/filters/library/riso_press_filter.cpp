@@ -1,5 +1,4 @@
-#include "filters/library_filter.h"
-#include "filters/library_filters.h"
+#include "filters/craft/recipe.h"
 
 using namespace Qt::StringLiterals;
 
@@ -8,38 +7,20 @@ namespace zm {
 namespace {
 
 // A print in two or three spot colours.
-class RisoPressFilter final : public LibraryFilter
+Recipe risoPress()
 {
-public:
-    RisoPressFilter()
-        : LibraryFilter(u"riso-press"_s)
-    {
-    }
-
-    FilterRenderResult render(const FilterRenderRequest &request) const override
-    {
-        const double pitch = request.diagonalPixels(u"screenScale"_s, 4.2);
-
-        LibraryUniformBlock block(u"riso-press"_s);
-        block.setVec2("u_size"_L1, request.image.width(), request.image.height());
-        block.setFloat("u_palette"_L1,
-                       request.choice(u"palette"_s,
-                                      {"pinkBlueYellow"_L1, "pinkBlue"_L1, "orangeTeal"_L1, "redBlack"_L1,
-                                       "sunViolet"_L1, "mintCoral"_L1}));
-        block.setFloat("u_screenScale"_L1, pitch);
-        block.setFloat("u_misregistration"_L1, request.diagonalPixels(u"misregistration"_s, 2.2));
-        block.setFloat("u_inkDensity"_L1, request.percent(u"inkDensity"_s, 65.0));
-        block.setFloat("u_grain"_L1, request.percent(u"grain"_s, 50.0));
-        block.setFloat("u_seed"_L1, request.number(u"seed"_s, 1.0));
-        return request.singlePass(block);
-    }
-};
+    return RecipePass("riso-press")
+        .pictureSize("u_size")
+        .choice("u_palette", "palette")
+        .diagonalPixels("u_screenScale", "screenScale")
+        .diagonalPixels("u_misregistration", "misregistration")
+        .percent("u_inkDensity", "inkDensity")
+        .percent("u_grain", "grain")
+        .number("u_seed", "seed");
+}
 
 } // namespace
 
-std::unique_ptr<Filter> makeRisoPressFilter()
-{
-    return std::make_unique<RisoPressFilter>();
-}
+ZM_LIBRARY_EFFECT(RisoPress, RecipeFilter, u"riso-press"_s, risoPress())
 
 } // namespace zm

@@ -1,5 +1,4 @@
 #include "filters/library_filter.h"
-#include "filters/library_filters.h"
 
 #include <algorithm>
 #include <cmath>
@@ -17,29 +16,28 @@ constexpr double kRimSmoothness = 0.7;
 class RoundedCornersFilter final : public LibraryFilter
 {
 public:
-    RoundedCornersFilter()
-        : LibraryFilter(u"corner-editor"_s)
-    {
-    }
+    using LibraryFilter::LibraryFilter;
 
     FilterRenderResult render(const FilterRenderRequest &request) const override
     {
         const QSize size = request.size();
         const double shorterHalf = 0.5 * std::min(size.width(), size.height());
-        const double radius = request.percent(u"radius"_s, 25.0) * shorterHalf;
-        const int style = request.choice(u"style"_s, {"round"_L1, "squircle"_L1, "scooped"_L1, "cut"_L1, "notched"_L1});
+        const double radius = request.percent(u"radius"_s) * shorterHalf;
+        const int style = request.choice(u"style"_s);
 
         LibraryUniformBlock corners(u"rounded-corners"_s);
-        corners.setVec2("u_size"_L1, size.width(), size.height());
+        corners.setSize("u_size"_L1, size);
         corners.setFloat("u_radius"_L1, radius);
         corners.setFloat("u_style"_L1, style);
         PassChain chain;
         PassChain::Picture picture = addPass(chain, corners, {chain.source(request.image)});
 
-        const double rim = std::round(request.diagonalPixels(u"bevel"_s, 0.0));
+        const double rim = std::round(request.diagonalPixels(u"bevel"_s));
         if (rim > 0.0) {
             LibraryUniformBlock bevel(u"bevel"_s);
-            bevel.setVec4("u_size"_L1, size.width(), size.height(), radius, style);
+            bevel.setSize("u_size"_L1, size);
+            bevel.setFloat("u_cornerRadius"_L1, radius);
+            bevel.setFloat("u_cornerStyle"_L1, style);
             bevel.setFloat("u_bevel"_L1, rim);
             bevel.setFloat("u_strength"_L1, kRimStrength);
             bevel.setFloat("u_smoothness"_L1, kRimSmoothness);
@@ -52,9 +50,6 @@ public:
 
 } // namespace
 
-std::unique_ptr<Filter> makeRoundedCornersFilter()
-{
-    return std::make_unique<RoundedCornersFilter>();
-}
+ZM_LIBRARY_EFFECT(RoundedCorners, RoundedCornersFilter, u"corner-editor"_s)
 
 } // namespace zm

@@ -1,5 +1,4 @@
 #include "filters/library_filter.h"
-#include "filters/library_filters.h"
 
 using namespace Qt::StringLiterals;
 
@@ -11,25 +10,22 @@ namespace {
 class SelectiveColorFilter final : public LibraryFilter
 {
 public:
-    SelectiveColorFilter()
-        : LibraryFilter(u"selective-color"_s)
-    {
-    }
+    using LibraryFilter::LibraryFilter;
 
     FilterRenderResult render(const FilterRenderRequest &request) const override
     {
         LibraryUniformBlock block(u"selective-color"_s);
-        block.setFloat("u_targetHue"_L1, request.number(u"targetHue"_s, 8.0) / 360.0);
-        block.setFloat("u_tolerance"_L1, request.number(u"tolerance"_s, 22.0) / 360.0);
-        block.setFloat("u_softness"_L1, request.number(u"softness"_s, 18.0) / 360.0);
-        block.setFloat("u_backgroundSaturation"_L1, request.percent(u"backgroundSaturation"_s, 0.0));
-        block.setFloat("u_targetBoost"_L1, request.percent(u"targetBoost"_s, 20.0));
-        block.setFloat("u_amount"_L1, request.percent(u"amount"_s, 100.0));
-        block.setFloat("u_invert"_L1, request.parameters.boolean(u"invert"_s, false) ? 1.0 : 0.0);
+        block.setFloat("u_targetHue"_L1, request.number(u"targetHue"_s) / 360.0);
+        block.setFloat("u_tolerance"_L1, request.number(u"tolerance"_s) / 360.0);
+        block.setFloat("u_softness"_L1, request.number(u"softness"_s) / 360.0);
+        block.setFloat("u_backgroundSaturation"_L1, request.percent(u"backgroundSaturation"_s));
+        block.setFloat("u_targetBoost"_L1, request.percent(u"targetBoost"_s));
+        block.setFloat("u_amount"_L1, request.percent(u"amount"_s));
+        block.setFloat("u_invert"_L1, request.flag(u"invert"_s));
 
         GrayscaleLevels levels;
-        levels.blackPoint = request.percent(u"blackPoint"_s, 0.0);
-        levels.whitePoint = request.percent(u"whitePoint"_s, 100.0);
+        levels.blackPoint = request.percent(u"blackPoint"_s);
+        levels.whitePoint = request.percent(u"whitePoint"_s);
 
         PassChain chain;
         const PassChain::Picture input = chain.source(request.image);
@@ -40,9 +36,6 @@ public:
 
 } // namespace
 
-std::unique_ptr<Filter> makeSelectiveColorFilter()
-{
-    return std::make_unique<SelectiveColorFilter>();
-}
+ZM_LIBRARY_EFFECT(SelectiveColor, SelectiveColorFilter, u"selective-color"_s)
 
 } // namespace zm

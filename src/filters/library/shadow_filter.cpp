@@ -1,6 +1,6 @@
+#include "filters/craft/growth.h"
 #include "filters/craft/silhouette.h"
 #include "filters/library_filter.h"
-#include "filters/library_filters.h"
 
 #include <QPainter>
 #include <QPainterPath>
@@ -39,30 +39,27 @@ void spreadAlpha(QImage &shadow, double spread)
 class ShadowFilter final : public LibraryFilter
 {
 public:
-    ShadowFilter()
-        : LibraryFilter(u"shadow"_s)
-    {
-    }
+    using LibraryFilter::LibraryFilter;
 
     FilterRenderResult render(const FilterRenderRequest &request) const override
     {
-        const double opacity = std::clamp(request.percent(u"opacity"_s, 55.0), 0.0, 1.0);
+        const double opacity = std::clamp(request.percent(u"opacity"_s), 0.0, 1.0);
         if (opacity <= 0.0)
             return request.unchanged();
-        const bool isInner = request.choice(u"style"_s, {"drop"_L1, "inner"_L1}) == 1;
-        const double angle = qDegreesToRadians(request.number(u"angle"_s, 55.0));
-        const QPointF offset = request.diagonalPixels(u"distance"_s, 14.0) * QPointF(std::cos(angle), std::sin(angle));
+        const bool isInner = request.text(u"style"_s) == "inner"_L1;
+        const double angle = request.radians(u"angle"_s);
+        const QPointF offset = request.diagonalPixels(u"distance"_s) * QPointF(std::cos(angle), std::sin(angle));
         // What a person calls the size of a blur is about two sigmas.
-        const double sigma = 0.5 * request.diagonalPixels(u"blur"_s, 24.0);
+        const double sigma = 0.5 * request.diagonalPixels(u"blur"_s);
 
-        Silhouette shadow = silhouette(request.image, sigma, request.parameters.color(u"color"_s, Qt::black), isInner);
+        Silhouette shadow = silhouette(request.image, sigma, request.color(u"color"_s), isInner);
         if (shadow.image.isNull())
             return request.unchanged();
         const QImage blurred = request.renderer->gaussianBlur(shadow.image, sigma / shadow.reduction);
         if (blurred.isNull())
             return request.unchanged();
         shadow.image = blurred;
-        spreadAlpha(shadow.image, request.percent(u"spread"_s, 0.0));
+        spreadAlpha(shadow.image, request.percent(u"spread"_s));
         return isInner ? within(request, shadow, offset, opacity) : behind(request, shadow, offset, opacity);
     }
 
@@ -92,45 +89,30 @@ private:
     {
         const QSize size = request.size();
         const QRectF area = shadow.area().translated(offset);
-        QRect grown = area.toAlignedRect().united(request.image.rect());
-        // No side may become longer than a texture.
-        const int longest = std::max({request.renderer->maximumTextureSize(), size.width(), size.height()});
-        const auto limit = [longest](int length, int *before, int *after) {
-            const int room = longest - length;
-            *before = std::min(*before, std::max(room - std::min(*after, room / 2), 0));
-            *after = std::min(*after, room - *before);
-        };
-        int left = -grown.left();
-        int top = -grown.top();
-        int right = grown.right() + 1 - size.width();
-        int bottom = grown.bottom() + 1 - size.height();
-        limit(size.width(), &left, &right);
-        limit(size.height(), &top, &bottom);
+        const QRect grown = area.toAlignedRect();
+        const QMargins margins = affordableMargins(
+            request,
+            {-grown.left(), -grown.top(), grown.right() + 1 - size.width(), grown.bottom() + 1 - size.height()});
 
-        QImage image(size.width() + left + right, size.height() + top + bottom, QImage::Format_RGBA8888);
+        QImage image(size.grownBy(margins), QImage::Format_RGBA8888);
         if (image.isNull())
             return request.unchanged();
         image.fill(Qt::transparent);
         QPainter painter(&image);
         painter.setRenderHint(QPainter::SmoothPixmapTransform);
-        painter.translate(left, top);
+        painter.translate(margins.left(), margins.top());
         painter.setOpacity(opacity);
         painter.drawImage(area, shadow.image);
         painter.setOpacity(1.0);
         painter.drawImage(QPoint(), request.image);
         painter.end();
 
-        const double unitX = request.bounds.width() / size.width();
-        const double unitY = request.bounds.height() / size.height();
-        return {image, request.bounds.adjusted(-left * unitX, -top * unitY, right * unitX, bottom * unitY)};
+        return {image, grownBounds(request, margins)};
     }
 };
 
 } // namespace
 
-std::unique_ptr<Filter> makeShadowFilter()
-{
-    return std::make_unique<ShadowFilter>();
-}
+ZM_LIBRARY_EFFECT(Shadow, ShadowFilter, u"shadow"_s)
 
 } // namespace zm

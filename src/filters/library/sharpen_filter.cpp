@@ -1,5 +1,4 @@
 #include "filters/library_filter.h"
-#include "filters/library_filters.h"
 
 #include <algorithm>
 #include <cmath>
@@ -21,15 +20,12 @@ constexpr double kBlurPerRadius = 8.0;
 class SharpenFilter final : public LibraryFilter
 {
 public:
-    SharpenFilter()
-        : LibraryFilter(u"sharpen"_s)
-    {
-    }
+    using LibraryFilter::LibraryFilter;
 
     FilterRenderResult render(const FilterRenderRequest &request) const override
     {
-        const double strength = request.percent(u"strength"_s, 50.0);
-        const double radius = request.pixels(u"radius"_s, 1.5);
+        const double strength = request.percent(u"strength"_s);
+        const double radius = request.pixels(u"radius"_s);
         if (strength == 0.0)
             return request.unchanged();
 
@@ -37,8 +33,9 @@ public:
         const PassChain::Picture input = chain.source(request.image);
         const auto pass = [&](PassChain::Picture picture, Step step) {
             LibraryUniformBlock block(u"sharpen"_s);
-            block.setVec2("u_size"_L1, request.size().width(), request.size().height());
-            block.setVec2("u_strength"_L1, std::max(strength, 0.0), double(step));
+            block.setSize("u_size"_L1, request.size());
+            block.setFloat("u_strength"_L1, std::max(strength, 0.0));
+            block.setFloat("u_step"_L1, double(step));
             block.setFloat("u_radius"_L1, radius);
             return addPass(chain, block, {picture});
         };
@@ -54,9 +51,6 @@ public:
 
 } // namespace
 
-std::unique_ptr<Filter> makeSharpenFilter()
-{
-    return std::make_unique<SharpenFilter>();
-}
+ZM_LIBRARY_EFFECT(Sharpen, SharpenFilter, u"sharpen"_s)
 
 } // namespace zm

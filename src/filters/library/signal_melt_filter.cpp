@@ -1,5 +1,4 @@
-#include "filters/library_filter.h"
-#include "filters/library_filters.h"
+#include "filters/craft/recipe.h"
 
 using namespace Qt::StringLiterals;
 
@@ -8,33 +7,20 @@ namespace zm {
 namespace {
 
 // A picture whose signal breaks: lines tear, blocks jump, columns run down.
-class SignalMeltFilter final : public LibraryFilter
+Recipe signalMelt()
 {
-public:
-    SignalMeltFilter()
-        : LibraryFilter(u"signal-melt"_s)
-    {
-    }
-
-    FilterRenderResult render(const FilterRenderRequest &request) const override
-    {
-        LibraryUniformBlock block(u"signal-melt"_s);
-        block.setVec2("u_size"_L1, request.image.width(), request.image.height());
-        block.setFloat("u_tearAmount"_L1, request.percent(u"tear"_s, 45.0));
-        block.setFloat("u_blockSize"_L1, request.diagonalPixels(u"blockSize"_s, 30.0));
-        block.setFloat("u_displacement"_L1, request.diagonalPixels(u"displacement"_s, 60.0));
-        block.setFloat("u_rgbSplit"_L1, request.diagonalPixels(u"rgbSplit"_s, 5.0));
-        block.setFloat("u_seed"_L1, request.number(u"seed"_s, 7.0));
-        block.setFloat("u_mode"_L1, request.choice(u"mode"_s, {"melt"_L1, "digital"_L1, "analog"_L1}));
-        return request.singlePass(block);
-    }
-};
+    return RecipePass("signal-melt")
+        .pictureSize("u_size")
+        .percent("u_tearAmount", "tear")
+        .diagonalPixels("u_blockSize", "blockSize")
+        .diagonalPixels("u_displacement", "displacement")
+        .diagonalPixels("u_rgbSplit", "rgbSplit")
+        .number("u_seed", "seed")
+        .choice("u_mode", "mode");
+}
 
 } // namespace
 
-std::unique_ptr<Filter> makeSignalMeltFilter()
-{
-    return std::make_unique<SignalMeltFilter>();
-}
+ZM_LIBRARY_EFFECT(SignalMelt, RecipeFilter, u"signal-melt"_s, signalMelt())
 
 } // namespace zm

@@ -1,5 +1,4 @@
-#include "filters/library_filter.h"
-#include "filters/library_filters.h"
+#include "filters/craft/recipe.h"
 
 using namespace Qt::StringLiterals;
 
@@ -7,30 +6,17 @@ namespace zm {
 
 namespace {
 
-class SoftAmberFilter final : public LibraryFilter
+Recipe softAmber()
 {
-public:
-    SoftAmberFilter()
-        : LibraryFilter(u"soft-amber"_s)
-    {
-    }
-
-    FilterRenderResult render(const FilterRenderRequest &request) const override
-    {
-        LibraryUniformBlock block(u"soft-amber"_s);
-        block.setFloat("u_strength"_L1, request.percent(u"strength"_s, 85.0));
-        block.setFloat("u_warmth"_L1, request.percent(u"warmth"_s, 55.0));
-        block.setFloat("u_pastel"_L1, request.percent(u"pastel"_s, 45.0));
-        block.setFloat("u_greens"_L1, request.percent(u"greens"_s, 60.0));
-        return request.singlePass(block);
-    }
-};
+    return RecipePass("soft-amber")
+        .percent("u_strength", "strength")
+        .percent("u_warmth", "warmth")
+        .percent("u_pastel", "pastel")
+        .percent("u_greens", "greens");
+}
 
 } // namespace
 
-std::unique_ptr<Filter> makeSoftAmberFilter()
-{
-    return std::make_unique<SoftAmberFilter>();
-}
+ZM_LIBRARY_EFFECT(SoftAmber, RecipeFilter, u"soft-amber"_s, softAmber())
 
 } // namespace zm

@@ -1,6 +1,5 @@
 #include "filters/craft/cell_picture.h"
 #include "filters/library_filter.h"
-#include "filters/library_filters.h"
 
 #include <algorithm>
 #include <cmath>
@@ -152,26 +151,23 @@ private:
 class StainedGlassFilter final : public LibraryFilter
 {
 public:
-    StainedGlassFilter()
-        : LibraryFilter(u"stained-glass"_s)
-    {
-    }
+    using LibraryFilter::LibraryFilter;
 
     FilterRenderResult render(const FilterRenderRequest &request) const override
     {
         const QSize size = request.size();
-        const double side = std::max(request.diagonalPixels(u"paneSize"_s, 24.0), 2.0);
-        const double seed = request.number(u"seed"_s, 12.0);
+        const double side = std::max(request.diagonalPixels(u"paneSize"_s), 2.0);
+        const double seed = request.number(u"seed"_s);
         LibraryUniformBlock block(u"stained-glass"_s);
-        block.setVec2("u_size"_L1, size.width(), size.height());
+        block.setSize("u_size"_L1, size);
         block.setFloat("u_paneSize"_L1, side);
-        block.setFloat("u_colorLevels"_L1, request.number(u"colorLevels"_s, 12.0));
-        block.setFloat("u_saturation"_L1, request.percent(u"saturation"_s, 140.0));
-        block.setFloat("u_seamWidth"_L1, request.diagonalPixels(u"seamWidth"_s, 2.6));
-        block.setColor("u_leadColor"_L1, request.parameters.color(u"leadColor"_s, QColor(0x1d, 0x1f, 0x23)));
-        block.setFloat("u_shine"_L1, request.percent(u"shine"_s, 45.0));
-        block.setFloat("u_refraction"_L1, request.percent(u"refraction"_s, 45.0));
-        block.setFloat("u_translucency"_L1, request.percent(u"translucency"_s, 30.0));
+        block.setFloat("u_colorLevels"_L1, request.number(u"colorLevels"_s));
+        block.setFloat("u_saturation"_L1, request.percent(u"saturation"_s));
+        block.setFloat("u_seamWidth"_L1, request.diagonalPixels(u"seamWidth"_s));
+        block.setColor("u_leadColor"_L1, request.color(u"leadColor"_s));
+        block.setFloat("u_shine"_L1, request.percent(u"shine"_s));
+        block.setFloat("u_refraction"_L1, request.percent(u"refraction"_s));
+        block.setFloat("u_translucency"_L1, request.percent(u"translucency"_s));
         block.setFloat("u_seed"_L1, seed);
 
         PassChain chain;
@@ -184,9 +180,6 @@ public:
 
 } // namespace
 
-std::unique_ptr<Filter> makeStainedGlassFilter()
-{
-    return std::make_unique<StainedGlassFilter>();
-}
+ZM_LIBRARY_EFFECT(StainedGlass, StainedGlassFilter, u"stained-glass"_s)
 
 } // namespace zm

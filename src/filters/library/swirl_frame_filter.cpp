@@ -1,6 +1,5 @@
 #include "filters/craft/swirl_frame.h"
 #include "filters/library_filter.h"
-#include "filters/library_filters.h"
 
 #include <algorithm>
 #include <cmath>
@@ -19,27 +18,24 @@ constexpr double kLeastSoftening = 2.5; ///< pixels, of a picture that can be ha
 class SwirlFrameFilter final : public LibraryFilter
 {
 public:
-    SwirlFrameFilter()
-        : LibraryFilter(u"swirl-frame"_s)
-    {
-    }
+    using LibraryFilter::LibraryFilter;
 
     FilterRenderResult render(const FilterRenderRequest &request) const override
     {
         SwirlFrameSettings settings;
-        settings.swirlDegrees = request.number(u"angle"_s, 140.0);
-        settings.swirlReach = request.percent(u"reach"_s, 130.0);
-        settings.backgroundGamma = 1.0 + request.percent(u"brightness"_s, 0.0);
-        settings.feather = request.percent(u"feather"_s, 33.0);
-        settings.ovalShape = request.percent(u"roundness"_s, 80.0);
-        settings.pictureScale = request.percent(u"size"_s, 100.0);
+        settings.swirlDegrees = request.number(u"angle"_s);
+        settings.swirlReach = request.percent(u"reach"_s);
+        settings.backgroundGamma = 1.0 + request.percent(u"brightness"_s);
+        settings.feather = request.percent(u"feather"_s);
+        settings.ovalShape = request.percent(u"roundness"_s);
+        settings.pictureScale = request.percent(u"size"_s);
         // A smaller picture does not lie upon itself: its border fades as a whole.
         settings.fadeShare = 1.0 - 0.7 * std::clamp((settings.pictureScale - 0.85) / 0.15, 0.0, 1.0);
         PassChain chain;
         const PassChain::Picture picture = chain.source(request.image);
         // What is as soft as this is there in a half, too: the blur is done where it has little left to do.
         PassChain::Picture background = picture;
-        double softening = kSoftening / 1000.0 * std::hypot(request.image.width(), request.image.height());
+        double softening = kSoftening / 1000.0 * request.diagonal();
         for (; softening > kLeastSoftening; softening /= 2.0)
             background = chain.shader(u"textureCopy"_s, (chain.size(background) / 2).expandedTo({1, 1}), {background});
         background = chain.reducedBlur(background, softening);
@@ -49,9 +45,6 @@ public:
 
 } // namespace
 
-std::unique_ptr<Filter> makeSwirlFrameFilter()
-{
-    return std::make_unique<SwirlFrameFilter>();
-}
+ZM_LIBRARY_EFFECT(SwirlFrame, SwirlFrameFilter, u"swirl-frame"_s)
 
 } // namespace zm

@@ -1,6 +1,6 @@
+#include "filters/craft/growth.h"
 #include "filters/craft/silhouette.h"
 #include "filters/library_filter.h"
-#include "filters/library_filters.h"
 
 #include <QPainter>
 #include <QtMath>
@@ -37,18 +37,15 @@ bool isOpaque(const QImage &image)
 class SwirlStackFilter final : public LibraryFilter
 {
 public:
-    SwirlStackFilter()
-        : LibraryFilter(u"swirl"_s)
-    {
-    }
+    using LibraryFilter::LibraryFilter;
 
     FilterRenderResult render(const FilterRenderRequest &request) const override
     {
         const QSizeF size = request.size();
-        const int copies = std::clamp(int(std::lround(request.number(u"copies"_s, 10.0))), 1, kMaximumCopies);
+        const int copies = std::clamp(int(std::lround(request.number(u"copies"_s))), 1, kMaximumCopies);
         const QList<QTransform> places = placesOf(request, size, copies);
-        const double scale = std::clamp(request.percent(u"size"_s, 55.0), 0.01, 1.0);
-        if (request.choice(u"placement"_s, {"inside"_L1, "beyond"_L1}) == 0)
+        const double scale = std::clamp(request.percent(u"size"_s), 0.01, 1.0);
+        if (request.text(u"placement"_s) != "beyond"_L1)
             return painted(request, places, request.size(), scale, 1.0);
 
         // Grown evenly on all sides, so that the picture stays where it is.
@@ -58,8 +55,7 @@ public:
             all |= place.mapRect(QRectF(QPointF(), size));
         const QSizeF reach(2.0 * std::max(-all.left(), all.right() - size.width()) + size.width(),
                            2.0 * std::max(-all.top(), all.bottom() - size.height()) + size.height());
-        const double longest =
-            std::max({request.renderer->maximumTextureSize(), request.size().width(), request.size().height()});
+        const double longest = longestGrownSide(request);
         const double growth = reach.width() * reach.height() / (size.width() * size.height());
         // Pixels of the result for one of the picture.
         const double resolution = std::min({1.0, longest / (scale * reach.width()), longest / (scale * reach.height()),
@@ -74,9 +70,9 @@ private:
     /// From the farthest to the nearest: how each copy lies behind the picture, in pixels of the picture.
     static QList<QTransform> placesOf(const FilterRenderRequest &request, const QSizeF &size, int copies)
     {
-        const double twist = request.number(u"angle"_s, 60.0);
-        const double growth = std::max(request.percent(u"growth"_s, 340.0), 0.01);
-        const double drift = request.diagonalPixels(u"drift"_s, 0.0);
+        const double twist = request.number(u"angle"_s);
+        const double growth = std::max(request.percent(u"growth"_s), 0.01);
+        const double drift = request.diagonalPixels(u"drift"_s);
         const QPointF centre(0.5 * size.width(), 0.5 * size.height());
         QList<QTransform> places;
         for (int i = copies; i > 0; --i) {
@@ -110,7 +106,7 @@ private:
             return request.unchanged();
         result.fill(Qt::transparent);
 
-        const double shadowStrength = std::clamp(request.percent(u"shadow"_s, 45.0), 0.0, 1.0);
+        const double shadowStrength = std::clamp(request.percent(u"shadow"_s), 0.0, 1.0);
         const double sigma = kShadowSigma / 1000.0 * std::hypot(front.width(), front.height());
         Silhouette shadow;
         if (shadowStrength > 0.0) {
@@ -124,7 +120,7 @@ private:
         const QTransform toPicture =
             QTransform::fromScale(size.width() / front.width(), size.height() / front.height());
         const QPointF drop = kShadowDistance * sigma * QPointF(1.0, 1.6);
-        const double lastOpacity = 1.0 - std::clamp(request.percent(u"fade"_s, 25.0), 0.0, 1.0);
+        const double lastOpacity = 1.0 - std::clamp(request.percent(u"fade"_s), 0.0, 1.0);
 
         QPainter painter(&result);
         painter.setRenderHints(QPainter::SmoothPixmapTransform | QPainter::Antialiasing);
@@ -161,9 +157,6 @@ private:
 
 } // namespace
 
-std::unique_ptr<Filter> makeSwirlStackFilter()
-{
-    return std::make_unique<SwirlStackFilter>();
-}
+ZM_LIBRARY_EFFECT(SwirlStack, SwirlStackFilter, u"swirl"_s)
 
 } // namespace zm

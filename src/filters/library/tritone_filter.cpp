@@ -1,5 +1,4 @@
-#include "filters/library_filter.h"
-#include "filters/library_filters.h"
+#include "filters/craft/recipe.h"
 
 using namespace Qt::StringLiterals;
 
@@ -7,36 +6,20 @@ namespace zm {
 
 namespace {
 
-// Three colours for shadows, midtones and highlights. The last component of each carries a number of the mixture.
-class TritoneFilter final : public LibraryFilter
+// Three colours for shadows, midtones and highlights.
+Recipe tritone()
 {
-public:
-    TritoneFilter()
-        : LibraryFilter(u"tritone"_s)
-    {
-    }
-
-    FilterRenderResult render(const FilterRenderRequest &request) const override
-    {
-        const auto tone = [&request](const QString &key, QRgb fallback) {
-            return request.parameters.color(key, QColor(fallback));
-        };
-        LibraryUniformBlock block(u"tritone"_s);
-        block.setVec4("u_toneLow"_L1, 0.0, 0.0, 0.0, request.percent(u"balance"_s, 0.0));
-        block.setVec4("u_toneMid"_L1, 0.0, 0.0, 0.0, request.percent(u"contrast"_s, 15.0));
-        block.setVec4("u_toneHigh"_L1, 0.0, 0.0, 0.0, request.percent(u"amount"_s, 100.0));
-        block.setColor("u_toneLow"_L1, tone(u"tone0"_s, 0xff17183a));
-        block.setColor("u_toneMid"_L1, tone(u"tone1"_s, 0xffb85a68));
-        block.setColor("u_toneHigh"_L1, tone(u"tone2"_s, 0xfffbebcf));
-        return request.singlePass(block);
-    }
-};
+    return RecipePass("tritone")
+        .color("u_toneLow", "tone0")
+        .color("u_toneMid", "tone1")
+        .color("u_toneHigh", "tone2")
+        .percent("u_balance", "balance")
+        .percent("u_contrast", "contrast")
+        .percent("u_amount", "amount");
+}
 
 } // namespace
 
-std::unique_ptr<Filter> makeTritoneFilter()
-{
-    return std::make_unique<TritoneFilter>();
-}
+ZM_LIBRARY_EFFECT(Tritone, RecipeFilter, u"tritone"_s, tritone())
 
 } // namespace zm

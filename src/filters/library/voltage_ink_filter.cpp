@@ -1,6 +1,5 @@
 #include "filters/craft/map_size.h"
 #include "filters/library_filter.h"
-#include "filters/library_filters.h"
 
 #include <algorithm>
 #include <cmath>
@@ -30,10 +29,7 @@ void mergeIntoGreen(QImage &image, const QImage &red)
 class VoltageInkFilter final : public LibraryFilter
 {
 public:
-    VoltageInkFilter()
-        : LibraryFilter(u"voltage-ink"_s)
-    {
-    }
+    using LibraryFilter::LibraryFilter;
 
     FilterRenderResult render(const FilterRenderRequest &request) const override
     {
@@ -41,16 +37,20 @@ public:
         const double wanted = kReach * std::hypot(size.width(), size.height()) / 1000.0;
         const double reach = std::max(wanted, 0.8);
         const int reduction = std::max(int(reach / kReachInMap), 1);
-        const double radius = request.diagonalPixels(u"glowRadius"_s, 9.0);
+        const double radius = request.diagonalPixels(u"glowRadius"_s);
         const QSize mapsSize = mapSize(size, reduction);
         LibraryUniformBlock block(u"voltage-ink"_s);
-        block.setVec4("u_size"_L1, size.width(), size.height(), mapsSize.width(), mapsSize.height());
-        block.setFloat("u_edgeThreshold"_L1, request.percent(u"edgeThreshold"_s, 30.0));
-        block.setFloat("u_lineIntensity"_L1, request.percent(u"lineIntensity"_s, 70.0));
-        block.setColor("u_glowColor"_L1, request.parameters.color(u"glowColor"_s, QColor(0x22, 0xc8, 0xff)));
-        block.setFloat("u_backgroundDim"_L1, request.percent(u"backgroundDim"_s, 82.0));
+        block.setSize("u_size"_L1, size);
+        block.setSize("u_mapSize"_L1, mapsSize);
+        block.setFloat("u_glowRadius"_L1, radius);
+        block.setFloat("u_reach"_L1, reach);
+        block.setFloat("u_edgeScale"_L1, std::sqrt(wanted / reach));
+        block.setFloat("u_edgeThreshold"_L1, request.percent(u"edgeThreshold"_s));
+        block.setFloat("u_lineIntensity"_L1, request.percent(u"lineIntensity"_s));
+        block.setColor("u_glowColor"_L1, request.color(u"glowColor"_s));
+        block.setFloat("u_backgroundDim"_L1, request.percent(u"backgroundDim"_s));
         const auto pass = [&](PassChain &chain, Stage stage, PassChain::Picture input, const QSize &passSize) {
-            block.setVec4("u_glowRadius"_L1, radius, double(stage), reach, std::sqrt(wanted / reach));
+            block.setFloat("u_step"_L1, double(stage));
             return chain.libraryShader(block.shaderId(), passSize, {input}, block.bytes());
         };
 
@@ -80,9 +80,6 @@ private:
 
 } // namespace
 
-std::unique_ptr<Filter> makeVoltageInkFilter()
-{
-    return std::make_unique<VoltageInkFilter>();
-}
+ZM_LIBRARY_EFFECT(VoltageInk, VoltageInkFilter, u"voltage-ink"_s)
 
 } // namespace zm

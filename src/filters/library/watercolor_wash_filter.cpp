@@ -1,6 +1,5 @@
 #include "filters/craft/patch_smoothing.h"
 #include "filters/library_filter.h"
-#include "filters/library_filters.h"
 
 #include <cmath>
 
@@ -16,24 +15,21 @@ constexpr double kPatch = 4.6; // the width of a patch in the working copy, pixe
 class WatercolorWashFilter final : public LibraryFilter
 {
 public:
-    WatercolorWashFilter()
-        : LibraryFilter(u"watercolor-wash"_s)
-    {
-    }
+    using LibraryFilter::LibraryFilter;
 
     FilterRenderResult render(const FilterRenderRequest &request) const override
     {
-        const double unit = std::hypot(request.image.width(), request.image.height()) / 1000.0;
-        const double detail = request.percent(u"detail"_s, 50.0);
+        const double unit = request.diagonal() / 1000.0;
+        const double detail = request.percent(u"detail"_s);
 
         LibraryUniformBlock block(u"watercolor-wash"_s);
-        block.setVec2("u_size"_L1, request.image.width(), request.image.height());
+        block.setSize("u_size"_L1, request.size());
         block.setFloat("u_renderScale"_L1, unit);
-        block.setFloat("u_bleed"_L1, request.percent(u"bleed"_s, 45.0));
-        block.setFloat("u_pigment"_L1, request.percent(u"pigment"_s, 55.0));
+        block.setFloat("u_bleed"_L1, request.percent(u"bleed"_s));
+        block.setFloat("u_pigment"_L1, request.percent(u"pigment"_s));
         block.setFloat("u_detail"_L1, detail);
-        block.setFloat("u_paper"_L1, request.percent(u"paper"_s, 50.0));
-        block.setFloat("u_blend"_L1, request.percent(u"blend"_s, 40.0));
+        block.setFloat("u_paper"_L1, request.percent(u"paper"_s));
+        block.setFloat("u_blend"_L1, request.percent(u"blend"_s));
 
         PassChain chain;
         // Patches of about this width, in thousandths of the diagonal, are what a brush lays down at once.
@@ -49,9 +45,6 @@ public:
 
 } // namespace
 
-std::unique_ptr<Filter> makeWatercolorWashFilter()
-{
-    return std::make_unique<WatercolorWashFilter>();
-}
+ZM_LIBRARY_EFFECT(WatercolorWash, WatercolorWashFilter, u"watercolor-wash"_s)
 
 } // namespace zm

@@ -1,6 +1,4 @@
-#include "filters/craft/placed_line.h"
 #include "filters/library_filter.h"
-#include "filters/library_filters.h"
 
 #include <cmath>
 
@@ -18,32 +16,29 @@ constexpr double kPassLengths[] = {1.0 / 16.0, 1.0 / 4.0, 1.0}; // of the whole
 class ZoomTrailsFilter final : public LibraryFilter
 {
 public:
-    ZoomTrailsFilter()
-        : LibraryFilter(u"zoom-trails"_s)
-    {
-    }
+    using LibraryFilter::LibraryFilter;
 
     FilterRenderResult render(const FilterRenderRequest &request) const override
     {
-        const double amount = request.percent(u"amount"_s, 100.0);
-        const double length = request.percent(u"length"_s, 35.0);
+        const double amount = request.percent(u"amount"_s);
+        const double length = request.percent(u"length"_s);
         if (amount <= 0.0 || length <= 0.0)
             return request.unchanged();
-        const QLineF focus = placedLine(request, u"center"_s, {0.5, 0.45, 0.66, 0.45});
+        const QLineF focus = request.line(u"center"_s);
 
         PassChain chain;
         PassChain::Picture picture = chain.source(request.image);
         for (const double share : kPassLengths) {
             const bool isLast = share == 1.0;
             LibraryUniformBlock block(u"zoom-trails"_s);
-            block.setVec2("u_size"_L1, request.image.width(), request.image.height());
+            block.setSize("u_size"_L1, request.size());
             block.setVec2("u_center"_L1, focus.x1(), focus.y1());
             block.setFloat("u_focusRadius"_L1, focus.length());
             block.setFloat("u_length"_L1, 1.0 - std::pow(1.0 - length, share));
             block.setFloat("u_amount"_L1, amount);
-            block.setFloat("u_focusSoftness"_L1, request.percent(u"focusSoftness"_s, 60.0));
-            block.setFloat("u_glow"_L1, isLast ? request.percent(u"glow"_s, 40.0) : 0.0);
-            block.setFloat("u_colorSplit"_L1, isLast ? request.percent(u"colorSplit"_s, 20.0) : 0.0);
+            block.setFloat("u_focusSoftness"_L1, request.percent(u"focusSoftness"_s));
+            block.setFloat("u_glow"_L1, isLast ? request.percent(u"glow"_s) : 0.0);
+            block.setFloat("u_colorSplit"_L1, isLast ? request.percent(u"colorSplit"_s) : 0.0);
             picture = addPass(chain, block, {picture});
         }
         return request.chained(chain, picture);
@@ -52,9 +47,6 @@ public:
 
 } // namespace
 
-std::unique_ptr<Filter> makeZoomTrailsFilter()
-{
-    return std::make_unique<ZoomTrailsFilter>();
-}
+ZM_LIBRARY_EFFECT(ZoomTrails, ZoomTrailsFilter, u"zoom-trails"_s)
 
 } // namespace zm

@@ -1,4 +1,4 @@
-#include "filters/craft/tinted_mask_overlay_filter.h"
+#include "filters/craft/tinted_mask_overlay.h"
 
 #include "filters/craft/shape_mask.h"
 #include "generators/texture_loader.h"
@@ -27,59 +27,42 @@ QImage fittedTile(const QImage &tile, double shownScale)
 
 } // namespace
 
-TintedMaskOverlayFilter::TintedMaskOverlayFilter(const QString &id, const QString &maskTextureFamily,
-                                                 const Defaults &defaults)
+TintedMaskOverlayFilter::TintedMaskOverlayFilter(const QString &id, const QString &maskTextureFamily)
     : LibraryFilter(id)
     , m_maskTextureFamily(maskTextureFamily)
-    , m_defaults(defaults)
 {
 }
 
 FilterRenderResult TintedMaskOverlayFilter::render(const FilterRenderRequest &request) const
 {
-    const ParameterValues &values = request.parameters;
-    const double intensity = request.percent(u"intensity"_s, 100.0);
+    const double intensity = request.percent(u"intensity"_s);
     if (!request.services.textureLoader || intensity <= 0.0)
         return request.unchanged();
-    const QString texture = values.string(u"texture"_s, m_defaults.texture);
+    const QString texture = request.text(u"texture"_s);
     const QImage tile = request.services.textureLoader->loadImage(m_maskTextureFamily + u'/' + texture);
     if (tile.isNull())
         return request.unchanged();
 
-    const double textureScale = request.number(u"textureScale"_s, 50.0) * 0.009 + 0.1;
-    const double offset = request.number(u"offset"_s, 25.0) * 0.0025;
+    const double textureScale = request.number(u"textureScale"_s) * 0.009 + 0.1;
+    const double offset = request.number(u"offset"_s) * 0.0025;
     const double pixelsPerUnit = request.renderScale();
     LibraryUniformBlock block(u"tinted-mask-base"_s);
-    block.setVec2("u_size"_L1, request.image.width(), request.image.height());
+    block.setSize("u_size"_L1, request.size());
     block.setVec2("u_texSize"_L1, tile.width() * pixelsPerUnit, tile.height() * pixelsPerUnit);
     block.setFloat("u_textureScale"_L1, textureScale);
-    block.setFloat("u_inverted"_L1, values.boolean(u"mask.inverted"_s, true) ? 1.0 : 0.0);
+    block.setFloat("u_inverted"_L1, request.flag(u"mask.inverted"_s));
     block.setVec2("u_offset"_L1, offset, offset);
     block.setFloat("u_intensity"_L1, intensity);
-    block.setColor("u_color0"_L1, values.color(u"color0"_s, m_defaults.colors[0]));
-    block.setColor("u_color1"_L1, values.color(u"color1"_s, m_defaults.colors[1]));
-    block.setColor("u_color2"_L1, values.color(u"color2"_s, m_defaults.colors[2]));
+    block.setColor("u_color0"_L1, request.color(u"color0"_s));
+    block.setColor("u_color1"_L1, request.color(u"color1"_s));
+    block.setColor("u_color2"_L1, request.color(u"color2"_s));
 
     const double shownScale = std::max(textureScale, kSmallestTextureScale) * pixelsPerUnit;
     PassChain chain;
     const PassChain::Picture input = chain.source(request.image);
     const PassChain::Picture pattern = chain.source(fittedTile(tile, shownScale));
-    const PassChain::Picture mask = addShapeMask(chain, request, {u"ellipse"_s, {.scaleX = 0.9, .scaleY = 0.9}, 30.0});
+    const PassChain::Picture mask = addShapeMask(chain, request);
     return request.chained(chain, addPass(chain, block, {input, pattern, mask}));
-}
-
-StarMaskFilter::StarMaskFilter()
-    : TintedMaskOverlayFilter(
-          u"star-mask"_s, u"star-mask"_s,
-          {u"sparkles.png"_s, {QColor(0xff, 0xe9, 0xa8), QColor(0xff, 0xff, 0xff), QColor(0xff, 0xc2, 0xdd)}})
-{
-}
-
-ColorScratchesFilter::ColorScratchesFilter()
-    : TintedMaskOverlayFilter(
-          u"scratch-mask"_s, u"scratch-mask"_s,
-          {u"fine-scratches.png"_s, {QColor(0xff, 0xb3, 0x47), QColor(0xff, 0xf4, 0xdc), QColor(0x3f, 0xa7, 0xa0)}})
-{
 }
 
 } // namespace zm

@@ -1,0 +1,67 @@
+#pragma once
+
+/// Every effect, a line each, in the order of the registry: EFFECT(Name) for each file of this folder, which ends in
+/// ZM_LIBRARY_EFFECT(Name, ...). An effect is added by its files and a line here.
+#define ZM_LIBRARY_EFFECTS(EFFECT) \
+    EFFECT(ColorAdjust) \
+    EFFECT(Shadow) \
+    EFFECT(Relight) \
+    EFFECT(Sharpen) \
+    EFFECT(BokehPearls) \
+    EFFECT(BrushstrokeFrame) \
+    EFFECT(ColorScratches) \
+    EFFECT(ShapeTool) \
+    EFFECT(FadeOut) \
+    EFFECT(FocusFrame) \
+    EFFECT(JaggedEdge) \
+    EFFECT(LightLeak) \
+    EFFECT(PetzvalLens) \
+    EFFECT(PrismFlare) \
+    EFFECT(Bevel) \
+    EFFECT(RoundedCorners) \
+    EFFECT(StarMask) \
+    EFFECT(Stardust) \
+    EFFECT(SwirlStack) \
+    EFFECT(SwirlFrame) \
+    EFFECT(Vignette) \
+    EFFECT(ZoomTrails) \
+    EFFECT(Lomo) \
+    EFFECT(CrystalContrast) \
+    EFFECT(SoftAmber) \
+    EFFECT(EightiesFlash) \
+    EFFECT(AutumnGlow) \
+    EFFECT(WinterBreeze) \
+    EFFECT(FilmGrader) \
+    EFFECT(FilmGrain) \
+    EFFECT(Halation) \
+    EFFECT(SignalMelt) \
+    EFFECT(PixelDrift) \
+    EFFECT(DreamyBlend) \
+    EFFECT(Colorswap) \
+    EFFECT(Grayscale) \
+    EFFECT(SelectiveColor) \
+    EFFECT(ComicBook) \
+    EFFECT(VoltageInk) \
+    EFFECT(PencilSketch) \
+    EFFECT(Painting) \
+    EFFECT(WatercolorWash) \
+    EFFECT(PaperDiorama) \
+    EFFECT(Embroidery) \
+    EFFECT(Stippling) \
+    EFFECT(LowPolyEffect) \
+    EFFECT(StainedGlass) \
+    EFFECT(LightSculptor) \
+    EFFECT(GlassCaustics) \
+    EFFECT(HolographicFoil) \
+    EFFECT(RisoPress) \
+    EFFECT(TiltShift) \
+    EFFECT(Pixelate) \
+    EFFECT(HDRPhoto) \
+    EFFECT(Retro) \
+    EFFECT(SepiaTone) \
+    EFFECT(Tritone) \
+    EFFECT(Heatmap) \
+    EFFECT(Nightvision) \
+    EFFECT(Blueprint) \
+    EFFECT(Ghost) \
+    EFFECT(Sobel)
