@@ -9,8 +9,6 @@ namespace zm {
 
 namespace {
 
-constexpr double kReachInMap = 1.6; // of the gradient, pixels of the map of tones, or more
-
 // A technical drawing on blue paper.
 class BlueprintFilter final : public LibraryFilter
 {
@@ -21,7 +19,7 @@ public:
     {
         LibraryUniformBlock block(u"blueprint"_s);
         const double reach = std::max(1.4 * request.diagonalPixels(u"edgeRadius"_s), 0.8);
-        const int reduction = std::max(int(reach / kReachInMap), 1);
+        const int reduction = std::max(int(reach / kGradientReachInMap), 1);
         const QSize tonesSize = mapSize(request.size(), reduction);
         block.setSize("u_size"_L1, request.size());
         block.setTexelSize("u_texelSize"_L1, request.size());

@@ -11,7 +11,6 @@ namespace zm {
 namespace {
 
 constexpr double kReach = 1.1; // of the gradient, thousandths of the diagonal
-constexpr double kReachInMap = 1.6; // the same in pixels of the maps, or more
 constexpr double kSmoothing = 0.6; // sigma of the blur before the gradient, of its reach
 
 /// Writes the red of one picture into the green of another of the same size, both RGBA8888.
@@ -36,7 +35,7 @@ public:
         const QSize size = request.size();
         const double wanted = kReach * std::hypot(size.width(), size.height()) / 1000.0;
         const double reach = std::max(wanted, 0.8);
-        const int reduction = std::max(int(reach / kReachInMap), 1);
+        const int reduction = std::max(int(reach / kGradientReachInMap), 1);
         const double radius = request.diagonalPixels(u"glowRadius"_s);
         const QSize mapsSize = mapSize(size, reduction);
         LibraryUniformBlock block(u"voltage-ink"_s);
