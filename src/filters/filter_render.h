@@ -83,7 +83,7 @@ struct FilterRenderRequest
     FilterRenderResult chained(const PassChain &chain, PassChain::Picture picture) const;
 
 private:
-    const QString &known(const QString &key) const
+    QString known(const QString &key) const
     {
         Q_ASSERT_X(parameters.contains(key), "FilterRenderRequest", qPrintable(key));
         return key;
