@@ -62,7 +62,7 @@ QList<BenchRow> largeRasters(const QList<QImage> &pictures, bool compressImages)
 {
     const EmbeddedImageMode mode = compressImages ? EmbeddedImageMode::Compressed : EmbeddedImageMode::Lossless;
     const QString name = u"10 x 12 MP, %1: "_s.arg(compressImages ? u"lossy"_s : u"lossless"_s);
-    FileError error;
+    Error error;
     QList<QByteArray> webps;
     const double encode = medianMilliseconds(kRuns, [&] {
         webps.clear();

@@ -51,7 +51,7 @@ int makePhoto(const QString &path)
 
 int writeLosslessWebp(const QString &input, const QString &output)
 {
-    zm::FileError error;
+    zm::Error error;
     const std::optional<QByteArray> webp = zm::encodeWebp(QImage(input), zm::EmbeddedImageMode::Lossless, error);
     QFile file(output);
     return webp && file.open(QIODevice::WriteOnly) && file.write(*webp) == webp->size() ? 0 : 1;

@@ -180,7 +180,7 @@ private slots:
         const QByteArray stored = section(1, FileBytes().u32(1).color(red, green, blue).zeros(12));
         QCOMPARE(written(document), QByteArray(fileHeader(1).bytes(stored)));
 
-        FileError error;
+        Error error;
         FileBytes expected = fileHeader(4).bytes(stored);
         document.insertObject(std::make_unique<ImageLayer>(noisePicture(9, 7, 1), u"picture"_s));
         document.insertObject(std::make_unique<TextLayer>(QList<TextParagraph>(), 0.0, u"text"_s));

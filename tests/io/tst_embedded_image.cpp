@@ -17,13 +17,13 @@ constexpr auto kCompressed = EmbeddedImageMode::Compressed;
 
 QByteArray encoded(const QImage &image, EmbeddedImageMode mode)
 {
-    FileError error;
+    Error error;
     return encodeWebp(image, mode, error).value_or(QByteArray());
 }
 
 QImage decoded(const QByteArray &file, const QSize &size = {})
 {
-    FileError error;
+    Error error;
     return decodeWebp(file, size, error).value_or(QImage());
 }
 
@@ -107,7 +107,7 @@ private slots:
         const std::pair<QImage, EmbeddedImageMode> refused[] = {
             {QImage(), kLossless}, {longest, kCompressed}, {plainPicture(2, 2, Qt::red), EmbeddedImageMode::Raw}};
         for (const auto &[picture, mode] : refused) {
-            FileError error;
+            Error error;
             QVERIFY(!encodeWebp(picture, mode, error));
             QCOMPARE(error.message(), u"An image cannot be represented as WebP."_s);
         }
@@ -145,7 +145,7 @@ private slots:
         QFETCH(const QByteArray, file);
         QFETCH(const QSize, expected);
         QFETCH(const QString, message);
-        FileError error;
+        Error error;
         QVERIFY(!decodeWebp(file, expected, error));
         QVERIFY2(error.message().startsWith(message), qPrintable(error.message()));
     }
@@ -164,13 +164,13 @@ private slots:
         const QSize size(9, 7);
         QVERIFY(!decoded(file, size).isNull());
         for (qsizetype at = 0; at < file.size(); ++at) {
-            FileError cutError;
+            Error cutError;
             QVERIFY2(!sourceFromWebp(file.first(at), size, cutError), qPrintable(QString::number(at)));
             QVERIFY(cutError.isSet());
             for (const uchar flip : {0x01, 0x80, 0xFF}) {
                 QByteArray damaged = file;
                 damaged[at] = char(damaged[at] ^ flip);
-                FileError error;
+                Error error;
                 const std::optional<RasterImageSource> source = sourceFromWebp(damaged, size, error);
                 QCOMPARE(source.has_value(), !error.isSet());
                 if (source)
@@ -200,7 +200,7 @@ private slots:
         QByteArray file = encoded(softPicture(), used);
         QVERIFY(embedSoftwareTag(file, "webp", u"not what the encoder writes"_s));
 
-        FileError error;
+        Error error;
         const std::optional<RasterImageSource> source = sourceFromWebp(file, {64, 64}, error);
         QVERIFY2(source, qPrintable(error.message()));
         QCOMPARE(source->image, decoded(file));
@@ -220,7 +220,7 @@ private slots:
     {
         const QImage picture = gradientPicture(12, 10);
         const QByteArray file = animationOf(picture);
-        FileError error;
+        Error error;
         const std::optional<RasterImageSource> source = sourceFromWebp(file, picture.size(), error);
         QVERIFY2(source, qPrintable(error.message()));
         QCOMPARE(source->image, picture);
@@ -233,7 +233,7 @@ private slots:
         const QByteArray rows("\1\2\3\4\5\6\7\0....\x9\xa\xb\xc\xd\xe\xf\x10....", 24);
         const QByteArray pixels = rows.sliced(0, 8) + rows.sliced(12, 8);
         const QImage padded(reinterpret_cast<const uchar *>(rows.constData()), 2, 2, 12, QImage::Format_RGBA8888);
-        FileError error;
+        Error error;
         QCOMPARE(encodeRawRgba(padded, error), pixels);
         QCOMPARE(decodeRawRgba(pixels, {2, 2}, error), padded.copy());
         QVERIFY(!error.isSet());
@@ -247,11 +247,11 @@ private slots:
             {{0, 2}, dimensions}, {{1'000'001, 1}, dimensions}, {{10'001, 10'000}, dimensions}, {{2, 2}, length},
             {{1, 1}, length},     {{10'000, 10'000}, length}};
         for (const auto &[size, message] : refused) {
-            FileError error;
+            Error error;
             QVERIFY(!decodeRawRgba(QByteArray(8, '\0'), size, error));
             QCOMPARE(error.message(), message);
         }
-        FileError error;
+        Error error;
         QVERIFY(!encodeRawRgba({}, error));
         QCOMPARE(error.message(), u"An image cannot be represented as raw RGBA data."_s);
     }

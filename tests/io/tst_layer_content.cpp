@@ -131,7 +131,7 @@ std::optional<LayerContent> anyContent(std::optional<Content> content)
     return content ? std::optional<LayerContent>(std::move(*content)) : std::nullopt;
 }
 
-std::optional<LayerContent> decode(const QString &kind, const QByteArray &record, FileError &error)
+std::optional<LayerContent> decode(const QString &kind, const QByteArray &record, Error &error)
 {
     if (kind == "image"_L1)
         return anyContent(decodeImageContent(record, PixelReading::Decode, error));
@@ -142,7 +142,7 @@ std::optional<LayerContent> decode(const QString &kind, const QByteArray &record
     return anyContent(decodeShapeContent(record, error));
 }
 
-QByteArray encode(const Layer &layer, FileError &error, EmbeddedImageMode mode = EmbeddedImageMode::Raw)
+QByteArray encode(const Layer &layer, Error &error, EmbeddedImageMode mode = EmbeddedImageMode::Raw)
 {
     if (const auto *image = dynamic_cast<const ImageLayer *>(&layer))
         return encodeImageContent(*image, mode, error).value_or(QByteArray());
@@ -174,7 +174,7 @@ private slots:
     {
         QFETCH(const QString, kind);
         QFETCH(const QByteArray, record);
-        FileError error;
+        Error error;
         std::optional<LayerContent> content = decode(kind, record, error);
         QVERIFY2(content, qPrintable(error.message()));
         const std::unique_ptr<Layer> layer = layerFrom(std::move(*content), u"name"_s, kId);
@@ -182,7 +182,7 @@ private slots:
         QCOMPARE(layer->name(), u"name"_s);
         QCOMPARE(encode(*layer, error), record);
         for (qsizetype size = 0; size < record.size(); ++size) {
-            FileError reason;
+            Error reason;
             QVERIFY2(!decode(kind, record.first(size), reason), qPrintable(QString::number(size)));
             QVERIFY(reason.isSet());
         }
@@ -190,7 +190,7 @@ private slots:
             for (const uchar flip : {0x01, 0x80, 0xFF}) {
                 QByteArray altered = record;
                 altered[at] = char(altered[at] ^ flip);
-                FileError reason;
+                Error reason;
                 const std::optional<LayerContent> read = decode(kind, altered, reason);
                 QCOMPARE(read.has_value(), !reason.isSet());
                 if (read)
@@ -201,7 +201,7 @@ private slots:
 
     void fieldsHaveTheirMeaning()
     {
-        FileError error;
+        Error error;
         const EditablePathNode first{kFirstNode, {0.5, 0.25}, {0.125, 1}, {2, 0}, EditablePathNode::Type::Smooth, true};
         EditablePathNode second{kSecondNode, {1.5, 1}, {0, 0}, {1, 0.75}, EditablePathNode::Type::Symmetric};
         second.hasOutControl = true;
@@ -261,7 +261,7 @@ private slots:
         QFETCH(const QString, kind);
         QFETCH(const QByteArray, record);
         QFETCH(const QString, message);
-        FileError error;
+        Error error;
         QVERIFY(!decode(kind, record, error));
         QCOMPARE(error.message(), message);
     }
@@ -293,14 +293,14 @@ private slots:
     {
         QFETCH(const QString, kind);
         QFETCH(const QByteArray, record);
-        FileError error;
+        Error error;
         QVERIFY2(decode(kind, record, error), qPrintable(error.message()));
         QVERIFY(!error.isSet());
     }
 
     void skippedPixelsAreMeasured()
     {
-        FileError error;
+        Error error;
         const QByteArray record = encode(ImageLayer(noisePicture(2, 1, 5), {}), error, EmbeddedImageMode::Lossless);
         const FileBytes three = FileBytes().u32(3);
         const std::pair<QByteArray, QString> wider[] = {
@@ -308,7 +308,7 @@ private slots:
             {rawRecord(), u"A raw RGBA image has an invalid byte length."_s}};
         for (const auto &[bytes, message] : wider) {
             QVERIFY(decodeImageContent(bytes, PixelReading::Skip, error));
-            FileError reason;
+            Error reason;
             const QByteArray wrong = FileBytes(bytes).patch(8, three).patch(16, FileBytes().f64(3));
             QVERIFY(!decodeImageContent(wrong, PixelReading::Skip, reason));
             QCOMPARE(reason.message(), message);
@@ -321,7 +321,7 @@ private slots:
         for (const auto mode : {EmbeddedImageMode::Lossless, EmbeddedImageMode::Compressed}) {
             for (const auto &[size, encoding] : encodings) {
                 const QImage picture = noisePicture(size.width(), size.height(), 6);
-                FileError error;
+                Error error;
                 const QByteArray record = encode(ImageLayer(picture, {}), error, mode);
                 QVERIFY2(!record.isEmpty(), qPrintable(error.message()));
                 QCOMPARE(record.at(4), encoding);
@@ -366,7 +366,7 @@ private slots:
     {
         QFETCH(const std::shared_ptr<Layer>, layer);
         QFETCH(const QString, message);
-        FileError error;
+        Error error;
         QCOMPARE(encode(*layer, error, EmbeddedImageMode::Lossless), QByteArray());
         QCOMPARE(error.message(), message);
     }
@@ -386,7 +386,7 @@ private slots:
             {contour({lost}), u"An editable path node is invalid."_s},
             {contour({twice, twice}), u"An editable path node ID is duplicated."_s}};
         for (const auto &[path, message] : paths) {
-            FileError error;
+            Error error;
             QVERIFY(!encodePath(path, error));
             QCOMPARE(error.message(), message);
         }

@@ -66,12 +66,12 @@ FileBytes section()
     return section({filter("unheard-of", {}, 3), filter("x", {}, 0, 8)});
 }
 
-std::unique_ptr<Layer> decoded(const QByteArray &payload, FileError &error)
+std::unique_ptr<Layer> decoded(const QByteArray &payload, Error &error)
 {
     return decodeLayerSection(kShapeSection, payload, true, error);
 }
 
-std::optional<QByteArray> encoded(const Layer &layer, FileError &error)
+std::optional<QByteArray> encoded(const Layer &layer, Error &error)
 {
     return encodeLayerSection(layer, EmbeddedImageMode::Lossless, error);
 }
@@ -79,7 +79,7 @@ std::optional<QByteArray> encoded(const Layer &layer, FileError &error)
 /// Nothing, with the reason as the test's failure, when the record is refused.
 std::optional<FilterInstance> decodedFilter(const QByteArray &record, bool honourSelectionFlag = true)
 {
-    FileError error;
+    Error error;
     ByteReader reader(record);
     const std::optional<FilterInstance> instance = decodeFilter(reader, honourSelectionFlag, error);
     [&] { QVERIFY2(instance && reader.atEnd(), qPrintable(error.message())); }();
@@ -136,7 +136,7 @@ private slots:
         values.set(u"a"_s, value);
         values.set(u"B"_s, false);
         values.set(u"A"_s, 1.0);
-        FileError error;
+        Error error;
         quint32 count = 0;
         QCOMPARE(encodeParameters(values, {u"A"_s}, &count, error), expected);
         QCOMPARE(count, 2U);
@@ -150,7 +150,7 @@ private slots:
     void whatIsWrongIsRefusedWithItsReason()
     {
         const auto refused = [](const char *message, const QByteArray &payload, quint32 type = kShapeSection) {
-            FileError error;
+            Error error;
             QVERIFY2(!decodeLayerSection(type, payload, true, error), message);
             QCOMPARE(error.message(), QString::fromLatin1(message));
         };
@@ -231,19 +231,19 @@ private slots:
     {
         const QByteArray whole = section();
         for (qsizetype size = 0; size < whole.size(); ++size) {
-            FileError error;
+            Error error;
             QVERIFY2(!decoded(whole.first(size), error) && error.isSet(), qPrintable(QString::number(size)));
         }
     }
 
     void whatNoRecordHoldsIsNotWritten()
     {
-        FileError readError;
+        Error readError;
         const std::unique_ptr<Layer> layer = decoded(section({}, QByteArray(0x1000000, 'n')), readError);
         QVERIFY2(layer, qPrintable(readError.message()));
         const auto written = [&](const QList<FilterInstance> &filters) {
             layer->setFilters(filters);
-            FileError error;
+            Error error;
             return encoded(*layer, error) ? QString() : error.message();
         };
         const auto withValue = [&](const QString &key, const ParameterValue &value) {
@@ -278,7 +278,7 @@ private slots:
             const std::optional<FilterInstance> instance = decodedFilter(record, honoursSelection);
             QVERIFY(instance && !instance->enabled && instance->parameters.count() == 2);
             QCOMPARE(instance->rasterSelectionScoped, honoursSelection);
-            FileError error;
+            Error error;
             QCOMPARE(encodeFilter(*instance, error) == record, honoursSelection);
         }
     }
@@ -296,7 +296,7 @@ private slots:
         QCOMPARE(instance->parameters.boolean(u"invert"_s, false), true);
         QCOMPARE(instance->parameters.number(u"softness"_s, 0.0), 60.0);
 
-        FileError error;
+        Error error;
         const std::optional<QByteArray> written = encodeFilter(*instance, error);
         instance->parameters.set(u"_documentColor"_s, QColor(Qt::green));
         QCOMPARE(encodeFilter(*instance, error), written);
@@ -326,7 +326,7 @@ private slots:
     void aLayerStandsAsItsTableTells()
     {
         const QByteArray bytes = section();
-        FileError error;
+        Error error;
         const std::unique_ptr<Layer> layer = decoded(bytes, error);
         QVERIFY2(layer, qPrintable(error.message()));
         QCOMPARE(layer->id(), testId(3));

@@ -1,5 +1,7 @@
 #include "io/document/document_bytes.h"
 
+#include "io/document/file_message.h"
+
 #include <QBuffer>
 #include <QFileDevice>
 
@@ -34,7 +36,7 @@ DocumentBytes::~DocumentBytes()
         static_cast<QFileDevice &>(m_device).unmap(m_mapping);
 }
 
-std::optional<QByteArray> DocumentBytes::take(qsizetype size, FileError &error)
+std::optional<QByteArray> DocumentBytes::take(qsizetype size, Error &error)
 {
     if (m_view) {
         if (size > m_view->size())
@@ -57,7 +59,7 @@ std::optional<QByteArray> DocumentBytes::take(qsizetype size, FileError &error)
     return bytes;
 }
 
-bool DocumentBytes::skip(qsizetype size, FileError &error)
+bool DocumentBytes::skip(qsizetype size, Error &error)
 {
     while (size > 0) {
         const qsizetype block = m_view ? size : std::min(size, kFirstBlock);
@@ -74,9 +76,9 @@ bool DocumentBytes::atEnd()
     return m_view ? m_view->isEmpty() : m_device.read(&byte, 1) < 1;
 }
 
-Failure DocumentBytes::fail(FileError &error) const
+Failure DocumentBytes::fail(Error &error) const
 {
-    return error.fail(FileError::tr("The .zelmora file is truncated or unreadable: %1").arg(m_device.errorString()));
+    return error.fail(FileMessage::tr("The .zelmora file is truncated or unreadable: %1").arg(m_device.errorString()));
 }
 
 } // namespace zm

@@ -1,6 +1,6 @@
 #pragma once
 
-#include "io/document/file_error.h"
+#include "base/error.h"
 
 #include <QByteArray>
 
@@ -22,12 +22,12 @@ public:
 
     /// The next bytes, which with Access::View hold as long as this object and the device. However large the size,
     /// memory is taken for bytes that are there.
-    std::optional<QByteArray> take(qsizetype size, FileError &error);
-    bool skip(qsizetype size, FileError &error);
+    std::optional<QByteArray> take(qsizetype size, Error &error);
+    bool skip(qsizetype size, Error &error);
     bool atEnd();
 
 private:
-    Failure fail(FileError &error) const;
+    Failure fail(Error &error) const;
 
     QIODevice &m_device;
     uchar *m_mapping = nullptr;

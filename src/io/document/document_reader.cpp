@@ -2,6 +2,7 @@
 
 #include "io/document/document_bytes.h"
 #include "io/document/document_layout.h"
+#include "io/document/file_message.h"
 
 #include <QFuture>
 #include <QIODevice>
@@ -21,7 +22,7 @@ constexpr qsizetype kSizeWorthAThread = 0x1000;
 struct DecodedLayer
 {
     std::optional<LayerRecord> record;
-    FileError error;
+    Error error;
 };
 
 struct Section
@@ -41,7 +42,7 @@ public:
     {
     }
 
-    bool add(Section section, FileError &error)
+    bool add(Section section, Error &error)
     {
         const bool large = section.type == quint32(SectionType::ImageLayer)
             && section.payload.size() >= kSizeWorthAThread && m_pixels == PixelReading::Decode;
@@ -63,7 +64,7 @@ public:
         return true;
     }
 
-    bool finish(FileError &error)
+    bool finish(Error &error)
     {
         while (!m_pending.empty()) {
             if (!handOnFirst(error))
@@ -87,7 +88,7 @@ private:
         return decoded;
     }
 
-    bool handOnFirst(FileError &error)
+    bool handOnFirst(Error &error)
     {
         Pending first = std::move(m_pending.front());
         m_pending.pop_front();
@@ -95,15 +96,15 @@ private:
         return handOn(first.layer.takeResult(), error);
     }
 
-    bool handOn(DecodedLayer layer, FileError &error)
+    bool handOn(DecodedLayer layer, Error &error)
     {
         if (!layer.record)
             error.fail(layer.error.message());
         const QUuid id = layer.record ? layer.record->id : QUuid();
         if (!layer.record || !m_sink(*std::move(layer.record), error))
-            return error.fail(FileError::tr("Could not decode a .zelmora layer section."));
+            return error.fail(FileMessage::tr("Could not decode a .zelmora layer section."));
         if (m_ids.contains(id))
-            return error.fail(FileError::tr("The .zelmora file contains a duplicated layer ID."));
+            return error.fail(FileMessage::tr("The .zelmora file contains a duplicated layer ID."));
         m_ids.insert(id);
         return true;
     }
@@ -123,21 +124,21 @@ bool isLayer(quint32 type)
         || type == quint32(SectionType::ShapeLayer);
 }
 
-bool takeProperties(const Section &section, DocumentHeader &header, FileError &error)
+bool takeProperties(const Section &section, DocumentHeader &header, Error &error)
 {
     if (section.type != quint32(SectionType::DocumentProperties))
-        return error.fail(FileError::tr("The first .zelmora section is not document properties."));
+        return error.fail(FileMessage::tr("The first .zelmora section is not document properties."));
     if (section.payload.size() != kPropertiesSize)
-        return error.fail(FileError::tr("The document-properties section has an invalid size."));
+        return error.fail(FileMessage::tr("The document-properties section has an invalid size."));
     if (u32At(section.payload, 0) != kPropertiesPayloadVersion)
-        return error.fail(FileError::tr("The document-properties payload version is unsupported."));
+        return error.fail(FileMessage::tr("The document-properties payload version is unsupported."));
     const std::optional<QColor> color = colorAt(section.payload, 4, error);
     header.backgroundColor = color.value_or(QColor());
     return color.has_value();
 }
 
 /// The section's payload is left out when nobody knows what it is.
-std::optional<Section> takeSection(DocumentBytes &bytes, bool first, FileError &error)
+std::optional<Section> takeSection(DocumentBytes &bytes, bool first, Error &error)
 {
     const std::optional<QByteArray> header = bytes.take(kSectionHeaderSize, error);
     if (!header)
@@ -145,7 +146,7 @@ std::optional<Section> takeSection(DocumentBytes &bytes, bool first, FileError &
     Section section{u32At(*header, 4), {}};
     const quint32 size = u32At(*header, 8);
     if (!header->startsWith(kSectionMagic) || size > kMaximumSectionSize)
-        return error.fail(FileError::tr("A .zelmora section header is invalid."));
+        return error.fail(FileMessage::tr("A .zelmora section header is invalid."));
     if (!first && !isLayer(section.type)) {
         if (!bytes.skip(size, error))
             return std::nullopt;
@@ -159,36 +160,36 @@ std::optional<Section> takeSection(DocumentBytes &bytes, bool first, FileError &
 }
 
 /// The document's header and the number of its sections.
-std::optional<quint32> takeHeader(DocumentBytes &bytes, DocumentHeader &header, FileError &error)
+std::optional<quint32> takeHeader(DocumentBytes &bytes, DocumentHeader &header, Error &error)
 {
     const std::optional<QByteArray> record = bytes.take(kDocumentHeaderSize, error);
     if (!record)
         return std::nullopt;
     if (!record->startsWith(kDocumentMagic))
-        return error.fail(FileError::tr("This is not a .zelmora document."));
+        return error.fail(FileMessage::tr("This is not a .zelmora document."));
     header.formatVersion = u32At(*record, 4);
     if (header.formatVersion < 1 || header.formatVersion > kDocumentFormatVersion)
-        return error.fail(FileError::tr("This .zelmora format version is not supported."));
+        return error.fail(FileMessage::tr("This .zelmora format version is not supported."));
     const quint32 width = u32At(*record, 8);
     const quint32 height = u32At(*record, 12);
     if (width < 1 || width > kMaximumDocumentSide || height < 1 || height > kMaximumDocumentSide)
-        return error.fail(FileError::tr("The .zelmora document dimensions are invalid."));
+        return error.fail(FileMessage::tr("The .zelmora document dimensions are invalid."));
     header.documentSize = QSizeF(width, height);
     const quint32 sections = u32At(*record, 16);
     if (sections < 1 || sections > kMaximumSectionCount)
-        return error.fail(FileError::tr("The .zelmora section count is invalid."));
+        return error.fail(FileMessage::tr("The .zelmora section count is invalid."));
     return sections;
 }
 
 /// What comes after the first section, to the end of the file.
-bool takeLayers(DocumentBytes &bytes, quint32 count, LayerQueue &layers, FileError &containerError, FileError &error)
+bool takeLayers(DocumentBytes &bytes, quint32 count, LayerQueue &layers, Error &containerError, Error &error)
 {
     for (quint32 i = 0; i < count; ++i) {
         std::optional<Section> section = takeSection(bytes, false, containerError);
         if (!section)
             return false;
         if (section->type == quint32(SectionType::DocumentProperties))
-            return containerError.fail(FileError::tr("The .zelmora file contains duplicate document properties."));
+            return containerError.fail(FileMessage::tr("The .zelmora file contains duplicate document properties."));
         if (isLayer(section->type) && !layers.add(*std::move(section), error))
             return false;
     }
@@ -198,10 +199,10 @@ bool takeLayers(DocumentBytes &bytes, quint32 count, LayerQueue &layers, FileErr
 } // namespace
 
 std::optional<DocumentHeader> readDocumentSections(QIODevice &device, PixelReading pixels, const LayerSink &sink,
-                                                   FileError &error)
+                                                   Error &error)
 {
     if (!device.isReadable())
-        return error.fail(FileError::tr("The source device is not readable."));
+        return error.fail(FileMessage::tr("The source device is not readable."));
     DocumentBytes bytes(device,
                         pixels == PixelReading::Skip ? DocumentBytes::Access::View : DocumentBytes::Access::Copy);
     DocumentHeader header;
@@ -214,7 +215,7 @@ std::optional<DocumentHeader> readDocumentSections(QIODevice &device, PixelReadi
 
     // Layers of earlier sections may still be decoded when a later section fails: their failures come first.
     LayerQueue layers(header.formatVersion, pixels, sink);
-    FileError containerError;
+    Error containerError;
     if (!takeLayers(bytes, *sections - 1, layers, containerError, error) && error.isSet())
         return std::nullopt;
     if (!layers.finish(error))
@@ -222,7 +223,7 @@ std::optional<DocumentHeader> readDocumentSections(QIODevice &device, PixelReadi
     if (containerError.isSet())
         return error.fail(containerError.message());
     if (!bytes.atEnd())
-        return error.fail(FileError::tr("The .zelmora file has trailing data."));
+        return error.fail(FileMessage::tr("The .zelmora file has trailing data."));
     return header;
 }
 

@@ -2,6 +2,7 @@
 
 #include "document/document.h"
 #include "io/document/document_layout.h"
+#include "io/document/file_message.h"
 #include "io/document/layer_section.h"
 
 #include <QFuture>
@@ -17,28 +18,28 @@ namespace zm {
 
 namespace {
 
-bool write(QIODevice &device, QByteArrayView bytes, FileError &error)
+bool write(QIODevice &device, QByteArrayView bytes, Error &error)
 {
     while (!bytes.isEmpty()) {
         const qint64 written = device.write(bytes.data(), bytes.size());
         if (written < 1)
-            return error.fail(FileError::tr("Could not write the .zelmora file: %1").arg(device.errorString()));
+            return error.fail(FileMessage::tr("Could not write the .zelmora file: %1").arg(device.errorString()));
         bytes = bytes.sliced(written);
     }
     return true;
 }
 
-bool writeSection(QIODevice &device, SectionType type, QByteArrayView payload, FileError &error)
+bool writeSection(QIODevice &device, SectionType type, QByteArrayView payload, Error &error)
 {
     if (payload.size() > kMaximumSectionSize)
-        return error.fail(FileError::tr("A .zelmora section is too large."));
+        return error.fail(FileMessage::tr("A .zelmora section is too large."));
     QByteArray header(kSectionHeaderSize, '\0');
     header.replace(0, kSectionMagic.size(), kSectionMagic);
     setU32(header, 4, quint32(type));
     return setSize(header, 8, payload.size(), error) && write(device, header, error) && write(device, payload, error);
 }
 
-bool writeHeader(QIODevice &device, const QSize &size, qsizetype sectionCount, FileError &error)
+bool writeHeader(QIODevice &device, const QSize &size, qsizetype sectionCount, Error &error)
 {
     QByteArray header(kDocumentHeaderSize, '\0');
     header.replace(0, kDocumentMagic.size(), kDocumentMagic);
@@ -49,7 +50,7 @@ bool writeHeader(QIODevice &device, const QSize &size, qsizetype sectionCount, F
     return write(device, header, error);
 }
 
-bool writeProperties(QIODevice &device, const QColor &background, FileError &error)
+bool writeProperties(QIODevice &device, const QColor &background, Error &error)
 {
     QByteArray payload(kPropertiesSize, '\0');
     setU32(payload, 0, kPropertiesPayloadVersion);
@@ -86,7 +87,7 @@ public:
                 continue;
             started.insert(raster->encodings.get());
             m_encodings.push_back({i, QtConcurrent::run(&m_pool, [source = *raster, mode] {
-                                       FileError ignored;
+                                       Error ignored;
                                        webpFile(source, mode, ignored);
                                    })});
         }
@@ -116,16 +117,16 @@ private:
     QThreadPool m_pool; // last: its end waits for what still runs
 };
 
-bool writeLayers(const Document &document, QIODevice &device, EmbeddedImageMode mode, FileError &error)
+bool writeLayers(const Document &document, QIODevice &device, EmbeddedImageMode mode, Error &error)
 {
     PictureEncoder pictures(document, mode);
     QSet<QUuid> ids;
     for (qsizetype i = 0; i < document.objectCount(); ++i) {
         const auto *layer = dynamic_cast<const Layer *>(document.objectAt(i));
         if (!layer)
-            return error.fail(FileError::tr("The document contains an unsupported scene object."));
+            return error.fail(FileMessage::tr("The document contains an unsupported scene object."));
         if (ids.contains(layer->id()))
-            return error.fail(FileError::tr("The document contains a duplicated layer ID."));
+            return error.fail(FileMessage::tr("The document contains a duplicated layer ID."));
         ids.insert(layer->id());
         pictures.waitFor(i);
         const std::optional<QByteArray> payload = encodeLayerSection(*layer, mode, error);
@@ -137,16 +138,16 @@ bool writeLayers(const Document &document, QIODevice &device, EmbeddedImageMode 
 
 } // namespace
 
-bool writeDocumentSections(const Document &document, QIODevice &device, EmbeddedImageMode mode, FileError &error)
+bool writeDocumentSections(const Document &document, QIODevice &device, EmbeddedImageMode mode, Error &error)
 {
     if (!device.isWritable())
-        return error.fail(FileError::tr("The destination device is not writable."));
+        return error.fail(FileMessage::tr("The destination device is not writable."));
     const std::optional<QSize> size = storableSize(document.size());
     if (!size)
-        return error.fail(FileError::tr("The document dimensions cannot be stored in .zelmora format."));
+        return error.fail(FileMessage::tr("The document dimensions cannot be stored in .zelmora format."));
     const qsizetype sections = document.objectCount() + 1;
     if (sections > qsizetype(kMaximumSectionCount))
-        return error.fail(FileError::tr("The document contains too many layers."));
+        return error.fail(FileMessage::tr("The document contains too many layers."));
     return writeHeader(device, *size, sections, error) && writeProperties(device, document.backgroundColor(), error)
         && writeLayers(document, device, mode, error);
 }

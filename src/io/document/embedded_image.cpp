@@ -1,6 +1,7 @@
 #include "io/document/embedded_image.h"
 
 #include "base/pixel_limits.h"
+#include "io/document/file_message.h"
 #include "io/document/webp_container.h"
 #include "io/image_allocation.h"
 
@@ -24,26 +25,26 @@ QString encoderErrorText(int code)
 {
     switch (code) {
     case VP8_ENC_ERROR_OUT_OF_MEMORY:
-        return FileError::tr("out of memory");
+        return FileMessage::tr("out of memory");
     case VP8_ENC_ERROR_BITSTREAM_OUT_OF_MEMORY:
-        return FileError::tr("out of memory while writing the bitstream");
+        return FileMessage::tr("out of memory while writing the bitstream");
     case VP8_ENC_ERROR_NULL_PARAMETER:
-        return FileError::tr("a required encoder parameter is missing");
+        return FileMessage::tr("a required encoder parameter is missing");
     case VP8_ENC_ERROR_INVALID_CONFIGURATION:
-        return FileError::tr("the encoder configuration is invalid");
+        return FileMessage::tr("the encoder configuration is invalid");
     case VP8_ENC_ERROR_BAD_DIMENSION:
-        return FileError::tr("the image dimensions are invalid");
+        return FileMessage::tr("the image dimensions are invalid");
     case VP8_ENC_ERROR_PARTITION0_OVERFLOW:
     case VP8_ENC_ERROR_PARTITION_OVERFLOW:
-        return FileError::tr("an encoder partition is too large");
+        return FileMessage::tr("an encoder partition is too large");
     case VP8_ENC_ERROR_BAD_WRITE:
-        return FileError::tr("the encoded data could not be written");
+        return FileMessage::tr("the encoded data could not be written");
     case VP8_ENC_ERROR_FILE_TOO_BIG:
-        return FileError::tr("the encoded image is too large");
+        return FileMessage::tr("the encoded image is too large");
     case VP8_ENC_ERROR_USER_ABORT:
-        return FileError::tr("encoding was cancelled");
+        return FileMessage::tr("encoding was cancelled");
     default:
-        return FileError::tr("unknown encoder error (code %1)").arg(code);
+        return FileMessage::tr("unknown encoder error (code %1)").arg(code);
     }
 }
 
@@ -114,49 +115,49 @@ bool fitsWebp(const QSize &size)
     return isAllocatableRasterSize(size) && size.width() <= kMaximumWebpSide && size.height() <= kMaximumWebpSide;
 }
 
-std::optional<QByteArray> encodeWebp(const QImage &image, EmbeddedImageMode mode, FileError &error)
+std::optional<QByteArray> encodeWebp(const QImage &image, EmbeddedImageMode mode, Error &error)
 {
     if (!fitsWebp(image.size()) || mode == EmbeddedImageMode::Raw)
-        return error.fail(FileError::tr("An image cannot be represented as WebP."));
+        return error.fail(FileMessage::tr("An image cannot be represented as WebP."));
     WebPConfig config;
     if (!configure(&config, mode))
-        return error.fail(FileError::tr("Could not initialize the WebP encoder."));
+        return error.fail(FileMessage::tr("Could not initialize the WebP encoder."));
     if (!WebPValidateConfig(&config))
-        return error.fail(FileError::tr("The WebP encoder configuration is invalid."));
+        return error.fail(FileMessage::tr("The WebP encoder configuration is invalid."));
     const QImage pixels = image.convertToFormat(QImage::Format_RGBA8888);
     if (pixels.isNull() || pixels.bytesPerLine() > std::numeric_limits<int>::max())
-        return error.fail(FileError::tr("Could not prepare the image for WebP encoding."));
+        return error.fail(FileMessage::tr("Could not prepare the image for WebP encoding."));
 
     WebpEncoding encoding;
     WebPPicture &picture = encoding.picture;
     if (!WebPPictureInit(&picture))
-        return error.fail(FileError::tr("Could not initialize the WebP encoder."));
+        return error.fail(FileMessage::tr("Could not initialize the WebP encoder."));
     picture.use_argb = 1;
     picture.width = pixels.width();
     picture.height = pixels.height();
     picture.writer = WebPMemoryWrite;
     picture.custom_ptr = &encoding.writer;
     if (!WebPPictureImportRGBA(&picture, pixels.constBits(), int(pixels.bytesPerLine())))
-        return error.fail(FileError::tr("Could not prepare the image for WebP encoding: %1")
+        return error.fail(FileMessage::tr("Could not prepare the image for WebP encoding: %1")
                               .arg(encoderErrorText(picture.error_code)));
     if (!WebPEncode(&config, &picture))
-        return error.fail(FileError::tr("Could not encode WebP: %1").arg(encoderErrorText(picture.error_code)));
+        return error.fail(FileMessage::tr("Could not encode WebP: %1").arg(encoderErrorText(picture.error_code)));
     if (encoding.writer.size == 0)
-        return error.fail(FileError::tr("The WebP encoder produced no data."));
+        return error.fail(FileMessage::tr("The WebP encoder produced no data."));
     if (encoding.writer.size > size_t(kMaximumSectionSize))
-        return error.fail(FileError::tr("The encoded WebP image is too large."));
+        return error.fail(FileMessage::tr("The encoded WebP image is too large."));
     return QByteArray(reinterpret_cast<const char *>(encoding.writer.mem), qsizetype(encoding.writer.size));
 }
 
-bool checkWebpSize(QByteArrayView file, const QSize &expectedSize, FileError &error)
+bool checkWebpSize(QByteArrayView file, const QSize &expectedSize, Error &error)
 {
     const std::optional<QSize> size = webpCanvas(file);
     if (!size || !fitsWebp(*size) || (expectedSize.isValid() && *size != expectedSize))
-        return error.fail(FileError::tr("An embedded WebP has invalid dimensions."));
+        return error.fail(FileMessage::tr("An embedded WebP has invalid dimensions."));
     return true;
 }
 
-std::optional<QImage> decodeWebp(QByteArrayView file, const QSize &expectedSize, FileError &error)
+std::optional<QImage> decodeWebp(QByteArrayView file, const QSize &expectedSize, Error &error)
 {
     // Asked for its size, Qt's reader makes room for an animation at once.
     if (!checkWebpSize(file, expectedSize, error))
@@ -170,21 +171,21 @@ std::optional<QImage> decodeWebp(QByteArrayView file, const QSize &expectedSize,
         bytes = bytes.leftJustified(leastBytes, '\0');
     QBuffer buffer(&bytes);
     if (!buffer.open(QIODevice::ReadOnly))
-        return error.fail(FileError::tr("Could not open an embedded image."));
+        return error.fail(FileMessage::tr("Could not open an embedded image."));
     QImageReader reader(&buffer, "webp");
     reader.setAutoTransform(false);
     const QSize size = reader.size();
     if (size != webpCanvas(file))
-        return error.fail(FileError::tr("An embedded WebP has invalid dimensions."));
+        return error.fail(FileMessage::tr("An embedded WebP has invalid dimensions."));
     QImage image = reader.read();
     if (!image.isNull() && image.size() == size)
         image = std::move(image).convertToFormat(QImage::Format_RGBA8888);
     if (image.size() != size)
-        return error.fail(FileError::tr("Could not decode WebP: %1").arg(reader.errorString()));
+        return error.fail(FileMessage::tr("Could not decode WebP: %1").arg(reader.errorString()));
     return image;
 }
 
-std::optional<QByteArray> webpFile(const RasterImageSource &source, EmbeddedImageMode mode, FileError &error)
+std::optional<QByteArray> webpFile(const RasterImageSource &source, EmbeddedImageMode mode, Error &error)
 {
     if (const QByteArray kept = source.encodings->find(source.image, mode); !kept.isEmpty())
         return kept;
@@ -194,7 +195,7 @@ std::optional<QByteArray> webpFile(const RasterImageSource &source, EmbeddedImag
     return file;
 }
 
-std::optional<RasterImageSource> sourceFromWebp(QByteArrayView file, const QSize &expectedSize, FileError &error)
+std::optional<RasterImageSource> sourceFromWebp(QByteArrayView file, const QSize &expectedSize, Error &error)
 {
     const std::optional<QImage> image = decodeWebp(file, expectedSize, error);
     if (!image)
@@ -205,13 +206,13 @@ std::optional<RasterImageSource> sourceFromWebp(QByteArrayView file, const QSize
     return source;
 }
 
-std::optional<QByteArray> encodeRawRgba(const QImage &image, FileError &error)
+std::optional<QByteArray> encodeRawRgba(const QImage &image, Error &error)
 {
     if (!fitsRaw(image.size()))
-        return error.fail(FileError::tr("An image cannot be represented as raw RGBA data."));
+        return error.fail(FileMessage::tr("An image cannot be represented as raw RGBA data."));
     const QImage pixels = image.convertToFormat(QImage::Format_RGBA8888);
     if (pixels.isNull())
-        return error.fail(FileError::tr("An image cannot be represented as raw RGBA data."));
+        return error.fail(FileMessage::tr("An image cannot be represented as raw RGBA data."));
     const qsizetype rowBytes = kBytesPerPixel * pixels.width();
     QByteArray bytes(rowBytes * pixels.height(), Qt::Uninitialized);
     for (int y = 0; y < pixels.height(); ++y)
@@ -219,22 +220,22 @@ std::optional<QByteArray> encodeRawRgba(const QImage &image, FileError &error)
     return bytes;
 }
 
-bool checkRawRgba(QByteArrayView bytes, const QSize &size, FileError &error)
+bool checkRawRgba(QByteArrayView bytes, const QSize &size, Error &error)
 {
     if (!fitsRaw(size))
-        return error.fail(FileError::tr("A raw RGBA image has invalid dimensions."));
+        return error.fail(FileMessage::tr("A raw RGBA image has invalid dimensions."));
     if (bytes.size() != kBytesPerPixel * size.width() * size.height())
-        return error.fail(FileError::tr("A raw RGBA image has an invalid byte length."));
+        return error.fail(FileMessage::tr("A raw RGBA image has an invalid byte length."));
     return true;
 }
 
-std::optional<QImage> decodeRawRgba(QByteArrayView bytes, const QSize &size, FileError &error)
+std::optional<QImage> decodeRawRgba(QByteArrayView bytes, const QSize &size, Error &error)
 {
     if (!checkRawRgba(bytes, size, error))
         return Failure();
     QImage image(size, QImage::Format_RGBA8888);
     if (image.isNull())
-        return error.fail(FileError::tr("Could not allocate a raw RGBA image."));
+        return error.fail(FileMessage::tr("Could not allocate a raw RGBA image."));
     const qsizetype rowBytes = kBytesPerPixel * size.width();
     for (int y = 0; y < size.height(); ++y)
         std::memcpy(image.scanLine(y), bytes.data() + y * rowBytes, size_t(rowBytes));

@@ -1,6 +1,7 @@
 #include "io/document/filter_records.h"
 
 #include "filters/filter_registry.h"
+#include "io/document/file_message.h"
 #include "io/document/parameter_records.h"
 
 #include <QHash>
@@ -89,10 +90,10 @@ ParameterValues definedValues(const QString &filterId, const ParameterValues &st
 
 } // namespace
 
-std::optional<QByteArray> encodeFilter(const FilterInstance &instance, FileError &error)
+std::optional<QByteArray> encodeFilter(const FilterInstance &instance, Error &error)
 {
     if (instance.instanceId.isNull())
-        return error.fail(FileError::tr("A filter has a null instance ID."));
+        return error.fail(FileMessage::tr("A filter has a null instance ID."));
     QByteArray record(kHeaderSize, '\0');
     setU32(record, 0, kRecordVersion);
     setUuid(record, 4, instance.instanceId);
@@ -109,9 +110,9 @@ std::optional<QByteArray> encodeFilter(const FilterInstance &instance, FileError
     return record + *parameters;
 }
 
-std::optional<FilterInstance> decodeFilter(ByteReader &reader, bool honourSelectionFlag, FileError &error)
+std::optional<FilterInstance> decodeFilter(ByteReader &reader, bool honourSelectionFlag, Error &error)
 {
-    const QString truncated = FileError::tr("A filter record is truncated or invalid.");
+    const QString truncated = FileMessage::tr("A filter record is truncated or invalid.");
     const std::optional<QByteArrayView> header = reader.take(kHeaderSize);
     if (!header || u32At(*header, 0) != kRecordVersion)
         return error.fail(truncated);
@@ -128,7 +129,7 @@ std::optional<FilterInstance> decodeFilter(ByteReader &reader, bool honourSelect
     if (!values)
         return std::nullopt;
     if (!parameters.atEnd())
-        return error.fail(FileError::tr("A filter parameter block has trailing data."));
+        return error.fail(FileMessage::tr("A filter parameter block has trailing data."));
 
     if (*filterId == "fade-image"_L1)
         migrateFadeTarget(*values);

@@ -1,5 +1,6 @@
 #include "io/document/geometry_records.h"
 
+#include "io/document/file_message.h"
 #include "io/document/parameter_records.h"
 #include "io/document/path_records.h"
 
@@ -9,11 +10,11 @@ namespace {
 
 constexpr qsizetype kHeaderSize = 32;
 
-std::optional<QByteArray> encodeParametric(const GeneratorGeometry &geometry, FileError &error)
+std::optional<QByteArray> encodeParametric(const GeneratorGeometry &geometry, Error &error)
 {
     const QByteArray id = geometry.generatorId.toUtf8();
     if (id.isEmpty() || id.size() > kMaximumFileTextSize)
-        return error.fail(FileError::tr("A shape generator ID is empty or too large."));
+        return error.fail(FileMessage::tr("A shape generator ID is empty or too large."));
     quint32 count = 0;
     const std::optional<QByteArray> parameters = encodeParameters(geometry.parameters, {}, &count, error);
     if (!parameters)
@@ -27,11 +28,11 @@ std::optional<QByteArray> encodeParametric(const GeneratorGeometry &geometry, Fi
     return record + id + *parameters;
 }
 
-std::optional<ShapeGeometry> decodeParametric(QByteArrayView record, FileError &error)
+std::optional<ShapeGeometry> decodeParametric(QByteArrayView record, Error &error)
 {
     ByteReader reader(record);
     const std::optional<QByteArrayView> header = reader.take(kHeaderSize);
-    const auto invalid = [&error] { return error.fail(FileError::tr("A parametric shape record is invalid.")); };
+    const auto invalid = [&error] { return error.fail(FileMessage::tr("A parametric shape record is invalid.")); };
     if (!header || u32At(*header, 0) != 1 || u32At(*header, 4) > kMaximumFileTextSize
         || u32At(*header, 12) != quint64(reader.remaining()))
         return invalid();
@@ -39,12 +40,12 @@ std::optional<ShapeGeometry> decodeParametric(QByteArrayView record, FileError &
     if (!id)
         return invalid();
     if (id->isEmpty())
-        return error.fail(FileError::tr("A shape generator ID is empty."));
+        return error.fail(FileMessage::tr("A shape generator ID is empty."));
     std::optional<ParameterValues> parameters = decodeParameters(reader, u32At(*header, 8), error);
     if (!parameters)
         return Failure();
     if (!reader.atEnd())
-        return error.fail(FileError::tr("A parametric shape has trailing data."));
+        return error.fail(FileMessage::tr("A parametric shape has trailing data."));
     return GeneratorGeometry{QString::fromUtf8(*id), std::move(*parameters)};
 }
 
@@ -55,14 +56,14 @@ GeometryType geometryType(const ShapeGeometry &geometry)
     return std::holds_alternative<EditablePath>(geometry) ? GeometryType::Path : GeometryType::Parametric;
 }
 
-std::optional<QByteArray> encodeGeometry(const ShapeGeometry &geometry, FileError &error)
+std::optional<QByteArray> encodeGeometry(const ShapeGeometry &geometry, Error &error)
 {
     if (const auto *path = std::get_if<EditablePath>(&geometry))
         return encodePath(*path, error);
     return encodeParametric(std::get<GeneratorGeometry>(geometry), error);
 }
 
-std::optional<ShapeGeometry> decodeGeometry(quint32 type, QByteArrayView record, FileError &error)
+std::optional<ShapeGeometry> decodeGeometry(quint32 type, QByteArrayView record, Error &error)
 {
     switch (GeometryType(type)) {
     case GeometryType::Parametric:
@@ -70,7 +71,7 @@ std::optional<ShapeGeometry> decodeGeometry(quint32 type, QByteArrayView record,
     case GeometryType::Path:
         return decodePath(record, error);
     }
-    return error.fail(FileError::tr("A shape uses an unknown geometry type."));
+    return error.fail(FileMessage::tr("A shape uses an unknown geometry type."));
 }
 
 } // namespace zm

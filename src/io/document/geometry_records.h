@@ -9,9 +9,9 @@ namespace zm {
 enum class GeometryType : quint32 { Parametric = 1, Path = 2 };
 
 GeometryType geometryType(const ShapeGeometry &geometry);
-std::optional<QByteArray> encodeGeometry(const ShapeGeometry &geometry, FileError &error);
+std::optional<QByteArray> encodeGeometry(const ShapeGeometry &geometry, Error &error);
 
 /// All of the bytes have to be the outline. Fails for a type that is not known.
-std::optional<ShapeGeometry> decodeGeometry(quint32 type, QByteArrayView record, FileError &error);
+std::optional<ShapeGeometry> decodeGeometry(quint32 type, QByteArrayView record, Error &error);
 
 } // namespace zm

@@ -1,3 +1,4 @@
+#include "io/document/file_message.h"
 #include "io/document/geometry_records.h"
 #include "io/document/layer_content.h"
 #include "io/document/layer_size.h"
@@ -21,16 +22,16 @@ struct EncodedSource
     QByteArray bytes;
 };
 
-std::optional<EncodedSource> encodeSource(const ImageLayer &layer, EmbeddedImageMode mode, FileError &error)
+std::optional<EncodedSource> encodeSource(const ImageLayer &layer, EmbeddedImageMode mode, Error &error)
 {
     if (const SvgImageSource *svg = layer.svgSource()) {
         if (svg->data.isEmpty())
-            return error.fail(FileError::tr("An SVG layer has no source data."));
+            return error.fail(FileMessage::tr("An SVG layer has no source data."));
         return EncodedSource{SourceEncoding::Svg, {0, 0}, svg->data};
     }
     const RasterImageSource &raster = *layer.rasterSource();
     if (raster.image.isNull())
-        return error.fail(FileError::tr("An image layer has no supported source."));
+        return error.fail(FileMessage::tr("An image layer has no supported source."));
     // What no WebP can hold is saved nevertheless.
     const bool raw = mode == EmbeddedImageMode::Raw || !fitsWebp(raster.image.size());
     std::optional<QByteArray> bytes = raw ? encodeRawRgba(raster.image, error) : webpFile(raster, mode, error);
@@ -39,14 +40,14 @@ std::optional<EncodedSource> encodeSource(const ImageLayer &layer, EmbeddedImage
     return EncodedSource{raw ? SourceEncoding::RawRgba : SourceEncoding::Webp, raster.image.size(), std::move(*bytes)};
 }
 
-std::optional<EditablePath> decodeSelection(quint32 geometryType, QByteArrayView record, FileError &error)
+std::optional<EditablePath> decodeSelection(quint32 geometryType, QByteArrayView record, Error &error)
 {
     std::optional<ShapeGeometry> geometry = decodeGeometry(geometryType, record, error);
     if (!geometry)
         return Failure();
     auto *path = std::get_if<EditablePath>(&*geometry);
     if (!path)
-        return error.fail(FileError::tr("A raster selection must be an editable path."));
+        return error.fail(FileMessage::tr("A raster selection must be an editable path."));
     return std::move(*path);
 }
 
@@ -57,7 +58,7 @@ bool isWebpSide(quint32 side)
 
 /// The pixels of a raster, or a source without an image where they are only checked.
 std::optional<ImageLayerSource> decodeRaster(SourceEncoding encoding, QByteArrayView bytes, const QSize &size,
-                                             PixelReading pixels, FileError &error)
+                                             PixelReading pixels, Error &error)
 {
     if (pixels == PixelReading::Skip) {
         const bool right =
@@ -79,7 +80,7 @@ std::optional<ImageLayerSource> decodeRaster(SourceEncoding encoding, QByteArray
 }
 
 std::optional<ImageLayerSource> decodeSource(QByteArrayView header, QByteArrayView bytes, PixelReading pixels,
-                                             FileError &error)
+                                             Error &error)
 {
     const quint32 width = u32At(header, 8);
     const quint32 height = u32At(header, 12);
@@ -91,27 +92,27 @@ std::optional<ImageLayerSource> decodeSource(QByteArrayView header, QByteArrayVi
         // The layer's size is within the limits of a raster.
         if (size != QSizeF(width, height)
             || (encoding == SourceEncoding::Webp && (!isWebpSide(width) || !isWebpSide(height))))
-            return error.fail(FileError::tr("A raster layer has invalid pixel dimensions."));
+            return error.fail(FileMessage::tr("A raster layer has invalid pixel dimensions."));
         return decodeRaster(encoding, bytes, QSize(int(width), int(height)), pixels, error);
     case SourceEncoding::Svg:
         if (width != 0 || height != 0)
-            return error.fail(FileError::tr("An SVG layer contains raster dimensions."));
+            return error.fail(FileMessage::tr("An SVG layer contains raster dimensions."));
         if (std::optional<SvgImageSource> svg = svgSourceFromData(bytes.toByteArray(), size))
             return std::move(*svg);
-        return error.fail(FileError::tr("An SVG layer contains invalid SVG data."));
+        return error.fail(FileMessage::tr("An SVG layer contains invalid SVG data."));
     }
-    return error.fail(FileError::tr("An image layer uses an unknown source encoding."));
+    return error.fail(FileMessage::tr("An image layer uses an unknown source encoding."));
 }
 
 } // namespace
 
-std::optional<QByteArray> encodeImageContent(const ImageLayer &layer, EmbeddedImageMode mode, FileError &error)
+std::optional<QByteArray> encodeImageContent(const ImageLayer &layer, EmbeddedImageMode mode, Error &error)
 {
     const std::optional<EncodedSource> source = encodeSource(layer, mode, error);
     if (!source)
         return Failure();
     if (!isStorableSize(layer.layerSize()))
-        return error.fail(FileError::tr("An image layer has invalid dimensions or data."));
+        return error.fail(FileMessage::tr("An image layer has invalid dimensions or data."));
     QByteArray selection;
     if (layer.hasRasterSelection()) {
         const std::optional<QByteArray> path = encodePath(*layer.rasterSelection(), error);
@@ -134,13 +135,13 @@ std::optional<QByteArray> encodeImageContent(const ImageLayer &layer, EmbeddedIm
     return record.append(source->bytes).append(selection);
 }
 
-std::optional<ImageContent> decodeImageContent(QByteArrayView record, PixelReading pixels, FileError &error)
+std::optional<ImageContent> decodeImageContent(QByteArrayView record, PixelReading pixels, Error &error)
 {
     ByteReader reader(record);
     const std::optional<QByteArrayView> header = reader.take(kHeaderSize);
     if (!header || u32At(*header, 0) != 1 || !isStorableSize(sizeAt(*header, 16))
         || quint64(u32At(*header, 32)) + u32At(*header, 44) != quint64(reader.remaining()))
-        return error.fail(FileError::tr("An image layer payload is invalid."));
+        return error.fail(FileMessage::tr("An image layer payload is invalid."));
     const QByteArrayView bytes = record.sliced(kHeaderSize, u32At(*header, 32));
     const QByteArrayView selectionRecord = record.last(u32At(*header, 44));
     std::optional<EditablePath> selection;
@@ -154,7 +155,7 @@ std::optional<ImageContent> decodeImageContent(QByteArrayView record, PixelReadi
         return Failure();
     const quint32 policy = u32At(*header, 36);
     if (policy > kPolicyExpanding)
-        return error.fail(FileError::tr("An image layer has an unknown raster surface policy."));
+        return error.fail(FileMessage::tr("An image layer has an unknown raster surface policy."));
     const QSizeF size = std::holds_alternative<SvgImageSource>(*source) ? logicalSize(*source) : sizeAt(*header, 16);
     return ImageContent{std::move(*source), QSize(int(u32At(*header, 8)), int(u32At(*header, 12))), size,
                         policy == kPolicyExpanding ? RasterSurfacePolicy::Expanding : RasterSurfacePolicy::Fixed,

@@ -40,13 +40,13 @@ enum class PixelReading { Decode, Skip };
 /// A layer with that name and id. The content's pixels have to be decoded.
 std::unique_ptr<Layer> layerFrom(LayerContent content, const QString &name, const QUuid &id);
 
-std::optional<QByteArray> encodeImageContent(const ImageLayer &layer, EmbeddedImageMode mode, FileError &error);
-std::optional<QByteArray> encodeShapeContent(const ShapeLayer &layer, FileError &error);
-std::optional<QByteArray> encodeTextContent(const TextLayer &layer, FileError &error);
+std::optional<QByteArray> encodeImageContent(const ImageLayer &layer, EmbeddedImageMode mode, Error &error);
+std::optional<QByteArray> encodeShapeContent(const ShapeLayer &layer, Error &error);
+std::optional<QByteArray> encodeTextContent(const TextLayer &layer, Error &error);
 
 // All of the bytes have to be the content.
-std::optional<ImageContent> decodeImageContent(QByteArrayView record, PixelReading pixels, FileError &error);
-std::optional<ShapeContent> decodeShapeContent(QByteArrayView record, FileError &error);
-std::optional<TextLayerState> decodeTextContent(QByteArrayView record, FileError &error);
+std::optional<ImageContent> decodeImageContent(QByteArrayView record, PixelReading pixels, Error &error);
+std::optional<ShapeContent> decodeShapeContent(QByteArrayView record, Error &error);
+std::optional<TextLayerState> decodeTextContent(QByteArrayView record, Error &error);
 
 } // namespace zm

@@ -1,5 +1,6 @@
 #include "io/document/layer_section.h"
 
+#include "io/document/file_message.h"
 #include "io/document/filter_records.h"
 
 #include <cmath>
@@ -87,7 +88,7 @@ ObjectTransform transformFrom(const Placement &placement)
     return transform;
 }
 
-std::optional<QByteArray> encodeContent(const Layer &layer, EmbeddedImageMode mode, FileError &error)
+std::optional<QByteArray> encodeContent(const Layer &layer, EmbeddedImageMode mode, Error &error)
 {
     switch (layer.layerType()) {
     case LayerType::Image:
@@ -103,12 +104,12 @@ std::optional<QByteArray> encodeContent(const Layer &layer, EmbeddedImageMode mo
             return encodeShapeContent(*shape, error);
         break;
     default:
-        return error.fail(FileError::tr("The document contains an unsupported layer type."));
+        return error.fail(FileMessage::tr("The document contains an unsupported layer type."));
     }
     return std::nullopt;
 }
 
-std::optional<LayerContent> decodeContent(quint32 type, QByteArrayView record, PixelReading pixels, FileError &error)
+std::optional<LayerContent> decodeContent(quint32 type, QByteArrayView record, PixelReading pixels, Error &error)
 {
     switch (SectionType(type)) {
     case SectionType::ImageLayer:
@@ -118,20 +119,20 @@ std::optional<LayerContent> decodeContent(quint32 type, QByteArrayView record, P
     case SectionType::ShapeLayer:
         return decodeShapeContent(record, error);
     default:
-        return error.fail(FileError::tr("A section is not a supported layer type."));
+        return error.fail(FileMessage::tr("A section is not a supported layer type."));
     }
 }
 
 /// The filters' records one after the other.
-std::optional<QByteArray> encodeFilters(const QList<FilterInstance> &filters, FileError &error)
+std::optional<QByteArray> encodeFilters(const QList<FilterInstance> &filters, Error &error)
 {
     if (filters.size() > kMaximumFileCount)
-        return error.fail(FileError::tr("A layer has too many filters."));
+        return error.fail(FileMessage::tr("A layer has too many filters."));
     QByteArray records;
     QSet<QUuid> seen;
     for (const FilterInstance &filter : filters) {
         if (seen.contains(filter.instanceId))
-            return error.fail(FileError::tr("A layer contains a duplicated filter instance ID."));
+            return error.fail(FileMessage::tr("A layer contains a duplicated filter instance ID."));
         seen.insert(filter.instanceId);
         const std::optional<QByteArray> record = encodeFilter(filter, error);
         if (!record)
@@ -142,7 +143,7 @@ std::optional<QByteArray> encodeFilters(const QList<FilterInstance> &filters, Fi
 }
 
 std::optional<QList<FilterInstance>> decodeFilters(ByteReader &reader, quint32 count, bool honourSelectionFlag,
-                                                   FileError &error)
+                                                   Error &error)
 {
     QList<FilterInstance> filters;
     QSet<QUuid> seen;
@@ -151,7 +152,7 @@ std::optional<QList<FilterInstance>> decodeFilters(ByteReader &reader, quint32 c
         if (!filter)
             return std::nullopt;
         if (seen.contains(filter->instanceId))
-            return error.fail(FileError::tr("A layer contains a duplicated filter instance ID."));
+            return error.fail(FileMessage::tr("A layer contains a duplicated filter instance ID."));
         seen.insert(filter->instanceId);
         filters.append(*filter);
     }
@@ -173,25 +174,25 @@ SectionType sectionType(const Layer &layer)
     return SectionType::ImageLayer;
 }
 
-std::optional<QByteArray> encodeLayerSection(const Layer &layer, EmbeddedImageMode mode, FileError &error)
+std::optional<QByteArray> encodeLayerSection(const Layer &layer, EmbeddedImageMode mode, Error &error)
 {
     const Placement placement = placementOf(layer);
     if (layer.id().isNull() || !isValid(placement))
-        return error.fail(FileError::tr("A layer has invalid identity or transform properties."));
+        return error.fail(FileMessage::tr("A layer has invalid identity or transform properties."));
     const QByteArray name = layer.name().toUtf8();
     const QByteArray blendMode = layer.blendMode().toUtf8();
     if (name.size() > kMaximumFileTextSize || blendMode.size() > kMaximumFileTextSize)
-        return error.fail(FileError::tr("A layer name or blend-mode ID is too large."));
+        return error.fail(FileMessage::tr("A layer name or blend-mode ID is too large."));
     const std::optional<QByteArray> content = encodeContent(layer, mode, error);
     if (!content)
-        return error.fail(FileError::tr("A layer type does not match its content."));
+        return error.fail(FileMessage::tr("A layer type does not match its content."));
     const std::optional<QByteArray> filters = encodeFilters(layer.filters(), error);
     if (!filters)
         return std::nullopt;
 
     const qsizetype size = kHeaderSize + name.size() + blendMode.size() + content->size() + filters->size();
     if (size > kMaximumSectionSize)
-        return error.fail(FileError::tr("A layer section is too large."));
+        return error.fail(FileMessage::tr("A layer section is too large."));
     QByteArray section;
     section.reserve(size);
     section.resize(kHeaderSize, '\0');
@@ -207,9 +208,9 @@ std::optional<QByteArray> encodeLayerSection(const Layer &layer, EmbeddedImageMo
 }
 
 std::optional<LayerRecord> decodeLayerRecord(quint32 type, QByteArrayView payload, bool honourFilterSelectionFlag,
-                                             PixelReading pixels, FileError &error)
+                                             PixelReading pixels, Error &error)
 {
-    const QString invalidHeader = FileError::tr("A layer payload header is invalid.");
+    const QString invalidHeader = FileMessage::tr("A layer payload header is invalid.");
     ByteReader reader(payload);
     const std::optional<QByteArrayView> header = reader.take(kHeaderSize);
     if (!header || u32At(*header, 0) != kPayloadVersion)
@@ -239,7 +240,7 @@ std::optional<LayerRecord> decodeLayerRecord(quint32 type, QByteArrayView payloa
                        .content = {},
                        .filters = {}};
     if (record.blendMode.isEmpty())
-        return error.fail(FileError::tr("A layer has an empty blend-mode ID."));
+        return error.fail(FileMessage::tr("A layer has an empty blend-mode ID."));
     std::optional<LayerContent> content = decodeContent(type, *contentBytes, pixels, error);
     if (!content)
         return std::nullopt;
@@ -247,13 +248,13 @@ std::optional<LayerRecord> decodeLayerRecord(quint32 type, QByteArrayView payloa
     if (!filters)
         return std::nullopt;
     if (!reader.atEnd())
-        return error.fail(FileError::tr("A layer section has trailing data."));
+        return error.fail(FileMessage::tr("A layer section has trailing data."));
     record.content = std::move(*content);
     record.filters = std::move(*filters);
     return record;
 }
 
-std::unique_ptr<Layer> layerFrom(LayerRecord record, FileError &error)
+std::unique_ptr<Layer> layerFrom(LayerRecord record, Error &error)
 {
     std::unique_ptr<Layer> layer = layerFrom(std::move(record.content), record.name, record.id);
     if (!layer)
@@ -263,12 +264,12 @@ std::unique_ptr<Layer> layerFrom(LayerRecord record, FileError &error)
     layer->setOpacity(record.opacity);
     layer->setBlendMode(record.blendMode);
     if (!layer->setFilters(record.filters) && !record.filters.isEmpty())
-        return error.fail(FileError::tr("Could not restore a layer filter stack."));
+        return error.fail(FileMessage::tr("Could not restore a layer filter stack."));
     return layer;
 }
 
 std::unique_ptr<Layer> decodeLayerSection(quint32 type, QByteArrayView payload, bool honourFilterSelectionFlag,
-                                          FileError &error)
+                                          Error &error)
 {
     std::optional<LayerRecord> record =
         decodeLayerRecord(type, payload, honourFilterSelectionFlag, PixelReading::Decode, error);

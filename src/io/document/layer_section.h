@@ -24,16 +24,16 @@ struct LayerRecord
 SectionType sectionType(const Layer &layer);
 
 /// The payload of the layer's section.
-std::optional<QByteArray> encodeLayerSection(const Layer &layer, EmbeddedImageMode mode, FileError &error);
+std::optional<QByteArray> encodeLayerSection(const Layer &layer, EmbeddedImageMode mode, Error &error);
 
 /// The layer in the payload of a section of that type. honourFilterSelectionFlag is false for the versions of the
 /// format that did not limit filters to the selection.
 std::unique_ptr<Layer> decodeLayerSection(quint32 type, QByteArrayView payload, bool honourFilterSelectionFlag,
-                                          FileError &error);
+                                          Error &error);
 /// The same before it becomes a layer.
 std::optional<LayerRecord> decodeLayerRecord(quint32 type, QByteArrayView payload, bool honourFilterSelectionFlag,
-                                             PixelReading pixels, FileError &error);
+                                             PixelReading pixels, Error &error);
 /// Null, with an error, when the layer does not take what the record tells.
-std::unique_ptr<Layer> layerFrom(LayerRecord record, FileError &error);
+std::unique_ptr<Layer> layerFrom(LayerRecord record, Error &error);
 
 } // namespace zm

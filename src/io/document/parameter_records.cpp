@@ -1,5 +1,7 @@
 #include "io/document/parameter_records.h"
 
+#include "io/document/file_message.h"
+
 #include <array>
 
 namespace zm {
@@ -44,7 +46,7 @@ void readNumbers(QByteArrayView record, qsizetype offset, Value &value,
 struct ValueEncoder
 {
     QByteArray &bytes;
-    FileError &error;
+    Error &error;
 
     void operator()(bool value) const { setU32(bytes, 0, value ? 1 : 0); }
     void operator()(qint64 value) const { setNumber(bytes, 0, value); }
@@ -54,7 +56,7 @@ struct ValueEncoder
     {
         bytes = text.toUtf8();
         if (bytes.size() > kMaximumFileTextSize)
-            error.fail(FileError::tr("A parameter string value is too large."));
+            error.fail(FileMessage::tr("A parameter string value is too large."));
     }
     void operator()(const AssetName &asset) const
     {
@@ -81,7 +83,7 @@ struct ValueEncoder
     void operator()(const LightSources &lights) const
     {
         if (lights.size() > kMaximumLightSources) {
-            error.fail(FileError::tr("A light list contains too many lights."));
+            error.fail(FileMessage::tr("A light list contains too many lights."));
             return;
         }
         bytes.fill('\0', kLightListHeaderSize + kLightSize * lights.size());
@@ -100,63 +102,63 @@ struct ValueEncoder
 
 using DecodedValue = std::optional<ParameterValue>;
 
-DecodedValue decodeBoolean(QByteArrayView bytes, FileError &)
+DecodedValue decodeBoolean(QByteArrayView bytes, Error &)
 {
     const quint32 value = u32At(bytes, 0);
     return value <= 1 ? DecodedValue(value == 1) : std::nullopt;
 }
 
-DecodedValue decodeInteger(QByteArrayView bytes, FileError &)
+DecodedValue decodeInteger(QByteArrayView bytes, Error &)
 {
     return numberAt<qint64>(bytes, 0);
 }
 
-DecodedValue decodeReal(QByteArrayView bytes, FileError &)
+DecodedValue decodeReal(QByteArrayView bytes, Error &)
 {
     return f64At(bytes, 0);
 }
 
-DecodedValue decodeColor(QByteArrayView bytes, FileError &error)
+DecodedValue decodeColor(QByteArrayView bytes, Error &error)
 {
     return colorAt(bytes, 0, error);
 }
 
-DecodedValue decodeString(QByteArrayView bytes, FileError &)
+DecodedValue decodeString(QByteArrayView bytes, Error &)
 {
     return bytes.size() <= kMaximumFileTextSize ? DecodedValue(QString::fromUtf8(bytes)) : std::nullopt;
 }
 
-DecodedValue decodeAsset(QByteArrayView bytes, FileError &error)
+DecodedValue decodeAsset(QByteArrayView bytes, Error &error)
 {
     if (bytes.size() != kKeyFieldSize) {
-        error.fail(FileError::tr("An asset parameter has an invalid byte length."));
+        error.fail(FileMessage::tr("An asset parameter has an invalid byte length."));
         return std::nullopt;
     }
     const std::optional<QString> fileName = keyAt(bytes, 0, error);
     return fileName ? DecodedValue(AssetName{*fileName}) : std::nullopt;
 }
 
-DecodedValue decodeEnabledColor(QByteArrayView bytes, FileError &error)
+DecodedValue decodeEnabledColor(QByteArrayView bytes, Error &error)
 {
     const quint32 enabled = u32At(bytes, 0);
     const std::optional<QColor> color = colorAt(bytes, 4, error);
     return color && enabled <= 1 ? DecodedValue(EnabledColor{enabled == 1, *color}) : std::nullopt;
 }
 
-DecodedValue decodeStroke(QByteArrayView bytes, FileError &error)
+DecodedValue decodeStroke(QByteArrayView bytes, Error &error)
 {
     const std::optional<QColor> color = colorAt(bytes, 0, error);
     return color ? DecodedValue(Stroke{*color, f64At(bytes, 16)}) : std::nullopt;
 }
 
-DecodedValue decodeGradientPosition(QByteArrayView bytes, FileError &)
+DecodedValue decodeGradientPosition(QByteArrayView bytes, Error &)
 {
     GradientPosition position;
     readNumbers(bytes, 0, position, kGradientNumbers);
     return position;
 }
 
-DecodedValue decodeMaskTransform(QByteArrayView bytes, FileError &)
+DecodedValue decodeMaskTransform(QByteArrayView bytes, Error &)
 {
     MaskTransform mask;
     readNumbers(bytes, 0, mask, kMaskNumbers);
@@ -165,13 +167,13 @@ DecodedValue decodeMaskTransform(QByteArrayView bytes, FileError &)
     return mode == 1 || mode == 2 ? DecodedValue(mask) : std::nullopt;
 }
 
-DecodedValue decodeShapeMask(QByteArrayView bytes, FileError &error)
+DecodedValue decodeShapeMask(QByteArrayView bytes, Error &error)
 {
     const DecodedValue generatorId = decodeString(bytes, error);
     return generatorId ? DecodedValue(ShapeMask{std::get<QString>(*generatorId)}) : std::nullopt;
 }
 
-DecodedValue decodeLightSources(QByteArrayView bytes, FileError &error)
+DecodedValue decodeLightSources(QByteArrayView bytes, Error &error)
 {
     if (bytes.size() < kLightListHeaderSize)
         return std::nullopt;
@@ -197,7 +199,7 @@ struct ValueKind
 {
     /// Bytes; 0 when it depends on the value.
     qsizetype size;
-    DecodedValue (*decode)(QByteArrayView bytes, FileError &error);
+    DecodedValue (*decode)(QByteArrayView bytes, Error &error);
     /// What is said of a value that cannot be; null where there is none, or where its fields say it.
     const char *unreadable;
     const char *unwritable;
@@ -225,36 +227,36 @@ constexpr std::array<ValueKind, std::variant_size_v<ParameterValue>> kValueKinds
      QT_TRANSLATE_NOOP("ZelmoraDocumentIO", "A light list contains an invalid light.")},
 }};
 
-std::optional<QByteArray> encodeValue(const ParameterValue &value, FileError &error)
+std::optional<QByteArray> encodeValue(const ParameterValue &value, Error &error)
 {
     const ValueKind &kind = kValueKinds[value.index()];
     QByteArray bytes(kind.size, '\0');
     std::visit(ValueEncoder{bytes, error}, value);
     // ParameterValues takes no such value, but a file that its own reader refuses would be lost work.
     if (kind.unwritable && !isStorable(value))
-        error.fail(FileError::tr(kind.unwritable));
+        error.fail(FileMessage::tr(kind.unwritable));
     return error.isSet() ? std::nullopt : std::optional(bytes);
 }
 
-bool addDecodedValue(ParameterValues &values, const QString &key, quint32 type, QByteArrayView bytes, FileError &error)
+bool addDecodedValue(ParameterValues &values, const QString &key, quint32 type, QByteArrayView bytes, Error &error)
 {
     if (type < 1 || type > kValueKinds.size())
-        return error.fail(FileError::tr("The .zelmora file uses an unknown parameter type."));
+        return error.fail(FileMessage::tr("The .zelmora file uses an unknown parameter type."));
     const ValueKind &kind = kValueKinds[type - 1];
     if (kind.size != 0 && bytes.size() != kind.size)
-        return error.fail(FileError::tr("A parameter value has an invalid byte length."));
+        return error.fail(FileMessage::tr("A parameter value has an invalid byte length."));
     const DecodedValue value = kind.decode(bytes, error);
     if (!value || !isStorable(*value))
-        return error.fail(FileError::tr(kind.unreadable));
+        return error.fail(FileMessage::tr(kind.unreadable));
     if (values.contains(key))
-        return error.fail(FileError::tr("A parameter key is duplicated."));
+        return error.fail(FileMessage::tr("A parameter key is duplicated."));
     return values.set(key, *value);
 }
 
 } // namespace
 
 std::optional<QByteArray> encodeParameters(const ParameterValues &values, const QSet<QString> &leftOut, quint32 *count,
-                                           FileError &error)
+                                           Error &error)
 {
     QByteArray block;
     *count = 0;
@@ -275,19 +277,19 @@ std::optional<QByteArray> encodeParameters(const ParameterValues &values, const 
     return block;
 }
 
-std::optional<ParameterValues> decodeParameters(ByteReader &reader, quint32 count, FileError &error)
+std::optional<ParameterValues> decodeParameters(ByteReader &reader, quint32 count, Error &error)
 {
     if (count > kMaximumFileCount)
-        return error.fail(FileError::tr("A parameter collection is too large."));
+        return error.fail(FileMessage::tr("A parameter collection is too large."));
     ParameterValues values;
     for (quint32 i = 0; i < count; ++i) {
         const std::optional<QByteArrayView> header = reader.take(kHeaderSize);
         if (!header)
-            return error.fail(FileError::tr("A parameter header is truncated."));
+            return error.fail(FileMessage::tr("A parameter header is truncated."));
         const std::optional<QString> key = keyAt(*header, 4, error);
         const std::optional<QByteArrayView> bytes = reader.take(u32At(*header, 36));
         if (!key || !bytes)
-            return error.fail(FileError::tr("A parameter value is truncated."));
+            return error.fail(FileMessage::tr("A parameter value is truncated."));
         if (!addDecodedValue(values, *key, u32At(*header, 0), *bytes, error))
             return std::nullopt;
     }

@@ -1,6 +1,7 @@
 #include "io/document/path_records.h"
 
 #include "base/sanitize.h"
+#include "io/document/file_message.h"
 
 #include <QSet>
 
@@ -27,12 +28,12 @@ bool hasFinitePoints(const EditablePathNode &node)
     return isFinite(node.anchor) && isFinite(node.inControl) && isFinite(node.outControl);
 }
 
-bool appendNode(QByteArray &record, const EditablePathNode &node, QSet<QUuid> &ids, FileError &error)
+bool appendNode(QByteArray &record, const EditablePathNode &node, QSet<QUuid> &ids, Error &error)
 {
     if (node.id.isNull() || !hasFinitePoints(node))
-        return error.fail(FileError::tr("An editable path node is invalid."));
+        return error.fail(FileMessage::tr("An editable path node is invalid."));
     if (ids.contains(node.id)) // could not be read again
-        return error.fail(FileError::tr("An editable path node ID is duplicated."));
+        return error.fail(FileMessage::tr("An editable path node ID is duplicated."));
     ids.insert(node.id);
     QByteArray bytes(kNodeSize, '\0');
     setUuid(bytes, 0, node.id);
@@ -45,34 +46,34 @@ bool appendNode(QByteArray &record, const EditablePathNode &node, QSet<QUuid> &i
     return true;
 }
 
-std::optional<EditablePathNode> decodeNode(QByteArrayView bytes, QSet<QUuid> &ids, FileError &error)
+std::optional<EditablePathNode> decodeNode(QByteArrayView bytes, QSet<QUuid> &ids, Error &error)
 {
     const std::optional<QUuid> id = uuidAt(bytes, 0, error);
     if (!id)
         return Failure();
     EditablePathNode node{*id, pointAt(bytes, 24), pointAt(bytes, 40), pointAt(bytes, 56)};
     if (!hasFinitePoints(node))
-        return error.fail(FileError::tr("An editable path node is invalid."));
+        return error.fail(FileMessage::tr("An editable path node is invalid."));
     if (ids.contains(*id))
-        return error.fail(FileError::tr("An editable path node ID is duplicated."));
+        return error.fail(FileMessage::tr("An editable path node ID is duplicated."));
     ids.insert(*id);
     const auto type = enumAt<EditablePathNode::Type>(bytes, 16, 1, 3);
     if (!type)
-        return error.fail(FileError::tr("An editable path node uses an unknown type."));
+        return error.fail(FileMessage::tr("An editable path node uses an unknown type."));
     node.type = *type;
     node.hasInControl = u32At(bytes, 20) & kHasInControl;
     node.hasOutControl = u32At(bytes, 20) & kHasOutControl;
     return node;
 }
 
-std::optional<EditablePathContour> takeContour(ByteReader &reader, QSet<QUuid> &ids, FileError &error)
+std::optional<EditablePathContour> takeContour(ByteReader &reader, QSet<QUuid> &ids, Error &error)
 {
     const std::optional<QByteArrayView> header = reader.take(kContourHeaderSize);
     if (!header || u32At(*header, 4) > kMaximumFileCount || u32At(*header, 8) != quint64(u32At(*header, 4)) * kNodeSize)
-        return error.fail(FileError::tr("An editable path contour is invalid."));
+        return error.fail(FileMessage::tr("An editable path contour is invalid."));
     const std::optional<QByteArrayView> nodes = reader.take(u32At(*header, 8));
     if (!nodes)
-        return error.fail(FileError::tr("An editable path node is invalid."));
+        return error.fail(FileMessage::tr("An editable path node is invalid."));
     EditablePathContour contour;
     contour.closed = u32At(*header, 0) & kClosed;
     contour.nodes.reserve(nodes->size() / kNodeSize);
@@ -87,10 +88,10 @@ std::optional<EditablePathContour> takeContour(ByteReader &reader, QSet<QUuid> &
 
 } // namespace
 
-std::optional<QByteArray> encodePath(const EditablePath &path, FileError &error)
+std::optional<QByteArray> encodePath(const EditablePath &path, Error &error)
 {
     if (path.contours.size() > kMaximumFileCount)
-        return error.fail(FileError::tr("An editable path has too many contours."));
+        return error.fail(FileMessage::tr("An editable path has too many contours."));
     QByteArray record(kPathHeaderSize, '\0');
     setU32(record, 0, 1);
     setU32(record, 4, path.fillRule == Qt::WindingFill ? kWindingFill : kOddEvenFill);
@@ -98,7 +99,7 @@ std::optional<QByteArray> encodePath(const EditablePath &path, FileError &error)
     QSet<QUuid> ids;
     for (const EditablePathContour &contour : path.contours) {
         if (contour.nodes.size() > kMaximumFileCount)
-            return error.fail(FileError::tr("An editable path contour has too many nodes."));
+            return error.fail(FileMessage::tr("An editable path contour has too many nodes."));
         QByteArray header(kContourHeaderSize, '\0');
         setU32(header, 0, contour.closed ? kClosed : 0);
         setU32(header, 4, quint32(contour.nodes.size()));
@@ -114,13 +115,13 @@ std::optional<QByteArray> encodePath(const EditablePath &path, FileError &error)
     return record;
 }
 
-std::optional<EditablePath> decodePath(QByteArrayView record, FileError &error)
+std::optional<EditablePath> decodePath(QByteArrayView record, Error &error)
 {
     ByteReader reader(record);
     const std::optional<QByteArrayView> header = reader.take(kPathHeaderSize);
     if (!header || u32At(*header, 0) != 1 || u32At(*header, 4) < kWindingFill || u32At(*header, 4) > kOddEvenFill
         || u32At(*header, 8) > kMaximumFileCount || u32At(*header, 12) != quint64(reader.remaining()))
-        return error.fail(FileError::tr("An editable path record is invalid."));
+        return error.fail(FileMessage::tr("An editable path record is invalid."));
     EditablePath path;
     path.fillRule = u32At(*header, 4) == kWindingFill ? Qt::WindingFill : Qt::OddEvenFill;
     QSet<QUuid> ids;
@@ -131,7 +132,7 @@ std::optional<EditablePath> decodePath(QByteArrayView record, FileError &error)
         path.contours.append(*contour);
     }
     if (!reader.atEnd())
-        return error.fail(FileError::tr("An editable path has trailing data."));
+        return error.fail(FileMessage::tr("An editable path has trailing data."));
     return path;
 }
 

@@ -5,9 +5,9 @@
 
 namespace zm {
 
-std::optional<QByteArray> encodePath(const EditablePath &path, FileError &error);
+std::optional<QByteArray> encodePath(const EditablePath &path, Error &error);
 
 /// All of the bytes have to be the path.
-std::optional<EditablePath> decodePath(QByteArrayView record, FileError &error);
+std::optional<EditablePath> decodePath(QByteArrayView record, Error &error);
 
 } // namespace zm

@@ -1,6 +1,6 @@
 #pragma once
 
-#include "io/document/file_error.h"
+#include "base/error.h"
 
 #include <QByteArray>
 #include <QByteArrayView>
@@ -58,11 +58,11 @@ std::optional<Enum> enumAt(QByteArrayView record, qsizetype offset, quint32 firs
 }
 
 /// Fails for a component that is not within 0..1.
-std::optional<QColor> colorAt(QByteArrayView record, qsizetype offset, FileError &error);
+std::optional<QColor> colorAt(QByteArrayView record, qsizetype offset, Error &error);
 /// Fails for a null id.
-std::optional<QUuid> uuidAt(QByteArrayView record, qsizetype offset, FileError &error);
+std::optional<QUuid> uuidAt(QByteArrayView record, qsizetype offset, Error &error);
 /// Fails for a field of kKeyFieldSize bytes that is not a terminated and padded ASCII key.
-std::optional<QString> keyAt(QByteArrayView record, qsizetype offset, FileError &error);
+std::optional<QString> keyAt(QByteArrayView record, qsizetype offset, Error &error);
 
 template<typename Number>
 void setNumber(QByteArray &record, qsizetype offset, Number value)
@@ -85,9 +85,9 @@ void setPoint(QByteArray &record, qsizetype offset, const QPointF &point);
 void setColor(QByteArray &record, qsizetype offset, const QColor &color);
 void setUuid(QByteArray &record, qsizetype offset, const QUuid &id);
 /// Fails for a key that is empty, too long, or not 7-bit ASCII.
-bool setKey(QByteArray &record, qsizetype offset, const QString &key, FileError &error);
+bool setKey(QByteArray &record, qsizetype offset, const QString &key, Error &error);
 /// A length in 32 bits; fails for a longer block.
-bool setSize(QByteArray &record, qsizetype offset, qsizetype size, FileError &error);
+bool setSize(QByteArray &record, qsizetype offset, qsizetype size, Error &error);
 
 /// A cursor on bytes. What is taken is a view of them.
 class ByteReader

@@ -1,3 +1,4 @@
+#include "io/document/file_message.h"
 #include "io/document/fill_records.h"
 #include "io/document/geometry_records.h"
 #include "io/document/layer_content.h"
@@ -18,10 +19,10 @@ bool isStrokeWidth(double width)
 
 } // namespace
 
-std::optional<QByteArray> encodeShapeContent(const ShapeLayer &layer, FileError &error)
+std::optional<QByteArray> encodeShapeContent(const ShapeLayer &layer, Error &error)
 {
     if (!isStorableSize(layer.layerSize()) || !isStrokeWidth(layer.stroke().width))
-        return error.fail(FileError::tr("A shape layer has invalid dimensions or stroke."));
+        return error.fail(FileMessage::tr("A shape layer has invalid dimensions or stroke."));
     const std::optional<QByteArray> geometry = encodeGeometry(layer.geometry(), error);
     if (!geometry)
         return Failure();
@@ -39,16 +40,16 @@ std::optional<QByteArray> encodeShapeContent(const ShapeLayer &layer, FileError 
     return record + *geometry + *fill;
 }
 
-std::optional<ShapeContent> decodeShapeContent(QByteArrayView record, FileError &error)
+std::optional<ShapeContent> decodeShapeContent(QByteArrayView record, Error &error)
 {
     ByteReader reader(record);
     const std::optional<QByteArrayView> header = reader.take(kHeaderSize);
     if (!header || u32At(*header, 0) != 1 || !isStorableSize(sizeAt(*header, 8)) || !isStrokeWidth(f64At(*header, 48)))
-        return error.fail(FileError::tr("A shape layer payload is invalid."));
+        return error.fail(FileMessage::tr("A shape layer payload is invalid."));
     const std::optional<QByteArrayView> geometryRecord = reader.take(u32At(*header, 24));
     const std::optional<QByteArrayView> fillRecord = reader.take(u32At(*header, 28));
     if (!geometryRecord || !fillRecord || !reader.atEnd())
-        return error.fail(FileError::tr("A shape layer payload is truncated."));
+        return error.fail(FileMessage::tr("A shape layer payload is truncated."));
     std::optional<ShapeGeometry> geometry = decodeGeometry(u32At(*header, 4), *geometryRecord, error);
     if (!geometry)
         return Failure();

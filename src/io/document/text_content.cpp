@@ -1,3 +1,4 @@
+#include "io/document/file_message.h"
 #include "io/document/layer_content.h"
 #include "io/document/text_run_records.h"
 
@@ -34,17 +35,17 @@ struct AlignmentCode
 constexpr std::array kAlignments{AlignmentCode{Qt::AlignJustify, 4}, AlignmentCode{Qt::AlignHCenter, 2},
                                  AlignmentCode{Qt::AlignRight, 3}, AlignmentCode{Qt::AlignLeft, 1}};
 
-bool appendParagraph(QByteArray &record, const TextParagraph &paragraph, FileError &error)
+bool appendParagraph(QByteArray &record, const TextParagraph &paragraph, Error &error)
 {
     if (paragraph.runs.size() > kMaximumFileCount || !isLineHeight(paragraph.lineHeight))
-        return error.fail(FileError::tr("A text paragraph is invalid."));
+        return error.fail(FileMessage::tr("A text paragraph is invalid."));
     const auto alignment = std::ranges::find_if(
         kAlignments, [&](const AlignmentCode &known) { return paragraph.alignment.testFlag(known.flag); });
     if (alignment == kAlignments.end())
-        return error.fail(FileError::tr("A text paragraph uses an unsupported alignment."));
+        return error.fail(FileMessage::tr("A text paragraph uses an unsupported alignment."));
     const auto direction = std::ranges::find(kDirections, paragraph.direction);
     if (direction == kDirections.end())
-        return error.fail(FileError::tr("A text paragraph uses an unsupported direction."));
+        return error.fail(FileMessage::tr("A text paragraph uses an unsupported direction."));
     const qsizetype start = record.size();
     record.resize(start + kParagraphHeaderSize, '\0');
     setU32(record, start, alignment->code);
@@ -60,9 +61,9 @@ bool appendParagraph(QByteArray &record, const TextParagraph &paragraph, FileErr
     return setSize(record, start + 12, record.size() - start - kParagraphHeaderSize, error);
 }
 
-std::optional<TextParagraph> takeParagraph(ByteReader &reader, FileError &error)
+std::optional<TextParagraph> takeParagraph(ByteReader &reader, Error &error)
 {
-    const auto invalid = [&error] { return error.fail(FileError::tr("A text paragraph record is invalid.")); };
+    const auto invalid = [&error] { return error.fail(FileMessage::tr("A text paragraph record is invalid.")); };
     const std::optional<QByteArrayView> header = reader.take(kParagraphHeaderSize);
     if (!header || u32At(*header, 8) > kMaximumFileCount || !isLineHeight(f64At(*header, 16)))
         return invalid();
@@ -71,9 +72,9 @@ std::optional<TextParagraph> takeParagraph(ByteReader &reader, FileError &error)
         return invalid();
     const auto alignment = std::ranges::find(kAlignments, u32At(*header, 0), &AlignmentCode::code);
     if (alignment == kAlignments.end())
-        return error.fail(FileError::tr("A text paragraph uses an unknown alignment."));
+        return error.fail(FileMessage::tr("A text paragraph uses an unknown alignment."));
     if (u32At(*header, 4) >= kDirections.size())
-        return error.fail(FileError::tr("A text paragraph uses an unknown direction."));
+        return error.fail(FileMessage::tr("A text paragraph uses an unknown direction."));
     TextParagraph paragraph{{}, alignment->flag, kDirections[u32At(*header, 4)], f64At(*header, 16)};
     ByteReader runs(*body);
     for (quint32 count = u32At(*header, 8); count > 0; --count) {
@@ -83,17 +84,17 @@ std::optional<TextParagraph> takeParagraph(ByteReader &reader, FileError &error)
         paragraph.runs.append(std::move(*run));
     }
     if (!runs.atEnd())
-        return error.fail(FileError::tr("A text paragraph has trailing data."));
+        return error.fail(FileMessage::tr("A text paragraph has trailing data."));
     return paragraph;
 }
 
 } // namespace
 
-std::optional<QByteArray> encodeTextContent(const TextLayer &layer, FileError &error)
+std::optional<QByteArray> encodeTextContent(const TextLayer &layer, Error &error)
 {
     const TextLayerState &state = layer.state();
     if (state.blocks.size() > kMaximumFileCount || !isTextWidth(state.textWidth))
-        return error.fail(FileError::tr("A text layer has invalid dimensions or too many paragraphs."));
+        return error.fail(FileMessage::tr("A text layer has invalid dimensions or too many paragraphs."));
     QByteArray record(kHeaderSize, '\0');
     setU32(record, 0, 1);
     setU32(record, 4, quint32(state.blocks.size()));
@@ -107,13 +108,13 @@ std::optional<QByteArray> encodeTextContent(const TextLayer &layer, FileError &e
     return record;
 }
 
-std::optional<TextLayerState> decodeTextContent(QByteArrayView record, FileError &error)
+std::optional<TextLayerState> decodeTextContent(QByteArrayView record, Error &error)
 {
     ByteReader reader(record);
     const std::optional<QByteArrayView> header = reader.take(kHeaderSize);
     if (!header || u32At(*header, 0) != 1 || u32At(*header, 4) > kMaximumFileCount || !isTextWidth(f64At(*header, 8))
         || u32At(*header, 16) != quint64(reader.remaining()))
-        return error.fail(FileError::tr("A text layer payload is invalid."));
+        return error.fail(FileMessage::tr("A text layer payload is invalid."));
     TextLayerState state{{}, f64At(*header, 8)};
     for (quint32 count = u32At(*header, 4); count > 0; --count) {
         std::optional<TextParagraph> paragraph = takeParagraph(reader, error);
@@ -122,7 +123,7 @@ std::optional<TextLayerState> decodeTextContent(QByteArrayView record, FileError
         state.blocks.append(std::move(*paragraph));
     }
     if (!reader.atEnd())
-        return error.fail(FileError::tr("A text layer has trailing data."));
+        return error.fail(FileMessage::tr("A text layer has trailing data."));
     return state;
 }
 

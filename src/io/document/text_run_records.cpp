@@ -1,5 +1,6 @@
 #include "io/document/text_run_records.h"
 
+#include "io/document/file_message.h"
 #include "io/document/fill_records.h"
 
 #include <algorithm>
@@ -38,13 +39,13 @@ quint32 flagsOf(const TextRun &run)
     return flags;
 }
 
-std::optional<QByteArray> familyBlock(const QStringList &families, FileError &error)
+std::optional<QByteArray> familyBlock(const QStringList &families, Error &error)
 {
     QByteArray block;
     for (const QString &family : families) {
         const QByteArray name = family.toUtf8();
         if (name.size() > kMaximumFileTextSize)
-            return error.fail(FileError::tr("A text run is too large."));
+            return error.fail(FileMessage::tr("A text run is too large."));
         QByteArray length(kLengthSize, '\0');
         setU32(length, 0, quint32(name.size()));
         block.append(length).append(name);
@@ -52,7 +53,7 @@ std::optional<QByteArray> familyBlock(const QStringList &families, FileError &er
     return block;
 }
 
-std::optional<QStringList> decodeFamilies(QByteArrayView block, quint32 count, FileError &error)
+std::optional<QStringList> decodeFamilies(QByteArrayView block, quint32 count, Error &error)
 {
     QStringList families;
     ByteReader reader(block);
@@ -61,29 +62,29 @@ std::optional<QStringList> decodeFamilies(QByteArrayView block, quint32 count, F
         const std::optional<QByteArrayView> name =
             length && u32At(*length, 0) <= kMaximumFileTextSize ? reader.take(u32At(*length, 0)) : std::nullopt;
         if (!name)
-            return error.fail(FileError::tr("A font family record is invalid."));
+            return error.fail(FileMessage::tr("A font family record is invalid."));
         families.append(QString::fromUtf8(*name));
     }
     if (!reader.atEnd())
-        return error.fail(FileError::tr("A font family block has trailing data."));
+        return error.fail(FileMessage::tr("A font family block has trailing data."));
     return families;
 }
 
 std::optional<QFont> decodeFont(QByteArrayView header, const QStringList &families, const QString &styleName,
-                                FileError &error)
+                                Error &error)
 {
     const auto style = enumAt<QFont::Style>(header, 36, 1, 3);
     if (!style)
-        return error.fail(FileError::tr("A text run uses an unknown font style."));
+        return error.fail(FileMessage::tr("A text run uses an unknown font style."));
     const auto capitalization = enumAt<QFont::Capitalization>(header, 40, 1, 5);
     if (!capitalization)
-        return error.fail(FileError::tr("A text run uses an unknown capitalization mode."));
+        return error.fail(FileMessage::tr("A text run uses an unknown capitalization mode."));
     const auto letterSpacingType = enumAt<QFont::SpacingType>(header, 44, 1, 2);
     if (!letterSpacingType)
-        return error.fail(FileError::tr("A text run uses an unknown letter-spacing mode."));
+        return error.fail(FileMessage::tr("A text run uses an unknown letter-spacing mode."));
     const auto hinting = enumAt<QFont::HintingPreference>(header, 48, 0, 3);
     if (!hinting)
-        return error.fail(FileError::tr("A text run uses an unknown font hinting mode."));
+        return error.fail(FileMessage::tr("A text run uses an unknown font hinting mode."));
 
     QFont font{QStringList()}; // QFont() would have what the application's own font has
     if (!families.isEmpty())
@@ -97,7 +98,7 @@ std::optional<QFont> decodeFont(QByteArrayView header, const QStringList &famili
     else if (pointSize > 0.0)
         font.setPointSizeF(pointSize);
     else
-        return error.fail(FileError::tr("A text run has no valid font size."));
+        return error.fail(FileMessage::tr("A text run has no valid font size."));
     font.setWeight(QFont::Weight(u32At(header, 28)));
     font.setStretch(int(u32At(header, 32)));
     font.setStyle(*style);
@@ -114,22 +115,22 @@ std::optional<QFont> decodeFont(QByteArrayView header, const QStringList &famili
 
 } // namespace
 
-std::optional<QByteArray> encodeTextRun(const TextRun &run, FileError &error)
+std::optional<QByteArray> encodeTextRun(const TextRun &run, Error &error)
 {
     const QFont &font = run.font;
     QStringList families = font.families();
     if (families.isEmpty() && !font.family().isEmpty())
         families.append(font.family());
     if (families.size() > kMaximumFileCount)
-        return error.fail(FileError::tr("A text run has too many font families."));
+        return error.fail(FileMessage::tr("A text run has too many font families."));
     const double numbers[] = {font.letterSpacing(), font.wordSpacing(), font.pointSizeF(), run.baselineOffset,
                               run.outlineWidth};
     if (!areRunNumbers(numbers))
-        return error.fail(FileError::tr("A text run has invalid numeric font properties."));
+        return error.fail(FileMessage::tr("A text run has invalid numeric font properties."));
     const QByteArray text = run.text.toUtf8();
     const QByteArray styleName = font.styleName().toUtf8();
     if (text.size() > kMaximumFileTextSize || styleName.size() > kMaximumFileTextSize)
-        return error.fail(FileError::tr("A text run is too large."));
+        return error.fail(FileMessage::tr("A text run is too large."));
     const std::optional<QByteArray> familyRecords = familyBlock(families, error);
     if (!familyRecords)
         return Failure();
@@ -162,9 +163,9 @@ std::optional<QByteArray> encodeTextRun(const TextRun &run, FileError &error)
     return record + text + *familyRecords + styleName + *fill;
 }
 
-std::optional<TextRun> decodeTextRun(ByteReader &reader, FileError &error)
+std::optional<TextRun> decodeTextRun(ByteReader &reader, Error &error)
 {
-    const auto invalid = [&error] { return error.fail(FileError::tr("A text run record is invalid.")); };
+    const auto invalid = [&error] { return error.fail(FileMessage::tr("A text run record is invalid.")); };
     const std::optional<QByteArrayView> header = reader.take(kHeaderSize);
     if (!header)
         return invalid();
@@ -182,7 +183,7 @@ std::optional<TextRun> decodeTextRun(ByteReader &reader, FileError &error)
     const std::optional<QByteArrayView> styleName = reader.take(u32At(*header, 12));
     const std::optional<QByteArrayView> fillRecord = reader.take(u32At(*header, 16));
     if (!text || !familyRecords || !styleName || !fillRecord)
-        return error.fail(FileError::tr("A text run is truncated."));
+        return error.fail(FileMessage::tr("A text run is truncated."));
     const std::optional<QStringList> families = decodeFamilies(*familyRecords, u32At(*header, 20), error);
     if (!families)
         return Failure();

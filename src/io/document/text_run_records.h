@@ -5,9 +5,9 @@
 
 namespace zm {
 
-std::optional<QByteArray> encodeTextRun(const TextRun &run, FileError &error);
+std::optional<QByteArray> encodeTextRun(const TextRun &run, Error &error);
 
 /// Takes one run.
-std::optional<TextRun> decodeTextRun(ByteReader &reader, FileError &error);
+std::optional<TextRun> decodeTextRun(ByteReader &reader, Error &error);
 
 } // namespace zm

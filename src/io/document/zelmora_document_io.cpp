@@ -2,6 +2,7 @@
 
 #include "io/document/document_reader.h"
 #include "io/document/document_writer.h"
+#include "io/document/file_message.h"
 #include "io/save_target.h"
 
 #include <QFile>
@@ -11,16 +12,16 @@ namespace zm {
 
 namespace {
 
-void report(const FileError &error, QString *message)
+void report(const Error &error, QString *message)
 {
     if (message)
         *message = error.message();
 }
 
-std::optional<LoadedDocument> load(QIODevice &source, FileError &error)
+std::optional<LoadedDocument> load(QIODevice &source, Error &error)
 {
     LoadedDocument document;
-    const auto takeLayer = [&document](LayerRecord record, FileError &layerError) {
+    const auto takeLayer = [&document](LayerRecord record, Error &layerError) {
         std::unique_ptr<Layer> layer = layerFrom(std::move(record), layerError);
         if (!layer)
             return false;
@@ -35,10 +36,10 @@ std::optional<LoadedDocument> load(QIODevice &source, FileError &error)
     return document;
 }
 
-std::optional<DocumentRecords> loadRecords(QIODevice &source, PixelReading pixels, FileError &error)
+std::optional<DocumentRecords> loadRecords(QIODevice &source, PixelReading pixels, Error &error)
 {
     DocumentRecords records;
-    const auto takeLayer = [&records](LayerRecord record, FileError &) {
+    const auto takeLayer = [&records](LayerRecord record, Error &) {
         records.layers.push_back(std::move(record));
         return true;
     };
@@ -51,11 +52,11 @@ std::optional<DocumentRecords> loadRecords(QIODevice &source, PixelReading pixel
     return records;
 }
 
-bool openForReading(QFile &file, FileError &error)
+bool openForReading(QFile &file, Error &error)
 {
     if (file.open(QIODevice::ReadOnly))
         return true;
-    return error.fail(FileError::tr("Could not open %1 for reading: %2").arg(file.fileName(), file.errorString()));
+    return error.fail(FileMessage::tr("Could not open %1 for reading: %2").arg(file.fileName(), file.errorString()));
 }
 
 EmbeddedImageMode imageMode(bool compressImages)
@@ -63,13 +64,13 @@ EmbeddedImageMode imageMode(bool compressImages)
     return compressImages ? EmbeddedImageMode::Compressed : EmbeddedImageMode::Lossless;
 }
 
-bool save(const Document &document, const QString &path, EmbeddedImageMode mode, FileError &error)
+bool save(const Document &document, const QString &path, EmbeddedImageMode mode, Error &error)
 {
     const auto failToOpen = [&](const QString &reason) {
-        return error.fail(FileError::tr("Could not open %1 for writing: %2").arg(path, reason));
+        return error.fail(FileMessage::tr("Could not open %1 for writing: %2").arg(path, reason));
     };
     if (!mayBeReplaced(path))
-        return failToOpen(FileError::tr("The target is not a regular file."));
+        return failToOpen(FileMessage::tr("The target is not a regular file."));
     QSaveFile file(path);
     if (!file.open(QIODevice::WriteOnly))
         return failToOpen(file.errorString());
@@ -78,7 +79,7 @@ bool save(const Document &document, const QString &path, EmbeddedImageMode mode,
         return false;
     }
     if (!file.commit())
-        return error.fail(FileError::tr("Could not finish writing %1: %2").arg(path, file.errorString()));
+        return error.fail(FileMessage::tr("Could not finish writing %1: %2").arg(path, file.errorString()));
     return true;
 }
 
@@ -86,7 +87,7 @@ bool save(const Document &document, const QString &path, EmbeddedImageMode mode,
 
 std::optional<LoadedDocument> ZelmoraDocumentIO::readDocument(QIODevice *source, QString *errorMessage)
 {
-    FileError error;
+    Error error;
     std::optional<LoadedDocument> document = load(*source, error);
     report(error, errorMessage);
     return document;
@@ -94,7 +95,7 @@ std::optional<LoadedDocument> ZelmoraDocumentIO::readDocument(QIODevice *source,
 
 std::optional<LoadedDocument> ZelmoraDocumentIO::readDocumentFile(const QString &path, QString *errorMessage)
 {
-    FileError error;
+    Error error;
     QFile file(path);
     std::optional<LoadedDocument> document;
     if (openForReading(file, error))
@@ -106,7 +107,7 @@ std::optional<LoadedDocument> ZelmoraDocumentIO::readDocumentFile(const QString 
 std::optional<DocumentRecords> ZelmoraDocumentIO::readRecords(QIODevice *source, PixelReading pixels,
                                                               QString *errorMessage)
 {
-    FileError error;
+    Error error;
     std::optional<DocumentRecords> records = loadRecords(*source, pixels, error);
     report(error, errorMessage);
     return records;
@@ -115,7 +116,7 @@ std::optional<DocumentRecords> ZelmoraDocumentIO::readRecords(QIODevice *source,
 std::optional<DocumentRecords> ZelmoraDocumentIO::readRecordsFile(const QString &path, PixelReading pixels,
                                                                   QString *errorMessage)
 {
-    FileError error;
+    Error error;
     QFile file(path);
     std::optional<DocumentRecords> records;
     if (openForReading(file, error))
@@ -127,7 +128,7 @@ std::optional<DocumentRecords> ZelmoraDocumentIO::readRecordsFile(const QString 
 bool ZelmoraDocumentIO::writeDocument(const Document &document, QIODevice *destination, bool compressImages,
                                       QString *errorMessage)
 {
-    FileError error;
+    Error error;
     const bool written = writeDocumentSections(document, *destination, imageMode(compressImages), error);
     report(error, errorMessage);
     return written;
@@ -136,7 +137,7 @@ bool ZelmoraDocumentIO::writeDocument(const Document &document, QIODevice *desti
 bool ZelmoraDocumentIO::writeDocumentFile(const Document &document, const QString &path, bool compressImages,
                                           QString *errorMessage)
 {
-    FileError error;
+    Error error;
     const bool saved = save(document, path, imageMode(compressImages), error);
     report(error, errorMessage);
     return saved;

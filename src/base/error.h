@@ -1,6 +1,5 @@
 #pragma once
 
-#include <QCoreApplication>
 #include <QString>
 
 #include <concepts>
@@ -31,12 +30,10 @@ struct Failure
     }
 };
 
-/// Why a document file could not be read or written, for people. Only the first failure is kept: what a caller says
-/// about it in general does not hide what went wrong in detail.
-class FileError
+/// Why something failed, in one sentence for people: the last parameter of functions that can tell. Only the first
+/// failure is kept: what a caller says about it in general does not hide what went wrong in detail.
+class Error
 {
-    Q_DECLARE_TR_FUNCTIONS(ZelmoraDocumentIO)
-
 public:
     Failure fail(const QString &message)
     {
