@@ -143,10 +143,10 @@ QList<BenchRow> recordsOfLargeFile()
         if (!ZelmoraDocumentIO::writeDocumentFile(document, path, false))
             return {};
     }
-    bool read = true;
-    const double records = medianMilliseconds(
-        kRuns, [&] { read = read && ZelmoraDocumentIO::readRecordsFile(path, PixelReading::Skip).has_value(); });
-    if (!read)
+    Error error;
+    const double records =
+        medianMilliseconds(kRuns, [&] { ZelmoraDocumentIO::readRecordsFile(path, PixelReading::Skip, error); });
+    if (error.isSet())
         return {};
     const double gibibytes = double(QFileInfo(path).size()) / double(1 << 30);
     return {{u"%1 GiB: records without pixels"_s.arg(gibibytes, 0, 'f', 2), records, u"nothing is decoded"_s}};

@@ -61,12 +61,14 @@ extern "C" int LLVMFuzzerTestOneInput(const uint8_t *data, size_t size)
     QBuffer buffer;
     buffer.setData(file);
     buffer.open(QIODevice::ReadOnly);
-    QString error;
-    const std::optional<DocumentRecords> records = ZelmoraDocumentIO::readRecords(&buffer, PixelReading::Skip, &error);
-    require(records.has_value() == error.isEmpty(), "a reader that fails tells why");
+    Error recordsError;
+    const std::optional<DocumentRecords> records =
+        ZelmoraDocumentIO::readRecords(&buffer, PixelReading::Skip, recordsError);
+    require(records.has_value() != recordsError.isSet(), "a reader that fails tells why");
     if (records && announcedPixels(*records) > kMostPixels)
         return 0;
 
+    QString error;
     const std::optional<LoadedDocument> loaded = read(file, error);
     require(loaded.has_value() == error.isEmpty(), "a reader that fails tells why");
     require(records || !loaded, "what is read with pixels is read without");

@@ -13,26 +13,24 @@ namespace zm::cli {
 namespace {
 
 /// The stack that the words ask for: every --set belongs to the --effect before it.
-QList<FilterInstance> effectsFrom(const Arguments &arguments, QString *problem)
+std::optional<QList<FilterInstance>> effectsFrom(const Arguments &arguments, Error &error)
 {
     QList<FilterInstance> effects;
     const auto &options = arguments.inOrder();
     for (qsizetype i = 0; i < options.size();) {
-        if (options[i].first != "--effect"_L1) {
-            *problem = u"--set follows the --effect that it belongs to"_s;
-            return {};
-        }
+        if (options[i].first != "--effect"_L1)
+            return error.fail(u"--set follows the --effect that it belongs to"_s);
         const QString filterId = options[i].second;
         QStringList assignments;
         for (++i; i < options.size() && options[i].first == "--set"_L1; ++i)
             assignments.append(options[i].second);
-        const std::optional<FilterInstance> effect = effectFromText(filterId, assignments, problem);
+        const std::optional<FilterInstance> effect = effectFromText(filterId, assignments, error);
         if (!effect)
-            return {};
+            return std::nullopt;
         effects.append(*effect);
     }
     if (effects.isEmpty())
-        *problem = u"no effect is named"_s;
+        return error.fail(u"no effect is named"_s);
     return effects;
 }
 
@@ -47,65 +45,64 @@ const Layer *topVisibleLayer(const Document &document)
     return nullptr;
 }
 
-Outcome writePicture(const Document &document, const Job &job, const QString &formatKey)
+void writePicture(const Document &document, const Job &job, const QString &formatKey, JobErrors &errors)
 {
     EffectsRendering rendering;
-    QString error;
-    const std::optional<SceneSnapshot> snapshot = rendering.snapshot(document, &error);
+    const std::optional<SceneSnapshot> snapshot = rendering.snapshot(document, errors.input);
     if (!snapshot)
-        return {job.input, error};
+        return;
     // An effect may have grown a lone picture beyond its frame; what a document leaves outside was placed there.
     const bool clip = hasDocumentSuffix(job.input);
     const QSize size = defaultExportSize(exportRectangle(*snapshot, clip));
-    const ExportResult result = exportImage(*snapshot, {formatKey, kDefaultExportQuality, size, clip});
-    if (!result.error.isEmpty())
-        return {job.input, result.error};
-    writeExportedImage(job.output, result.bytes, &error);
-    return {job.output, error};
+    const std::optional<QByteArray> bytes =
+        exportImage(*snapshot, {formatKey, kDefaultExportQuality, size, clip}, errors.input);
+    if (bytes)
+        writeExportedImage(job.output, *bytes, errors.output);
 }
 
 /// The format key is empty for an output that is a document.
-Outcome applyEffects(const Job &job, const QList<FilterInstance> &effects, const QString &formatKey)
+void applyEffects(const Job &job, const QList<FilterInstance> &effects, const QString &formatKey, JobErrors &errors)
 {
     const QuietLibraries quiet;
     Document document;
-    QString error = openDocument(document, job.input);
-    if (!error.isEmpty())
-        return {job.input, error};
+    if (!openDocument(document, job.input, errors.input))
+        return;
     const Layer *layer = topVisibleLayer(document);
-    if (!layer)
-        return {job.input, u"The document has no visible layer to put an effect on."_s};
+    if (!layer) {
+        errors.input.fail(u"The document has no visible layer to put an effect on."_s);
+        return;
+    }
     document.setLayerFilters(layer->id(), layer->filters() + effects);
-    if (!formatKey.isEmpty())
-        return writePicture(document, job, formatKey);
-    ZelmoraDocumentIO::writeDocumentFile(document, job.output, false, &error);
-    return {job.output, error};
+    if (formatKey.isEmpty())
+        ZelmoraDocumentIO::writeDocumentFile(document, job.output, false, errors.output);
+    else
+        writePicture(document, job, formatKey, errors);
 }
 
 } // namespace
 
 ExitStatus runApply(const QStringList &words, const QString &usage)
 {
-    const Arguments arguments(words, {{u"--effect"_s, true}, {u"--set"_s, true}});
-    QString problem = arguments.problem();
-    const QList<FilterInstance> effects =
-        problem.isEmpty() ? effectsFrom(arguments, &problem) : QList<FilterInstance>();
+    Error error;
+    const Arguments arguments(words, {{u"--effect"_s, true}, {u"--set"_s, true}}, error);
+    const std::optional<QList<FilterInstance>> effects = effectsFrom(arguments, error);
     const QStringList files = arguments.files();
-    if (problem.isEmpty() && files.size() != 2)
-        problem = u"one input and one output are needed"_s;
+    if (files.size() != 2)
+        error.fail(u"one input and one output are needed"_s);
     QString formatKey;
-    if (problem.isEmpty() && !hasDocumentSuffix(files[1])) {
+    if (!error.isSet() && !hasDocumentSuffix(files[1])) {
         formatKey = exportFormatKeyForFile(files[1], true);
         if (formatKey.isEmpty())
             formatKey = exportFormatKeyForFile(files[1], false);
         if (formatKey.isEmpty())
-            problem = u"the output's name must end in .zelmora, .jpg, .jpeg, .webp or .png"_s;
+            error.fail(u"the output's name must end in .zelmora, .jpg, .jpeg, .webp or .png"_s);
     }
-    if (!problem.isEmpty())
-        return wrongUsage(problem, usage);
+    if (error.isSet())
+        return wrongUsage(error.message(), usage);
 
     Console console;
-    runJobs({{files[0], files[1]}}, console, [&](const Job &job) { return applyEffects(job, effects, formatKey); });
+    runJobs({{files[0], files[1]}}, console,
+            [&](const Job &job, JobErrors &errors) { applyEffects(job, *effects, formatKey, errors); });
     return console.finish();
 }
 

@@ -4,7 +4,7 @@ using namespace Qt::StringLiterals;
 
 namespace zm::cli {
 
-Arguments::Arguments(const QStringList &words, const QList<OptionRule> &rules)
+Arguments::Arguments(const QStringList &words, const QList<OptionRule> &rules, Error &error)
 {
     bool optionsEnded = false;
     for (qsizetype i = 0; i < words.size(); ++i) {
@@ -22,9 +22,9 @@ Arguments::Arguments(const QStringList &words, const QList<OptionRule> &rules)
         const auto rule =
             std::find_if(rules.begin(), rules.end(), [&](const OptionRule &known) { return known.name == name; });
         if (rule == rules.end())
-            note(u"unknown option %1"_s.arg(name));
+            error.fail(u"unknown option %1"_s.arg(name));
         else if (!rule->takesValue && equals >= 0)
-            note(u"%1 takes no value"_s.arg(name));
+            error.fail(u"%1 takes no value"_s.arg(name));
         else if (!rule->takesValue)
             take(name, {});
         else if (equals >= 0)
@@ -32,7 +32,7 @@ Arguments::Arguments(const QStringList &words, const QList<OptionRule> &rules)
         else if (i + 1 < words.size())
             take(name, words[++i]);
         else
-            note(u"%1 needs a value"_s.arg(name));
+            error.fail(u"%1 needs a value"_s.arg(name));
     }
 }
 
@@ -42,7 +42,7 @@ void Arguments::take(const QString &option, const QString &value)
     m_inOrder.append({option, value});
 }
 
-int Arguments::number(const QString &option, int fallback, int minimum, int maximum)
+int Arguments::number(const QString &option, int fallback, int minimum, int maximum, Error &error) const
 {
     if (!has(option))
         return fallback;
@@ -50,14 +50,8 @@ int Arguments::number(const QString &option, int fallback, int minimum, int maxi
     const int number = value(option).toInt(&isNumber);
     if (isNumber && number >= minimum && number <= maximum)
         return number;
-    note(u"%1 takes a whole number from %2 to %3"_s.arg(option).arg(minimum).arg(maximum));
+    error.fail(u"%1 takes a whole number from %2 to %3"_s.arg(option).arg(minimum).arg(maximum));
     return fallback;
-}
-
-void Arguments::note(const QString &problem)
-{
-    if (m_problem.isEmpty())
-        m_problem = problem;
 }
 
 } // namespace zm::cli

@@ -1,5 +1,7 @@
 #pragma once
 
+#include "base/error.h"
+
 #include <QHash>
 #include <QList>
 #include <QStringList>
@@ -19,10 +21,9 @@ struct OptionRule
 class Arguments
 {
 public:
-    Arguments(const QStringList &words, const QList<OptionRule> &rules);
+    /// The error tells where the words do not keep to the rules.
+    Arguments(const QStringList &words, const QList<OptionRule> &rules, Error &error);
 
-    /// Empty when the words keep to the rules; else the first thing wrong.
-    QString problem() const { return m_problem; }
     const QStringList &files() const { return m_files; }
     bool has(const QString &option) const { return m_options.contains(option); }
     /// Of an option that was given more than once, the last.
@@ -33,17 +34,15 @@ public:
     /// All options with their values, in the order given; the value of an option that takes none is empty.
     const QList<std::pair<QString, QString>> &inOrder() const { return m_inOrder; }
 
-    /// The option's whole number, or fallback when it was not given; a number out of range becomes a problem.
-    int number(const QString &option, int fallback, int minimum, int maximum);
+    /// The option's whole number, or fallback when it was not given. Fails for a number out of range.
+    int number(const QString &option, int fallback, int minimum, int maximum, Error &error) const;
 
 private:
     void take(const QString &option, const QString &value);
-    void note(const QString &problem);
 
     QHash<QString, QStringList> m_options;
     QList<std::pair<QString, QString>> m_inOrder;
     QStringList m_files;
-    QString m_problem;
 };
 
 } // namespace zm::cli

@@ -35,10 +35,10 @@ void Console::fail(const QString &file, const QString &message)
     write(stderr, u"zelmora: %1: %2\n"_s.arg(file, message));
 }
 
-void Console::report(const Outcome &outcome)
+void Console::report(const QString &file, const Error &error)
 {
-    if (!outcome.message.isEmpty())
-        fail(outcome.file, outcome.message);
+    if (error.isSet())
+        fail(file, error.message());
 }
 
 void Console::progress(const QString &text)
@@ -67,9 +67,9 @@ void Console::clearProgress()
     m_progressShown = false;
 }
 
-ExitStatus wrongUsage(const QString &problem, const QString &usage)
+ExitStatus wrongUsage(const QString &message, const QString &usage)
 {
-    write(stderr, u"zelmora: %1\nusage: %2\n"_s.arg(problem, usage));
+    write(stderr, u"zelmora: %1\nusage: %2\n"_s.arg(message, usage));
     return WrongUsage;
 }
 

@@ -1,18 +1,13 @@
 #pragma once
 
+#include "base/error.h"
+
 #include <QString>
 
 namespace zm::cli {
 
 /// What the program tells the shell.
 enum ExitStatus { Done = 0, Failed = 1, WrongUsage = 2 };
-
-/// What went wrong, and with which file; an empty message is success.
-struct Outcome
-{
-    QString file;
-    QString message;
-};
 
 /// Standard output for results, standard error for failures and, on a terminal only, for progress. Remembers whether
 /// something failed.
@@ -24,8 +19,8 @@ public:
     void print(const QString &text);
     /// One line "zelmora: FILE: MESSAGE".
     void fail(const QString &file, const QString &message);
-    /// The same, unless all went well.
-    void report(const Outcome &outcome);
+    /// The same, unless the error is not set.
+    void report(const QString &file, const Error &error);
     /// A line that the next message or progress replaces.
     void progress(const QString &text);
     /// Clears the progress, flushes, and tells Failed when anything failed, the output itself included.
@@ -40,6 +35,6 @@ private:
 };
 
 /// Tells what is wrong with the arguments, and how the command is used.
-ExitStatus wrongUsage(const QString &problem, const QString &usage);
+ExitStatus wrongUsage(const QString &message, const QString &usage);
 
 } // namespace zm::cli

@@ -11,24 +11,22 @@ namespace zm::cli {
 
 namespace {
 
-Outcome convertFile(const Job &job, bool lossy)
+void convertFile(const Job &job, bool lossy, JobErrors &errors)
 {
     const QuietLibraries quiet;
     Document document;
-    QString error = openDocument(document, job.input);
-    if (!error.isEmpty())
-        return {job.input, error};
-    ZelmoraDocumentIO::writeDocumentFile(document, job.output, lossy, &error);
-    return {job.output, error};
+    if (openDocument(document, job.input, errors.input))
+        ZelmoraDocumentIO::writeDocumentFile(document, job.output, lossy, errors.output);
 }
 
 } // namespace
 
 ExitStatus runConvert(const QStringList &words, const QString &usage)
 {
-    const Arguments arguments(words, {{u"--lossy"_s}, {u"--into"_s, true}});
-    if (!arguments.problem().isEmpty())
-        return wrongUsage(arguments.problem(), usage);
+    Error error;
+    const Arguments arguments(words, {{u"--lossy"_s}, {u"--into"_s, true}}, error);
+    if (error.isSet())
+        return wrongUsage(error.message(), usage);
 
     const QStringList files = arguments.files();
     Console console;
@@ -46,7 +44,7 @@ ExitStatus runConvert(const QStringList &words, const QString &usage)
         jobs = {{files[0], files[1]}};
     }
     const bool lossy = arguments.has(u"--lossy"_s);
-    runJobs(jobs, console, [lossy](const Job &job) { return convertFile(job, lossy); });
+    runJobs(jobs, console, [lossy](const Job &job, JobErrors &errors) { convertFile(job, lossy, errors); });
     return console.finish();
 }
 

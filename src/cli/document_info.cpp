@@ -98,17 +98,15 @@ QJsonObject layerInfo(const LayerRecord &layer, bool withDigest)
 
 } // namespace
 
-std::optional<DocumentRecords> readFileRecords(const QString &path, PixelReading pixels, QString *error)
+std::optional<DocumentRecords> readFileRecords(const QString &path, PixelReading pixels, Error &error)
 {
     const QuietLibraries quiet;
     if (hasDocumentSuffix(path))
         return ZelmoraDocumentIO::readRecordsFile(path, pixels, error);
     ImageImportError failure = ImageImportError::None;
     std::optional<LayerRecord> layer = readPicture(path, pixels, &failure);
-    if (!layer) {
-        *error = importErrorText(failure);
-        return std::nullopt;
-    }
+    if (!layer)
+        return error.fail(importErrorText(failure));
     // A document has whole units.
     DocumentRecords records{0, coveringPixels(std::get<ImageContent>(layer->content).size), Qt::white, {}};
     records.layers.push_back(*std::move(layer));

@@ -97,14 +97,9 @@ QByteArray encoded(const QImage &image, const char *format)
     return image.save(&buffer, format, kEffectPictureQuality) ? buffer.data() : QByteArray();
 }
 
-Outcome write(const QString &folder, const QString &name, const QByteArray &bytes)
+bool write(const QString &path, const QByteArray &bytes, Error &error)
 {
-    const QString path = QDir(folder).filePath(name);
-    if (bytes.isEmpty())
-        return {path, u"Could not encode the image."_s};
-    QString error;
-    writeExportedImage(path, bytes, &error);
-    return {path, error};
+    return bytes.isEmpty() ? error.fail(u"Could not encode the image."_s) : writeExportedImage(path, bytes, error);
 }
 
 /// The layer's pixels, no larger than the picture of one effect.
@@ -116,13 +111,28 @@ QImage reducedPicture(const QImage &image)
         : image.scaled(bound, Qt::KeepAspectRatio, Qt::SmoothTransformation).convertToFormat(QImage::Format_RGBA8888);
 }
 
-/// Each effect's picture as DIR/<id>.webp, with its transparency, and all of them on DIR/sheet.png.
-Outcome renderSheet(const QString &folder, const QString &input, Console &console)
+/// Each effect's picture as DIR/<id>.webp, with its transparency, and all of them on DIR/sheet.png. Ends with the first
+/// failure, which the console tells.
+void renderSheet(const QString &folder, const QString &input, Console &console)
 {
     std::optional<QuietLibraries> quiet(std::in_place);
+    const auto fail = [&](const QString &subject, const Error &error) {
+        quiet.reset();
+        console.report(subject, error);
+    };
+    const auto writeInFolder = [&](const QString &name, const QByteArray &bytes) {
+        const QString path = QDir(folder).filePath(name);
+        Error error;
+        if (!write(path, bytes, error))
+            fail(path, error);
+        return !error.isSet();
+    };
+    Error error;
     const ImageImportResult imported = importImageLayer(input);
-    if (!imported.layer)
-        return {input, importErrorText(imported.error)};
+    if (!imported.layer) {
+        error.fail(importErrorText(imported.error));
+        return fail(input, error);
+    }
     const RenderedContent content = imported.layer->renderedContent(nullptr);
     const QImage picture = reducedPicture(content.image);
 
@@ -150,29 +160,29 @@ Outcome renderSheet(const QString &folder, const QString &input, Console &consol
         const FilterInstance instance{{}, filter.id(), {}, true, false};
         const FilterRenderResult result =
             evaluateFilterStack(picture, content.size, {instance}, rendering.services(), std::nullopt, 0);
-        if (const QString problem = rendering.problem(); !problem.isEmpty())
-            return {filter.id(), problem};
+        if (!rendering.hasRenderedAll(error))
+            return fail(filter.id(), error);
         drawCell(painter, corner(i + 1), result.image, filter.label());
-        const Outcome written = write(folder, filter.id() + u".webp"_s, encoded(result.image, "webp"));
-        if (!written.message.isEmpty())
-            return written;
+        if (!writeInFolder(filter.id() + u".webp"_s, encoded(result.image, "webp")))
+            return;
     }
     painter.end();
-    return write(folder, u"sheet.png"_s, encoded(sheet, "png"));
+    writeInFolder(u"sheet.png"_s, encoded(sheet, "png"));
 }
 
 } // namespace
 
 ExitStatus runEffects(const QStringList &words, const QString &usage)
 {
-    const Arguments arguments(words, {{u"--json"_s}, {u"--sheet"_s, true}});
-    if (!arguments.problem().isEmpty())
-        return wrongUsage(arguments.problem(), usage);
+    Error error;
+    const Arguments arguments(words, {{u"--json"_s}, {u"--sheet"_s, true}}, error);
+    if (error.isSet())
+        return wrongUsage(error.message(), usage);
     if (arguments.has(u"--sheet"_s)) {
         if (arguments.has(u"--json"_s) || arguments.files().size() != 1)
             return wrongUsage(u"--sheet takes a folder and one input"_s, usage);
         Console console;
-        console.report(renderSheet(arguments.value(u"--sheet"_s), arguments.files().first(), console));
+        renderSheet(arguments.value(u"--sheet"_s), arguments.files().first(), console);
         return console.finish();
     }
     if (!arguments.files().isEmpty())

@@ -18,33 +18,32 @@ bool isKnown(const QString &effectId)
 
 } // namespace
 
-std::optional<SceneSnapshot> EffectsRendering::snapshot(const Document &document, QString *problem)
+std::optional<SceneSnapshot> EffectsRendering::snapshot(const Document &document, Error &error)
 {
     const QStringList effects = exportedEffects(document);
-    *problem = exportRefusal(effects);
-    if (!problem->isEmpty())
+    if (!canExportEffects(effects, error))
         return std::nullopt;
-    if (std::ranges::any_of(effects, isKnown) && m_renderer.maximumTextureSize() == 0) {
-        *problem = this->problem();
+    if (std::ranges::any_of(effects, isKnown) && !isAvailable(error))
         return std::nullopt;
-    }
     const quint64 failuresBefore = m_renderer.failureCount();
     SceneSnapshot snapshot = buildSceneSnapshot(document, {}, &m_services);
-    if (m_renderer.failureCount() > failuresBefore) {
-        *problem = this->problem();
+    if (m_renderer.failureCount() > failuresBefore && !hasRenderedAll(error))
         return std::nullopt;
-    }
     return snapshot;
 }
 
-QString EffectsRendering::problem()
+bool EffectsRendering::isAvailable(Error &error)
 {
-    if (m_renderer.maximumTextureSize() == 0)
-        return u"Effects need OpenGL 3.3, which this machine does not offer."_s;
-    return m_renderer.failureCount() > 0 ? u"An effect could not be rendered."_s : QString();
+    return m_renderer.maximumTextureSize() > 0
+        || error.fail(u"Effects need OpenGL 3.3, which this machine does not offer."_s);
 }
 
-std::optional<FilterInstance> effectFromText(const QString &filterId, const QStringList &assignments, QString *problem)
+bool EffectsRendering::hasRenderedAll(Error &error)
+{
+    return isAvailable(error) && (m_renderer.failureCount() == 0 || error.fail(u"An effect could not be rendered."_s));
+}
+
+std::optional<FilterInstance> effectFromText(const QString &filterId, const QStringList &assignments, Error &error)
 {
     const FilterRegistry &registry = FilterRegistry::instance();
     const Filter *filter = registry.find(filterId);
@@ -53,13 +52,11 @@ std::optional<FilterInstance> effectFromText(const QString &filterId, const QStr
         for (const auto &known : registry.filters())
             ids.append(known->id());
         ids.sort();
-        *problem = u"unknown effect %1; the effects are %2"_s.arg(filterId, ids.join(", "_L1));
-        return std::nullopt;
+        return error.fail(u"unknown effect %1; the effects are %2"_s.arg(filterId, ids.join(", "_L1)));
     }
     FilterInstance instance{QUuid::createUuid(), filterId, {}, true, false};
     for (const QString &assignment : assignments) {
-        *problem = setParameterFromText(instance.parameters, filter->controls(), assignment);
-        if (!problem->isEmpty())
+        if (!setParameterFromText(instance.parameters, filter->controls(), assignment, error))
             return std::nullopt;
     }
     return instance;

@@ -42,75 +42,75 @@ QSize wishedSize(const QRectF &rectangle, const SizeWish &wish)
     return defaultExportSize(rectangle, limit);
 }
 
-ExportResult exportScene(const SceneSnapshot &snapshot, const ExportWish &wish)
+std::optional<QByteArray> exportScene(const SceneSnapshot &snapshot, const ExportWish &wish, Error &error)
 {
     const QSize size = wishedSize(exportRectangle(snapshot, wish.clipToDocument), wish.size);
-    return exportImage(snapshot, {wish.formatKey, wish.quality, size, wish.clipToDocument});
+    return exportImage(snapshot, {wish.formatKey, wish.quality, size, wish.clipToDocument}, error);
 }
 
-ExportResult exportDocument(const QString &path, const ExportWish &wish, EffectsRendering &rendering)
+std::optional<QByteArray> exportDocument(const QString &path, const ExportWish &wish, EffectsRendering &rendering,
+                                         Error &error)
 {
     Document document;
-    QString error = openDocument(document, path);
-    if (!error.isEmpty())
-        return {{}, error};
-    const std::optional<SceneSnapshot> snapshot = rendering.snapshot(document, &error);
-    return snapshot ? exportScene(*snapshot, wish) : ExportResult{{}, error};
+    if (!openDocument(document, path, error))
+        return std::nullopt;
+    const std::optional<SceneSnapshot> snapshot = rendering.snapshot(document, error);
+    return snapshot ? exportScene(*snapshot, wish, error) : std::nullopt;
 }
 
 /// A picture is a document of one layer, but need not become one when that changes nothing.
-ExportResult exportPicture(const QString &path, const ExportWish &wish)
+std::optional<QByteArray> exportPicture(const QString &path, const ExportWish &wish, Error &error)
 {
     DecodedPicture picture = decodePicture(path);
     if (const auto *raster = std::get_if<RasterImageSource>(&picture.source)) {
         const QSize size = wishedSize(QRectF(QPointF(), raster->image.size()), wish.size);
         const ExportSettings settings{wish.formatKey, wish.quality, size, wish.clipToDocument};
         if (isExportedAsDecoded(raster->image, settings))
-            return exportAsDecoded(raster->image, settings);
+            return exportAsDecoded(raster->image, settings, error);
     }
     Document document;
     ImageImportResult imported = imageLayerFrom(std::move(picture), imageLayerName(path));
     if (imported.layer)
         imported.error = replaceWithImage(document, std::move(imported.layer));
     if (imported.error != ImageImportError::None)
-        return {{}, importErrorText(imported.error)};
-    return exportScene(buildSceneSnapshot(document, {}, nullptr), wish);
+        return error.fail(importErrorText(imported.error));
+    return exportScene(buildSceneSnapshot(document, {}, nullptr), wish, error);
 }
 
-Outcome exportFile(const Job &job, const ExportWish &wish, EffectsRendering &rendering)
+void exportFile(const Job &job, const ExportWish &wish, EffectsRendering &rendering, JobErrors &errors)
 {
     const QuietLibraries quiet;
-    const ExportResult result =
-        hasDocumentSuffix(job.input) ? exportDocument(job.input, wish, rendering) : exportPicture(job.input, wish);
-    if (!result.error.isEmpty())
-        return {job.input, result.error};
-    QString error;
-    writeExportedImage(job.output, result.bytes, &error);
-    return {job.output, error};
+    const std::optional<QByteArray> bytes = hasDocumentSuffix(job.input)
+        ? exportDocument(job.input, wish, rendering, errors.input)
+        : exportPicture(job.input, wish, errors.input);
+    if (bytes)
+        writeExportedImage(job.output, *bytes, errors.output);
 }
 
 } // namespace
 
 ExitStatus runExport(const QStringList &words, const QString &usage)
 {
-    Arguments arguments(words,
-                        {{u"--quality"_s, true},
-                         {u"--width"_s, true},
-                         {u"--height"_s, true},
-                         {u"--max-side"_s, true},
-                         {u"--transparent"_s},
-                         {u"--unclipped"_s},
-                         {u"--into"_s, true},
-                         {u"--format"_s, true}});
+    Error error;
+    const Arguments arguments(words,
+                              {{u"--quality"_s, true},
+                               {u"--width"_s, true},
+                               {u"--height"_s, true},
+                               {u"--max-side"_s, true},
+                               {u"--transparent"_s},
+                               {u"--unclipped"_s},
+                               {u"--into"_s, true},
+                               {u"--format"_s, true}},
+                              error);
     const auto side = [&](const QString &option) {
-        return arguments.number(option, 0, kMinimumExportSide, kMaximumExportSide);
+        return arguments.number(option, 0, kMinimumExportSide, kMaximumExportSide, error);
     };
     ExportWish wish;
-    wish.quality = arguments.number(u"--quality"_s, kDefaultExportQuality, 0, 100);
+    wish.quality = arguments.number(u"--quality"_s, kDefaultExportQuality, 0, 100, error);
     wish.size = {side(u"--width"_s), side(u"--height"_s), side(u"--max-side"_s)};
     wish.clipToDocument = !arguments.has(u"--unclipped"_s);
-    if (!arguments.problem().isEmpty())
-        return wrongUsage(arguments.problem(), usage);
+    if (error.isSet())
+        return wrongUsage(error.message(), usage);
 
     const bool transparent = arguments.has(u"--transparent"_s);
     const QStringList files = arguments.files();
@@ -143,7 +143,7 @@ ExitStatus runExport(const QStringList &words, const QString &usage)
     }
 
     EffectsRendering rendering;
-    runJobs(jobs, console, [&](const Job &job) { return exportFile(job, wish, rendering); });
+    runJobs(jobs, console, [&](const Job &job, JobErrors &errors) { exportFile(job, wish, rendering, errors); });
     return console.finish();
 }
 

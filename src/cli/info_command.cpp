@@ -11,9 +11,10 @@ namespace zm::cli {
 
 ExitStatus runInfo(const QStringList &words, const QString &usage)
 {
-    const Arguments arguments(words, {{u"--json"_s}, {u"--no-digest"_s}});
-    if (!arguments.problem().isEmpty())
-        return wrongUsage(arguments.problem(), usage);
+    Error usageError;
+    const Arguments arguments(words, {{u"--json"_s}, {u"--no-digest"_s}}, usageError);
+    if (usageError.isSet())
+        return wrongUsage(usageError.message(), usage);
     if (arguments.files().isEmpty())
         return wrongUsage(u"no file is named"_s, usage);
 
@@ -22,11 +23,11 @@ ExitStatus runInfo(const QStringList &words, const QString &usage)
     Console console;
     for (const QString &file : arguments.files()) {
         console.progress(file);
-        QString error;
+        Error error;
         const std::optional<DocumentRecords> records =
-            readFileRecords(file, withDigest ? PixelReading::Decode : PixelReading::Skip, &error);
+            readFileRecords(file, withDigest ? PixelReading::Decode : PixelReading::Skip, error);
         if (!records)
-            console.fail(file, error);
+            console.report(file, error);
         else if (json)
             console.print(QString::fromUtf8(
                 QJsonDocument(documentInfo(file, *records, withDigest)).toJson(QJsonDocument::Compact)));

@@ -38,11 +38,14 @@ QList<Job> jobsInto(const QString &folder, const QString &suffix, const QStringL
     return jobs;
 }
 
-void runJobs(const QList<Job> &jobs, Console &console, const std::function<Outcome(const Job &)> &run)
+void runJobs(const QList<Job> &jobs, Console &console, const std::function<void(const Job &, JobErrors &)> &run)
 {
     for (qsizetype i = 0; i < jobs.size(); ++i) {
         console.progress(u"%1 of %2: %3"_s.arg(i + 1).arg(jobs.size()).arg(jobs[i].input));
-        console.report(run(jobs[i]));
+        JobErrors errors;
+        run(jobs[i], errors);
+        console.report(jobs[i].input, errors.input);
+        console.report(jobs[i].output, errors.output);
     }
 }
 

@@ -24,7 +24,14 @@ enum class OwnInput { Protected, Replaceable };
 QList<Job> jobsInto(const QString &folder, const QString &suffix, const QStringList &inputs, OwnInput ownInput,
                     Console &console);
 
+/// What went wrong with the one file and with the other.
+struct JobErrors
+{
+    Error input;
+    Error output;
+};
+
 /// Does one job after the other, showing which, and reports what fails.
-void runJobs(const QList<Job> &jobs, Console &console, const std::function<Outcome(const Job &)> &run);
+void runJobs(const QList<Job> &jobs, Console &console, const std::function<void(const Job &, JobErrors &)> &run);
 
 } // namespace zm::cli

@@ -203,12 +203,12 @@ std::optional<ParameterValue> parameterValueFromText(const ParameterDefinition &
     return accepted && isStorable(*accepted) ? accepted : std::nullopt;
 }
 
-QString setParameterFromText(ParameterValues &values, const QList<ParameterDefinition> &definitions,
-                             const QString &assignment)
+bool setParameterFromText(ParameterValues &values, const QList<ParameterDefinition> &definitions,
+                          const QString &assignment, Error &error)
 {
     const qsizetype equals = assignment.indexOf(u'=');
     if (equals < 0)
-        return u"--set takes KEY=VALUE"_s;
+        return error.fail(u"--set takes KEY=VALUE"_s);
     const QString key = assignment.first(equals);
     const QString text = assignment.sliced(equals + 1);
     const ParameterDefinition *definition = findParameter(definitions, key);
@@ -216,14 +216,14 @@ QString setParameterFromText(ParameterValues &values, const QList<ParameterDefin
         QStringList keys;
         for (const ParameterDefinition &known : definitions)
             keys.append(parameterHead(known).id);
-        return u"unknown key %1; the keys are %2"_s.arg(key, keys.join(", "_L1));
+        return error.fail(u"unknown key %1; the keys are %2"_s.arg(key, keys.join(", "_L1)));
     }
     const std::optional<ParameterValue> value = parameterValueFromText(*definition, text);
     if ((value && values.set(key, *value)) || setPreset(values, *definition, text))
-        return {};
-    const QString problem = u"%1 cannot be \"%2\""_s.arg(key, text);
+        return true;
+    const QString refusal = u"%1 cannot be \"%2\""_s.arg(key, text);
     const QStringList names = namesOf(*definition);
-    return names.isEmpty() ? problem : u"%1; it takes %2"_s.arg(problem, names.join(", "_L1));
+    return error.fail(names.isEmpty() ? refusal : u"%1; it takes %2"_s.arg(refusal, names.join(", "_L1)));
 }
 
 } // namespace zm::cli

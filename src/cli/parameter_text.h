@@ -1,5 +1,6 @@
 #pragma once
 
+#include "base/error.h"
 #include "values/parameter_definition.h"
 
 #include <QString>
@@ -14,9 +15,9 @@ namespace zm::cli {
 /// the control does it. Nothing for a text of another kind and for a button.
 std::optional<ParameterValue> parameterValueFromText(const ParameterDefinition &definition, const QString &text);
 
-/// The same for "KEY=VALUE", put into values; the label of a button's preset sets all that the preset does. Returns a
-/// sentence without a stop when the key is none of the definitions' or the value does not fit, and nothing on success.
-QString setParameterFromText(ParameterValues &values, const QList<ParameterDefinition> &definitions,
-                             const QString &assignment);
+/// The same for "KEY=VALUE", put into values; the label of a button's preset sets all that the preset does. Fails,
+/// without a full stop, when the key is none of the definitions' or the value does not fit.
+bool setParameterFromText(ParameterValues &values, const QList<ParameterDefinition> &definitions,
+                          const QString &assignment, Error &error);
 
 } // namespace zm::cli

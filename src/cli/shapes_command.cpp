@@ -147,9 +147,12 @@ std::optional<QSize> sizeFromText(const QString &text)
 ExitStatus write(const QString &file, const QByteArray &bytes)
 {
     Console console;
-    QString error = u"Could not render the image."_s;
-    if (bytes.isEmpty() || !writeExportedImage(file, bytes, &error))
-        console.fail(file, error);
+    Error error;
+    if (bytes.isEmpty())
+        error.fail(u"Could not render the image."_s);
+    else
+        writeExportedImage(file, bytes, error);
+    console.report(file, error);
     return console.finish();
 }
 
@@ -157,9 +160,10 @@ ExitStatus write(const QString &file, const QByteArray &bytes)
 
 ExitStatus runShapes(const QStringList &words, const QString &usage)
 {
-    const Arguments arguments(words, {{u"--generator"_s, true}, {u"--set"_s, true}, {u"--size"_s, true}});
-    if (!arguments.problem().isEmpty())
-        return wrongUsage(arguments.problem(), usage);
+    Error error;
+    const Arguments arguments(words, {{u"--generator"_s, true}, {u"--set"_s, true}, {u"--size"_s, true}}, error);
+    if (error.isSet())
+        return wrongUsage(error.message(), usage);
     if (arguments.files().size() != 1)
         return wrongUsage(u"one output is needed"_s, usage);
     const QString output = arguments.files().first();
@@ -188,9 +192,8 @@ ExitStatus runShapes(const QStringList &words, const QString &usage)
     ParameterValues values;
     const QStringList assignments = arguments.values(u"--set"_s);
     for (const QString &assignment : assignments) {
-        if (const QString problem = setParameterFromText(values, settableParameters(*generator), assignment);
-            !problem.isEmpty())
-            return wrongUsage(problem, usage);
+        if (!setParameterFromText(values, settableParameters(*generator), assignment, error))
+            return wrongUsage(error.message(), usage);
     }
     QSizeF size = generator->defaultSize();
     QSize pixels = coveringPixels(size * kShapeScale);

@@ -82,12 +82,10 @@ bool DocumentFileController::opensSlowly(const QUrl &url) const
 
 bool DocumentFileController::loadDocument(const QString &path, const QUrl &pairedImageUrl)
 {
-    QString error;
-    std::optional<LoadedDocument> loaded = ZelmoraDocumentIO::readDocumentFile(path, &error);
-    if (!loaded)
-        return fail(error);
-    if (!replaceWithLoaded(*m_document, *std::move(loaded)))
-        return fail(tr("Could not replace the current document."));
+    Error error;
+    std::optional<LoadedDocument> loaded = ZelmoraDocumentIO::readDocumentFile(path, error);
+    if (!loaded || !replaceWithLoaded(*m_document, *std::move(loaded), error))
+        return fail(error.message());
     finishReplacement(absoluteUrl(path), pairedImageUrl);
     emit documentLoaded(m_documentUrl);
     return true;
@@ -112,13 +110,13 @@ bool DocumentFileController::saveTo(const QUrl &url, bool compressImages)
         return fail(tr("Only local files are supported."));
     if (QFileInfo(path).suffix().isEmpty())
         path += u'.' + kDocumentSuffix;
-    QString error;
-    if (!ZelmoraDocumentIO::writeDocumentFile(*m_document, path, compressImages, &error))
-        return fail(error);
+    Error error;
+    if (!ZelmoraDocumentIO::writeDocumentFile(*m_document, path, compressImages, error))
+        return fail(error.message());
     m_commandHistory->setClean();
     const QUrl savedUrl = absoluteUrl(path);
     setUrls(savedUrl, savedUrl == m_documentUrl ? m_pairedImageUrl : QUrl());
-    setError({}, false);
+    setLastError({}, false);
     emit documentSaved(savedUrl);
     return true;
 }
@@ -147,7 +145,7 @@ void DocumentFileController::finishReplacement(const QUrl &documentUrl, const QU
 {
     m_commandHistory->clear();
     setUrls(documentUrl, pairedImageUrl);
-    setError({}, false);
+    setLastError({}, false);
     emit documentReplaced();
 }
 
@@ -172,11 +170,11 @@ void DocumentFileController::setUrls(const QUrl &documentUrl, const QUrl &paired
 
 bool DocumentFileController::fail(const QString &message, bool offersHeifInstallHelp)
 {
-    setError(message, offersHeifInstallHelp);
+    setLastError(message, offersHeifInstallHelp);
     return false;
 }
 
-void DocumentFileController::setError(const QString &message, bool offersHeifInstallHelp)
+void DocumentFileController::setLastError(const QString &message, bool offersHeifInstallHelp)
 {
     if (m_lastError == message && m_lastErrorOffersHeifInstallHelp == offersHeifInstallHelp)
         return;

@@ -81,7 +81,7 @@ private:
     bool fail(const QString &message, bool offersHeifInstallHelp = false);
     void finishReplacement(const QUrl &documentUrl, const QUrl &pairedImageUrl);
     void setUrls(const QUrl &documentUrl, const QUrl &pairedImageUrl);
-    void setError(const QString &message, bool offersHeifInstallHelp);
+    void setLastError(const QString &message, bool offersHeifInstallHelp);
 
     Document *m_document;
     CommandHistory *m_commandHistory;

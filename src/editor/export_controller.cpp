@@ -175,8 +175,9 @@ QUrl ExportController::suggestedFileUrl() const
 bool ExportController::begin(bool clipToDocument)
 {
     const QStringList effects = exportedEffects(*m_document);
-    if (const QString refusal = exportRefusal(effects); !refusal.isEmpty())
-        return fail(refusal);
+    Error error;
+    if (!canExportEffects(effects, error))
+        return fail(error.message());
     if (m_sessionSaveBusy)
         return fail(tr("Wait for the current save to finish."));
     stopPreview();
@@ -185,7 +186,7 @@ bool ExportController::begin(bool clipToDocument)
     m_prefersTransparentExport = zm::prefersTransparentExport(effects);
     m_suggestedName = suggestedName(*m_document);
     takeSettings(clipToDocument);
-    setError({});
+    setLastError({});
     emit settingsChanged();
     requestPreview();
     return true;
@@ -252,21 +253,22 @@ void ExportController::startPreview()
     m_preview.cancelled = std::make_shared<std::atomic_bool>(false);
     m_preview.watcher.setFuture(QtConcurrent::run(
         [snapshot = m_snapshot, settings = m_settings, sequence = m_sequence, cancelled = m_preview.cancelled] {
-            PreviewResult result = exportPreview(snapshot, settings, cancelled.get());
-            result.sequence = sequence;
-            return result;
+            Preview preview{sequence, {}, {}};
+            preview.result = exportPreview(snapshot, settings, preview.error, cancelled.get());
+            return preview;
         }));
 }
 
 void ExportController::finishPreview()
 {
     m_previewRunning = false;
-    PreviewResult result = m_preview.watcher.future().takeResult();
-    if (result.sequence == m_sequence) {
+    Preview preview = m_preview.watcher.future().takeResult();
+    if (preview.sequence == m_sequence) {
         m_answeredSequence = m_sequence;
-        m_encoded = std::move(result.bytes);
-        m_previewError = result.error;
-        showPreview(result.image);
+        m_previewError = preview.error.message();
+        ExportPreview shown = std::move(preview.result).value_or(ExportPreview());
+        m_encoded = std::move(shown.bytes);
+        showPreview(shown.image);
         emit previewStateChanged();
     }
     // A setting that has not come to rest starts the next one by itself.
@@ -317,9 +319,9 @@ bool ExportController::exportTo(const QUrl &url)
     if (documentPath.isEmpty())
         return fail(tr("Choose a filename for the image."));
 
-    QString error;
-    if (!writeExportedImage(path, m_encoded, &error))
-        return fail(error);
+    Error error;
+    if (!writeExportedImage(path, m_encoded, error))
+        return fail(error.message());
     const QUrl documentUrl = QUrl::fromLocalFile(documentPath);
     if (!m_fileController->saveTo(documentUrl, !m_losslessDocumentFile))
         return fail(tr("The image was saved, but the editable .zelmora file could not be saved: %1")
@@ -328,7 +330,7 @@ bool ExportController::exportTo(const QUrl &url)
     m_fileController->setPairedImageUrl(imageUrl);
     m_session = {imageUrl, documentUrl, m_settings, m_rectangle.size(), m_keepAspectRatio, m_losslessDocumentFile};
     end();
-    setError({});
+    setLastError({});
     setLastExportUrl(imageUrl);
     emit sessionExportStateChanged();
     emit saveSucceeded(imageUrl);
@@ -351,7 +353,7 @@ bool ExportController::saveToSessionExport()
 
     m_sessionSaveBusy = true;
     m_savingImageUrl = m_session->imageUrl;
-    setError({});
+    setLastError({});
     emit sessionExportStateChanged();
     SceneSnapshot snapshot = buildSceneSnapshot(*m_document, {}, m_services);
     ExportSettings settings = m_session->settings;
@@ -360,22 +362,25 @@ bool ExportController::saveToSessionExport()
     m_sessionSave.cancelled = std::make_shared<std::atomic_bool>(false);
     m_sessionSave.watcher.setFuture(
         QtConcurrent::run([snapshot = std::move(snapshot), settings, cancelled = m_sessionSave.cancelled] {
-            return exportImage(snapshot, settings, cancelled.get());
+            SavedImage image;
+            image.bytes = exportImage(snapshot, settings, image.error, cancelled.get());
+            return image;
         }));
     return true;
 }
 
 void ExportController::finishSessionSave()
 {
-    const ExportResult result = m_sessionSave.watcher.future().takeResult();
-    QString reason = result.error;
-    if (reason.isEmpty() && result.bytes.isEmpty())
-        reason = tr("The encoder did not produce an image.");
-    const bool written = reason.isEmpty() && writeWholeFile(m_savingImageUrl.toLocalFile(), result.bytes, &reason);
+    SavedImage image = m_sessionSave.watcher.future().takeResult();
+    if (!image.bytes || image.bytes->isEmpty())
+        image.error.fail(tr("The encoder did not produce an image."));
+    const bool written =
+        !image.error.isSet() && writeWholeFile(m_savingImageUrl.toLocalFile(), *image.bytes, image.error);
     m_sessionSaveBusy = false;
     emit sessionExportStateChanged();
     if (!written) {
-        failSessionSave(tr("The editable .zelmora file was saved, but the image could not be updated: %1").arg(reason));
+        failSessionSave(tr("The editable .zelmora file was saved, but the image could not be updated: %1")
+                            .arg(image.error.message()));
         return;
     }
     setLastExportUrl(m_savingImageUrl);
@@ -401,18 +406,18 @@ void ExportController::setLastExportUrl(const QUrl &url)
 
 bool ExportController::fail(const QString &message)
 {
-    setError(message);
+    setLastError(message);
     return false;
 }
 
 bool ExportController::failSessionSave(const QString &message)
 {
-    setError(message);
+    setLastError(message);
     emit sessionSaveFailed(message);
     return false;
 }
 
-void ExportController::setError(const QString &message)
+void ExportController::setLastError(const QString &message)
 {
     if (m_errorString == message)
         return;

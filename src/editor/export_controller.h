@@ -140,6 +140,19 @@ private:
         bool losslessDocumentFile = false;
     };
 
+    /// What the worker answers.
+    struct Preview
+    {
+        quint64 sequence; ///< of the settings that it was asked with
+        std::optional<ExportPreview> result;
+        Error error;
+    };
+    struct SavedImage
+    {
+        std::optional<QByteArray> bytes;
+        Error error;
+    };
+
     /// A job of the worker, and the flag that stops it.
     template<typename Result>
     struct Job
@@ -165,7 +178,7 @@ private:
     void forgetSession();
     bool fail(const QString &message);
     bool failSessionSave(const QString &message);
-    void setError(const QString &message);
+    void setLastError(const QString &message);
 
     Document *m_document;
     DocumentFileController *m_fileController;
@@ -199,8 +212,8 @@ private:
     QString m_errorString;
     QUrl m_lastExportUrl;
 
-    Job<PreviewResult> m_preview;
-    Job<ExportResult> m_sessionSave;
+    Job<Preview> m_preview;
+    Job<SavedImage> m_sessionSave;
 };
 
 } // namespace zm

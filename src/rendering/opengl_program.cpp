@@ -135,10 +135,10 @@ std::unique_ptr<OpenGLProgram> loadProgram(const QString &name, const QString &v
 {
     QStringList errors;
     const auto load = [&](const QString &resource) {
-        QString error;
+        Error error;
         const LoadedShaderStage stage = loadShaderStage(resource, context, error);
         if (stage.code.isEmpty())
-            errors.append(error);
+            errors.append(error.message());
         return stage;
     };
     const LoadedShaderStage vertex = load(vertexResource);

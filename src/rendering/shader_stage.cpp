@@ -39,17 +39,17 @@ void appendUniformPrefix(QList<QByteArray> &prefixes, const QByteArray &name)
         prefixes.append(name);
 }
 
-LoadedShaderStage loadShaderStage(const QString &resourcePath, const QOpenGLContext &context, QString &error)
+LoadedShaderStage loadShaderStage(const QString &resourcePath, const QOpenGLContext &context, Error &error)
 {
     QFile file(resourcePath);
     if (!file.open(QIODevice::ReadOnly)) {
-        error =
-            QCoreApplication::translate("OpenGLProgram", "Could not open %1: %2").arg(resourcePath, file.errorString());
+        error.fail(QCoreApplication::translate("OpenGLProgram", "Could not open %1: %2")
+                       .arg(resourcePath, file.errorString()));
         return {};
     }
     const QShader shader = QShader::fromSerialized(file.readAll());
     if (!shader.isValid()) {
-        error = QCoreApplication::translate("OpenGLProgram", "Invalid serialized QSB shader: %1").arg(resourcePath);
+        error.fail(QCoreApplication::translate("OpenGLProgram", "Invalid serialized QSB shader: %1").arg(resourcePath));
         return {};
     }
 
@@ -73,8 +73,8 @@ LoadedShaderStage loadShaderStage(const QString &resourcePath, const QOpenGLCont
         stage.targetLabel = candidate.label;
         return stage;
     }
-    error = QCoreApplication::translate("OpenGLProgram", "No compatible GLSL variant in %1. Tried: %2")
-                .arg(resourcePath, triedLabels.join(u", "_s));
+    error.fail(QCoreApplication::translate("OpenGLProgram", "No compatible GLSL variant in %1. Tried: %2")
+                   .arg(resourcePath, triedLabels.join(u", "_s)));
     return {};
 }
 

@@ -1,5 +1,7 @@
 #pragma once
 
+#include "base/error.h"
+
 #include <QByteArray>
 #include <QList>
 #include <QString>
@@ -20,7 +22,7 @@ struct LoadedShaderStage
 void appendUniformPrefix(QList<QByteArray> &prefixes, const QByteArray &name);
 
 /// Reads the package at `resourcePath` (the serialized form of QShader) and picks the first GLSL variant that suits
-/// `context`. A failure leaves `code` empty and tells in `error` what is wrong, translated for the log.
-LoadedShaderStage loadShaderStage(const QString &resourcePath, const QOpenGLContext &context, QString &error);
+/// `context`. A failure leaves `code` empty.
+LoadedShaderStage loadShaderStage(const QString &resourcePath, const QOpenGLContext &context, Error &error);
 
 } // namespace zm

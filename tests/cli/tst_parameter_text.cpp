@@ -95,15 +95,16 @@ private slots:
         ParameterValues values;
         values.set(u"old"_s, 1.0);
         values.set(u"kept"_s, 2.0);
-        QCOMPARE(cli::setParameterFromText(values, {button}, u"look=Night"_s), QString());
+        Error error;
+        QVERIFY(cli::setParameterFromText(values, {button}, u"look=Night"_s, error));
         ParameterValues expected;
         expected.set(u"kept"_s, 2.0);
         expected.set(u"tone0"_s, QColor(Qt::black));
         expected.set(u"tone1"_s, QColor(Qt::red));
         expected.set(u"amount"_s, 3.0);
         QVERIFY(values == expected);
-        QCOMPARE(cli::setParameterFromText(values, {button}, u"look=night"_s),
-                 u"look cannot be \"night\"; it takes Night"_s);
+        QVERIFY(!cli::setParameterFromText(values, {button}, u"look=night"_s, error));
+        QCOMPARE(error.message(), u"look cannot be \"night\"; it takes Night"_s);
         QVERIFY(values == expected);
     }
 };

@@ -358,7 +358,8 @@ private slots:
     void effectsGoOnTheTopVisibleLayer()
     {
         Document document;
-        QCOMPARE(openDocument(document, path("all.zelmora")), QString());
+        Error error;
+        QVERIFY2(openDocument(document, path("all.zelmora"), error), qPrintable(error.message()));
         document.setObjectVisible(testId(5), false);
         QVERIFY(ZelmoraDocumentIO::writeDocumentFile(document, path("top.zelmora"), false));
         QCOMPARE(m_program->run("apply --effect bevel top.zelmora top.zelmora"), Run(0));

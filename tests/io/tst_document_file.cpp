@@ -330,8 +330,9 @@ private slots:
         QVERIFY(!read(file, &error));
         QCOMPARE(error, message);
         Pipe pipe(file);
-        QVERIFY(!ZelmoraDocumentIO::readRecords(&pipe, PixelReading::Decode, &error));
-        QCOMPARE(error, message);
+        Error recordsError;
+        QVERIFY(!ZelmoraDocumentIO::readRecords(&pipe, PixelReading::Decode, recordsError));
+        QCOMPARE(recordsError.message(), message);
     }
 
     void oldVersionsLimitNoFilterToTheSelection()
@@ -449,10 +450,10 @@ private slots:
         Document document;
         document.insertObject(std::make_unique<ImageLayer>(noisePicture(300, 200, 5), u"large"_s, testId(1)));
         document.insertObject(std::make_unique<ImageLayer>(noisePicture(3, 2, 5), u"small"_s, testId(2)));
-        QString error;
-        QVERIFY2(ZelmoraDocumentIO::writeDocumentFile(document, path, false, &error), qPrintable(error));
+        Error error;
+        QVERIFY2(ZelmoraDocumentIO::writeDocumentFile(document, path, false, error), qPrintable(error.message()));
         const auto check = [&](const std::optional<DocumentRecords> &records, bool withPixels) {
-            QVERIFY2(records, qPrintable(error));
+            QVERIFY2(records, qPrintable(error.message()));
             QCOMPARE(records->formatVersion, 5U);
             QCOMPARE(records->layers.size(), size_t(2));
             for (const LayerRecord &layer : records->layers) {
@@ -466,18 +467,19 @@ private slots:
         };
         for (const PixelReading pixels : {PixelReading::Decode, PixelReading::Skip}) {
             const bool withPixels = pixels == PixelReading::Decode;
-            check(ZelmoraDocumentIO::readRecordsFile(path, pixels, &error), withPixels);
+            check(ZelmoraDocumentIO::readRecordsFile(path, pixels, error), withPixels);
             QFile file(path);
             QVERIFY(file.open(QIODevice::ReadOnly));
             QByteArray bytes = "before" + file.readAll();
             QBuffer buffer(&bytes);
             QVERIFY(buffer.open(QIODevice::ReadOnly) && buffer.seek(6));
-            check(ZelmoraDocumentIO::readRecords(&buffer, pixels, &error), withPixels);
+            check(ZelmoraDocumentIO::readRecords(&buffer, pixels, error), withPixels);
             Pipe pipe(bytes.sliced(6));
-            check(ZelmoraDocumentIO::readRecords(&pipe, pixels, &error), withPixels);
+            check(ZelmoraDocumentIO::readRecords(&pipe, pixels, error), withPixels);
             bytes.chop(1);
-            QVERIFY(buffer.seek(6) && !ZelmoraDocumentIO::readRecords(&buffer, pixels, &error));
-            QCOMPARE(error, truncated());
+            Error cut;
+            QVERIFY(buffer.seek(6) && !ZelmoraDocumentIO::readRecords(&buffer, pixels, cut));
+            QCOMPARE(cut.message(), truncated());
         }
     }
 
@@ -488,8 +490,9 @@ private slots:
         QString error;
         QVERIFY(!ZelmoraDocumentIO::readDocumentFile(missing, &error));
         QCOMPARE(error, u"Could not open %1 for reading: No such file or directory"_s.arg(missing));
-        QVERIFY(!ZelmoraDocumentIO::readRecordsFile(folder.path(), PixelReading::Skip, &error));
-        QVERIFY(error.startsWith(u"Could not open %1 for reading: "_s.arg(folder.path())));
+        Error folderError;
+        QVERIFY(!ZelmoraDocumentIO::readRecordsFile(folder.path(), PixelReading::Skip, folderError));
+        QVERIFY(folderError.message().startsWith(u"Could not open %1 for reading: "_s.arg(folder.path())));
     }
 };
 

@@ -26,6 +26,13 @@ SceneSnapshot snapshotOf(const QImage &image, const QColor &background = Qt::whi
     return buildSceneSnapshot(document, {}, nullptr);
 }
 
+/// Empty when the export fails.
+QByteArray exported(const SceneSnapshot &scene, const ExportSettings &settings)
+{
+    Error error;
+    return exportImage(scene, settings, error).value_or(QByteArray());
+}
+
 /// The chunks of a WebP file in order, by their names.
 QByteArrayList chunkNames(const QByteArray &file)
 {
@@ -131,7 +138,10 @@ private slots:
         for (const QString &key : {u"jpeg"_s, u"png"_s, u"webp"_s}) {
             const ExportSettings settings{key, kDefaultExportQuality, decoded.size()};
             QVERIFY(isExportedAsDecoded(decoded, settings));
-            QCOMPARE(exportAsDecoded(decoded, settings).bytes, exportImage(snapshotOf(decoded), settings).bytes);
+            Error error;
+            const std::optional<QByteArray> bytes = exportAsDecoded(decoded, settings, error);
+            QVERIFY2(bytes, qPrintable(error.message()));
+            QCOMPARE(*bytes, exported(snapshotOf(decoded), settings));
             QVERIFY(!isExportedAsDecoded(decoded.convertToFormat(QImage::Format_ARGB32), settings));
         }
         QVERIFY(!isExportedAsDecoded(decoded, {u"png"_s, kDefaultExportQuality, {54, 37}}));
@@ -145,7 +155,7 @@ private slots:
         const SceneSnapshot scene = snapshotOf(test::plainPicture(32, 32, half), Qt::blue);
         for (const QString &key :
              {u"png"_s, u"pngTransparent"_s, u"webp"_s, u"webpTransparent"_s, u"jpeg"_s, u"tiff"_s}) {
-            const QImage read = QImage::fromData(exportImage(scene, {key, kDefaultExportQuality, {32, 32}}).bytes);
+            const QImage read = QImage::fromData(exported(scene, {key, kDefaultExportQuality, {32, 32}}));
             const bool transparent = key.endsWith(u"Transparent");
             QCOMPARE(read.hasAlphaChannel(), transparent);
             const QImage expected = test::plainPicture(32, 32, transparent ? half : overBlue);
@@ -179,17 +189,18 @@ private slots:
     {
         const QImage picture = test::gradientPicture(20, 16);
         const SceneSnapshot scene = snapshotOf(picture);
-        const QImage enlarged = QImage::fromData(exportImage(scene, {u"png"_s, kDefaultExportQuality, {40, 32}}).bytes);
+        const QImage enlarged = QImage::fromData(exported(scene, {u"png"_s, kDefaultExportQuality, {40, 32}}));
         const QImage expected = picture.scaled(40, 32, Qt::IgnoreAspectRatio, Qt::SmoothTransformation);
         QCOMPARE(test::maximumDifference(enlarged, expected), 0);
-        QCOMPARE(QImage::fromData(exportImage(scene, {u"jpeg"_s, kDefaultExportQuality, {17, 99}}).bytes).size(),
-                 QSize(17, 99));
+        QCOMPARE(QImage::fromData(exported(scene, {u"jpeg"_s, kDefaultExportQuality, {17, 99}})).size(), QSize(17, 99));
 
-        const ExportResult tooWide = exportImage(scene, {u"webp"_s, kDefaultExportQuality, {16'384, 16}});
-        QVERIFY(tooWide.bytes.isEmpty() && tooWide.error.startsWith(u"Could not encode the saved image: "_s));
+        Error tooWide;
+        QVERIFY(!exportImage(scene, {u"webp"_s, kDefaultExportQuality, {16'384, 16}}, tooWide));
+        QVERIFY2(tooWide.message().startsWith(u"Could not encode the saved image: "_s), qPrintable(tooWide.message()));
         const std::atomic_bool cancelled = true;
-        const ExportResult none = exportImage(scene, {u"png"_s, kDefaultExportQuality, {20, 20}}, &cancelled);
-        QVERIFY(none.cancelled && none.bytes.isEmpty() && none.error.isEmpty());
+        Error none;
+        QVERIFY(!exportImage(scene, {u"png"_s, kDefaultExportQuality, {20, 20}}, none, &cancelled));
+        QVERIFY(!none.isSet());
     }
 
     void suffixesChooseFormats()
@@ -205,21 +216,26 @@ private slots:
     void failedWritesLeaveNothing()
     {
         QTemporaryDir folder;
-        QString error;
-        QVERIFY(writeExportedImage(folder.filePath(u"a.png"_s), "bytes", &error));
-        QVERIFY(!writeExportedImage(folder.filePath(u"none/a.png"_s), "bytes", &error));
-        QVERIFY2(error.startsWith(u"Could not save the image: "_s), qPrintable(error));
-        QVERIFY(!writeExportedImage(folder.path(), "bytes", &error));
+        Error none;
+        QVERIFY(writeExportedImage(folder.filePath(u"a.png"_s), "bytes", none));
+        QVERIFY(!none.isSet());
+        Error noFolder;
+        QVERIFY(!writeExportedImage(folder.filePath(u"none/a.png"_s), "bytes", noFolder));
+        QVERIFY2(noFolder.message().startsWith(u"Could not save the image: "_s), qPrintable(noFolder.message()));
+        Error folderItself;
+        QVERIFY(!writeExportedImage(folder.path(), "bytes", folderItself));
+        QVERIFY(folderItself.isSet());
         QVERIFY(QFile::link(u"/dev/null"_s, folder.filePath(u"device.png"_s)));
-        QVERIFY(!writeExportedImage(folder.filePath(u"device.png"_s), "bytes", &error));
-        QCOMPARE(error, u"Could not save the image: The target is not a regular file."_s);
+        Error device;
+        QVERIFY(!writeExportedImage(folder.filePath(u"device.png"_s), "bytes", device));
+        QCOMPARE(device.message(), u"Could not save the image: The target is not a regular file."_s);
         QCOMPARE(QDir(folder.path()).entryList(QDir::Files | QDir::System | QDir::Hidden).size(), 2);
     }
 
     void jpegTagReplacesWhatWasThere()
     {
         const SceneSnapshot scene = snapshotOf(test::gradientPicture(20, 20));
-        QByteArray file = exportImage(scene, {u"jpeg"_s, kDefaultExportQuality, {20, 20}}).bytes;
+        QByteArray file = exported(scene, {u"jpeg"_s, kDefaultExportQuality, {20, 20}});
         QCOMPARE(file.count("Exif"), 1);
         const qsizetype tiff = file.indexOf("Exif") + 6;
         // One entry: Software, ASCII, 16 bytes at offset 26 of the little-endian TIFF.
@@ -234,7 +250,7 @@ private slots:
     {
         const SceneSnapshot scene = snapshotOf(test::plainPicture(40, 20, QColor(9, 9, 9, 99)));
         for (const QString &key : {u"webp"_s, u"webpTransparent"_s}) {
-            const QByteArray file = exportImage(scene, {key, kDefaultExportQuality, {40, 20}}).bytes;
+            const QByteArray file = exported(scene, {key, kDefaultExportQuality, {40, 20}});
             const QByteArrayList names = chunkNames(file);
             QVERIFY2(names.startsWith("VP8X") && names.endsWith("EXIF"), names.join(' '));
             QCOMPARE(QImage::fromData(file).size(), QSize(40, 20));

@@ -81,9 +81,9 @@ private slots:
         context.setFormat(format);
         if (!context.create() || context.isOpenGLES() != embedded)
             QSKIP("This machine gives no context of this kind.");
-        QString error;
+        Error error;
         const LoadedShaderStage stage = loadShaderStage(kGaussian, context, error);
-        QCOMPARE(error, QString());
+        QCOMPARE(error.message(), QString());
         QTEST(stage.targetLabel, "label");
         QVERIFY(stage.code.startsWith(head));
         // The instance of the struct comes first: its fields are what a lookup by name finds.
@@ -115,11 +115,11 @@ private slots:
         QFETCH(QString, error);
         const QString path = m_folder.filePath(u"unfit.qsb"_s);
         QVERIFY(bytes.isEmpty() || writeFile(path, bytes));
-        QString told;
+        Error told;
         const LoadedShaderStage stage = loadShaderStage(path, m_context.context(), told);
-        QCOMPARE(told, error.replace(u"%1"_s, path));
+        QCOMPARE(told.message(), error.replace(u"%1"_s, path));
         QTEST(stage.targetLabel, "label");
-        QCOMPARE(stage.code.isEmpty(), !told.isEmpty());
+        QCOMPARE(stage.code.isEmpty(), told.isSet());
     }
 
     void twoUnreadableStagesAreOneReport()

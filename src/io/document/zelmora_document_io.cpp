@@ -12,44 +12,15 @@ namespace zm {
 
 namespace {
 
-void report(const Error &error, QString *message)
+/// Does what has an Error for a caller who has a string, or none.
+template<typename Step>
+auto reported(QString *message, const Step &step)
 {
+    Error error;
+    auto result = step(error);
     if (message)
         *message = error.message();
-}
-
-std::optional<LoadedDocument> load(QIODevice &source, Error &error)
-{
-    LoadedDocument document;
-    const auto takeLayer = [&document](LayerRecord record, Error &layerError) {
-        std::unique_ptr<Layer> layer = layerFrom(std::move(record), layerError);
-        if (!layer)
-            return false;
-        document.layers.push_back(std::move(layer));
-        return true;
-    };
-    const std::optional<DocumentHeader> header = readDocumentSections(source, PixelReading::Decode, takeLayer, error);
-    if (!header)
-        return std::nullopt;
-    document.documentSize = header->documentSize;
-    document.backgroundColor = header->backgroundColor;
-    return document;
-}
-
-std::optional<DocumentRecords> loadRecords(QIODevice &source, PixelReading pixels, Error &error)
-{
-    DocumentRecords records;
-    const auto takeLayer = [&records](LayerRecord record, Error &) {
-        records.layers.push_back(std::move(record));
-        return true;
-    };
-    const std::optional<DocumentHeader> header = readDocumentSections(source, pixels, takeLayer, error);
-    if (!header)
-        return std::nullopt;
-    records.formatVersion = header->formatVersion;
-    records.documentSize = header->documentSize;
-    records.backgroundColor = header->backgroundColor;
-    return records;
+    return result;
 }
 
 bool openForReading(QFile &file, Error &error)
@@ -64,7 +35,80 @@ EmbeddedImageMode imageMode(bool compressImages)
     return compressImages ? EmbeddedImageMode::Compressed : EmbeddedImageMode::Lossless;
 }
 
-bool save(const Document &document, const QString &path, EmbeddedImageMode mode, Error &error)
+} // namespace
+
+std::optional<LoadedDocument> ZelmoraDocumentIO::readDocument(QIODevice *source, Error &error)
+{
+    LoadedDocument document;
+    const auto takeLayer = [&document](LayerRecord record, Error &layerError) {
+        std::unique_ptr<Layer> layer = layerFrom(std::move(record), layerError);
+        if (!layer)
+            return false;
+        document.layers.push_back(std::move(layer));
+        return true;
+    };
+    const std::optional<DocumentHeader> header = readDocumentSections(*source, PixelReading::Decode, takeLayer, error);
+    if (!header)
+        return std::nullopt;
+    document.documentSize = header->documentSize;
+    document.backgroundColor = header->backgroundColor;
+    return document;
+}
+
+std::optional<LoadedDocument> ZelmoraDocumentIO::readDocument(QIODevice *source, QString *errorMessage)
+{
+    return reported(errorMessage, [&](Error &error) { return readDocument(source, error); });
+}
+
+std::optional<LoadedDocument> ZelmoraDocumentIO::readDocumentFile(const QString &path, Error &error)
+{
+    QFile file(path);
+    return openForReading(file, error) ? readDocument(&file, error) : std::nullopt;
+}
+
+std::optional<LoadedDocument> ZelmoraDocumentIO::readDocumentFile(const QString &path, QString *errorMessage)
+{
+    return reported(errorMessage, [&](Error &error) { return readDocumentFile(path, error); });
+}
+
+std::optional<DocumentRecords> ZelmoraDocumentIO::readRecords(QIODevice *source, PixelReading pixels, Error &error)
+{
+    DocumentRecords records;
+    const auto takeLayer = [&records](LayerRecord record, Error &) {
+        records.layers.push_back(std::move(record));
+        return true;
+    };
+    const std::optional<DocumentHeader> header = readDocumentSections(*source, pixels, takeLayer, error);
+    if (!header)
+        return std::nullopt;
+    records.formatVersion = header->formatVersion;
+    records.documentSize = header->documentSize;
+    records.backgroundColor = header->backgroundColor;
+    return records;
+}
+
+std::optional<DocumentRecords> ZelmoraDocumentIO::readRecordsFile(const QString &path, PixelReading pixels,
+                                                                  Error &error)
+{
+    QFile file(path);
+    return openForReading(file, error) ? readRecords(&file, pixels, error) : std::nullopt;
+}
+
+bool ZelmoraDocumentIO::writeDocument(const Document &document, QIODevice *destination, bool compressImages,
+                                      Error &error)
+{
+    return writeDocumentSections(document, *destination, imageMode(compressImages), error);
+}
+
+bool ZelmoraDocumentIO::writeDocument(const Document &document, QIODevice *destination, bool compressImages,
+                                      QString *errorMessage)
+{
+    return reported(errorMessage,
+                    [&](Error &error) { return writeDocument(document, destination, compressImages, error); });
+}
+
+bool ZelmoraDocumentIO::writeDocumentFile(const Document &document, const QString &path, bool compressImages,
+                                          Error &error)
 {
     const auto failToOpen = [&](const QString &reason) {
         return error.fail(FileMessage::tr("Could not open %1 for writing: %2").arg(path, reason));
@@ -74,7 +118,7 @@ bool save(const Document &document, const QString &path, EmbeddedImageMode mode,
     QSaveFile file(path);
     if (!file.open(QIODevice::WriteOnly))
         return failToOpen(file.errorString());
-    if (!writeDocumentSections(document, file, mode, error)) {
+    if (!writeDocumentSections(document, file, imageMode(compressImages), error)) {
         file.cancelWriting();
         return false;
     }
@@ -83,64 +127,11 @@ bool save(const Document &document, const QString &path, EmbeddedImageMode mode,
     return true;
 }
 
-} // namespace
-
-std::optional<LoadedDocument> ZelmoraDocumentIO::readDocument(QIODevice *source, QString *errorMessage)
-{
-    Error error;
-    std::optional<LoadedDocument> document = load(*source, error);
-    report(error, errorMessage);
-    return document;
-}
-
-std::optional<LoadedDocument> ZelmoraDocumentIO::readDocumentFile(const QString &path, QString *errorMessage)
-{
-    Error error;
-    QFile file(path);
-    std::optional<LoadedDocument> document;
-    if (openForReading(file, error))
-        document = load(file, error);
-    report(error, errorMessage);
-    return document;
-}
-
-std::optional<DocumentRecords> ZelmoraDocumentIO::readRecords(QIODevice *source, PixelReading pixels,
-                                                              QString *errorMessage)
-{
-    Error error;
-    std::optional<DocumentRecords> records = loadRecords(*source, pixels, error);
-    report(error, errorMessage);
-    return records;
-}
-
-std::optional<DocumentRecords> ZelmoraDocumentIO::readRecordsFile(const QString &path, PixelReading pixels,
-                                                                  QString *errorMessage)
-{
-    Error error;
-    QFile file(path);
-    std::optional<DocumentRecords> records;
-    if (openForReading(file, error))
-        records = loadRecords(file, pixels, error);
-    report(error, errorMessage);
-    return records;
-}
-
-bool ZelmoraDocumentIO::writeDocument(const Document &document, QIODevice *destination, bool compressImages,
-                                      QString *errorMessage)
-{
-    Error error;
-    const bool written = writeDocumentSections(document, *destination, imageMode(compressImages), error);
-    report(error, errorMessage);
-    return written;
-}
-
 bool ZelmoraDocumentIO::writeDocumentFile(const Document &document, const QString &path, bool compressImages,
                                           QString *errorMessage)
 {
-    Error error;
-    const bool saved = save(document, path, imageMode(compressImages), error);
-    report(error, errorMessage);
-    return saved;
+    return reported(errorMessage,
+                    [&](Error &error) { return writeDocumentFile(document, path, compressImages, error); });
 }
 
 } // namespace zm

@@ -33,13 +33,13 @@ QStringList exportedEffects(const Document &document)
     return ids;
 }
 
-QString exportRefusal(const QStringList &effectIds)
+bool canExportEffects(const QStringList &effectIds, Error &error)
 {
     if (!effectIds.contains(kStyleTransferId))
-        return {};
-    return QCoreApplication::translate("zm::ExportController",
-                                       "An enabled style transfer filter cannot be exported yet. Disable or remove the "
-                                       "filter before exporting.");
+        return true;
+    return error.fail(QCoreApplication::translate("zm::ExportController",
+                                                  "An enabled style transfer filter cannot be exported yet. Disable or "
+                                                  "remove the filter before exporting."));
 }
 
 bool prefersTransparentExport(const QStringList &effectIds)

@@ -1,5 +1,7 @@
 #pragma once
 
+#include "base/error.h"
+
 #include <QStringList>
 
 namespace zm {
@@ -9,8 +11,8 @@ class Document;
 /// The ids of the enabled effects on visible layers, from the bottom up: what is hidden is not exported.
 QStringList exportedEffects(const Document &document);
 
-/// Empty for effects that an export can show; else a sentence that tells what it cannot.
-QString exportRefusal(const QStringList &effectIds);
+/// False for effects that an export cannot show.
+bool canExportEffects(const QStringList &effectIds, Error &error);
 
 /// True when one of the effects makes the most of a transparent background.
 bool prefersTransparentExport(const QStringList &effectIds);

@@ -87,17 +87,17 @@ QString encodingFailure(Purpose purpose, const QString &reason)
     return exportText(pattern).arg(reason);
 }
 
-ExportResult encode(const QImage &image, const ExportFormat &format, int quality, Purpose purpose,
-                    const std::atomic_bool *cancelled)
+std::optional<QByteArray> encode(const QImage &image, const ExportFormat &format, int quality, Purpose purpose,
+                                 const std::atomic_bool *cancelled, Error &error)
 {
-    ExportResult result;
+    QByteArray bytes;
     // PNG, packed as tightly as it goes, takes many seconds. The other writers are quick, and would warn of a full
     // disk.
     const bool isPng = format.writerFormat == "png";
-    EncodingBuffer buffer(&result.bytes, isPng ? cancelled : nullptr);
+    EncodingBuffer buffer(&bytes, isPng ? cancelled : nullptr);
     if (!buffer.open(QIODevice::WriteOnly))
-        return {{},
-                exportText(QT_TRANSLATE_NOOP("zm::ExportController", "Could not create the in-memory image buffer."))};
+        return error.fail(
+            exportText(QT_TRANSLATE_NOOP("zm::ExportController", "Could not create the in-memory image buffer.")));
     QImageWriter writer(&buffer, format.writerFormat);
     if (isPng)
         writer.setCompression(100);
@@ -105,54 +105,52 @@ ExportResult encode(const QImage &image, const ExportFormat &format, int quality
         writer.setQuality(std::clamp(quality, 0, 100));
     const bool written = writer.write(image);
     if (cancelled && cancelled->load())
-        return {{}, {}, true};
+        return std::nullopt;
     if (!written)
-        return {{}, encodingFailure(purpose, writer.errorString())};
-    embedSoftwareTag(result.bytes, format.writerFormat, u"Zelmora Atelier"_s);
-    return result;
+        return error.fail(encodingFailure(purpose, writer.errorString()));
+    embedSoftwareTag(bytes, format.writerFormat, u"Zelmora Atelier"_s);
+    return bytes;
 }
 
-ExportResult renderAndEncode(const SceneSnapshot &snapshot, const ExportSettings &settings, Purpose purpose,
-                             const std::atomic_bool *cancelled)
+std::optional<QByteArray> renderAndEncode(const SceneSnapshot &snapshot, const ExportSettings &settings,
+                                          Purpose purpose, const std::atomic_bool *cancelled, Error &error)
 {
     const auto isCancelled = [cancelled] { return cancelled && cancelled->load(); };
-    const ExportResult stopped{{}, {}, true};
     const ExportFormat format = exportFormat(settings.formatKey);
 
     if (isCancelled())
-        return stopped;
+        return std::nullopt;
     SceneSnapshot scene = snapshot;
     if (format.transparent)
         scene.backgroundColor.setAlpha(0);
     QImage image = renderFlattened(scene, settings, exportRectangle(scene, settings.clipToDocument));
     if (image.isNull())
-        return {{}, exportText(QT_TRANSLATE_NOOP("zm::ExportController", "Could not render the image."))};
+        return error.fail(exportText(QT_TRANSLATE_NOOP("zm::ExportController", "Could not render the image.")));
     if (isCancelled())
-        return stopped;
+        return std::nullopt;
     if (image.size() != settings.size)
         image = image.scaled(settings.size, Qt::IgnoreAspectRatio, Qt::SmoothTransformation);
     if (isCancelled())
-        return stopped;
+        return std::nullopt;
     // Alpha is dropped, and its colour kept, where the format does not ask for it.
     if (!format.transparent)
         image = pixelsReadAs(image, QImage::Format_RGBX8888);
-    return encode(image, format, settings.quality, purpose, cancelled);
+    return encode(image, format, settings.quality, purpose, cancelled, error);
 }
 
-QImage decodeAgain(QByteArray &bytes, const QByteArray &format, QString *error)
+std::optional<QImage> decodeAgain(QByteArray &bytes, const QByteArray &format, Error &error)
 {
     QBuffer buffer(&bytes);
-    if (!buffer.open(QIODevice::ReadOnly)) {
-        *error = exportText(QT_TRANSLATE_NOOP("zm::ExportController", "Could not reopen the in-memory image buffer."));
-        return {};
-    }
+    if (!buffer.open(QIODevice::ReadOnly))
+        return error.fail(
+            exportText(QT_TRANSLATE_NOOP("zm::ExportController", "Could not reopen the in-memory image buffer.")));
     QImageReader reader(&buffer, format);
     reader.setAutoTransform(false);
     const QImage image = reader.read();
-    if (image.isNull()) {
-        *error = exportText(QT_TRANSLATE_NOOP("zm::ExportController", "Could not decode the encoded preview: %1"))
-                     .arg(reader.errorString());
-    }
+    if (image.isNull())
+        return error.fail(
+            exportText(QT_TRANSLATE_NOOP("zm::ExportController", "Could not decode the encoded preview: %1"))
+                .arg(reader.errorString()));
     return image;
 }
 
@@ -234,23 +232,22 @@ QSize exportSizeForHeight(const QRectF &rectangle, int height, int maximumSide)
     return scaledExportSize(rectangle, height / rectangle.height(), maximumSide);
 }
 
-ExportResult exportImage(const SceneSnapshot &snapshot, const ExportSettings &settings,
-                         const std::atomic_bool *cancelled)
+std::optional<QByteArray> exportImage(const SceneSnapshot &snapshot, const ExportSettings &settings, Error &error,
+                                      const std::atomic_bool *cancelled)
 {
-    return renderAndEncode(snapshot, settings, Purpose::Save, cancelled);
+    return renderAndEncode(snapshot, settings, Purpose::Save, cancelled, error);
 }
 
-PreviewResult exportPreview(const SceneSnapshot &snapshot, const ExportSettings &settings,
-                            const std::atomic_bool *cancelled)
+std::optional<ExportPreview> exportPreview(const SceneSnapshot &snapshot, const ExportSettings &settings, Error &error,
+                                           const std::atomic_bool *cancelled)
 {
-    PreviewResult result;
-    static_cast<ExportResult &>(result) = renderAndEncode(snapshot, settings, Purpose::Preview, cancelled);
-    if (result.bytes.isEmpty())
-        return result;
-    result.image = decodeAgain(result.bytes, exportFormat(settings.formatKey).writerFormat, &result.error);
-    if (result.image.isNull())
-        result.bytes.clear();
-    return result;
+    std::optional<QByteArray> bytes = renderAndEncode(snapshot, settings, Purpose::Preview, cancelled, error);
+    if (!bytes)
+        return std::nullopt;
+    std::optional<QImage> image = decodeAgain(*bytes, exportFormat(settings.formatKey).writerFormat, error);
+    if (!image)
+        return std::nullopt;
+    return ExportPreview{*std::move(bytes), *std::move(image)};
 }
 
 bool isExportedAsDecoded(const QImage &picture, const ExportSettings &settings)
@@ -259,33 +256,31 @@ bool isExportedAsDecoded(const QImage &picture, const ExportSettings &settings)
         && !exportFormat(settings.formatKey).transparent;
 }
 
-ExportResult exportAsDecoded(const QImage &picture, const ExportSettings &settings)
+std::optional<QByteArray> exportAsDecoded(const QImage &picture, const ExportSettings &settings, Error &error)
 {
     return encode(pixelsReadAs(picture, picture.format()), exportFormat(settings.formatKey), settings.quality,
-                  Purpose::Save, nullptr);
+                  Purpose::Save, nullptr, error);
 }
 
-bool writeWholeFile(const QString &path, const QByteArray &bytes, QString *reason)
+bool writeWholeFile(const QString &path, const QByteArray &bytes, Error &error)
 {
-    if (!mayBeReplaced(path)) {
-        *reason = exportText(QT_TRANSLATE_NOOP("zm::ExportController", "The target is not a regular file."));
-        return false;
-    }
+    if (!mayBeReplaced(path))
+        return error.fail(exportText(QT_TRANSLATE_NOOP("zm::ExportController", "The target is not a regular file.")));
     QSaveFile file(path);
     if (file.open(QIODevice::WriteOnly) && file.write(bytes) == bytes.size() && file.commit())
         return true;
-    *reason = file.errorString();
+    const QString reason = file.errorString();
     file.cancelWriting();
-    return false;
+    return error.fail(reason);
 }
 
-bool writeExportedImage(const QString &path, const QByteArray &bytes, QString *error)
+bool writeExportedImage(const QString &path, const QByteArray &bytes, Error &error)
 {
-    QString reason;
-    if (writeWholeFile(path, bytes, &reason))
+    Error reason;
+    if (writeWholeFile(path, bytes, reason))
         return true;
-    *error = exportText(QT_TRANSLATE_NOOP("zm::ExportController", "Could not save the image: %1")).arg(reason);
-    return false;
+    return error.fail(
+        exportText(QT_TRANSLATE_NOOP("zm::ExportController", "Could not save the image: %1")).arg(reason.message()));
 }
 
 } // namespace zm

@@ -1,5 +1,6 @@
 #pragma once
 
+#include "base/error.h"
 #include "scene/scene_snapshot.h"
 
 #include <QByteArray>
@@ -59,40 +60,33 @@ struct ExportSettings
     bool clipToDocument = true;
 };
 
-/// The bytes of a finished file, or a sentence that tells why there are none; neither when it was cancelled.
-struct ExportResult
-{
-    QByteArray bytes;
-    QString error;
-    bool cancelled = false;
-};
-
-/// Renders, scales, encodes and tags. May run on any thread; stops between two steps once cancelled is set.
-ExportResult exportImage(const SceneSnapshot &snapshot, const ExportSettings &settings,
-                         const std::atomic_bool *cancelled = nullptr);
+/// The bytes of a finished file: renders, scales, encodes and tags. May run on any thread; stops between two steps once
+/// cancelled is set, and then gives nothing without an error.
+std::optional<QByteArray> exportImage(const SceneSnapshot &snapshot, const ExportSettings &settings, Error &error,
+                                      const std::atomic_bool *cancelled = nullptr);
 
 /// What a preview shows: the bytes as exportImage() gives them, and the picture that they decode to, with the losses of
 /// its format.
-struct PreviewResult : ExportResult
+struct ExportPreview
 {
+    QByteArray bytes;
     QImage image;
-    /// Tells the asker which of its requests this answers.
-    quint64 sequence = 0;
 };
 
-/// The same, decoded again. The bytes are those of the finished file.
-PreviewResult exportPreview(const SceneSnapshot &snapshot, const ExportSettings &settings,
-                            const std::atomic_bool *cancelled = nullptr);
+/// The same, decoded again.
+std::optional<ExportPreview> exportPreview(const SceneSnapshot &snapshot, const ExportSettings &settings, Error &error,
+                                           const std::atomic_bool *cancelled = nullptr);
 
 /// A document that is nothing but this decoded picture would export pixel for pixel as the picture: it is opaque, keeps
 /// its size, and no transparency is asked for.
 bool isExportedAsDecoded(const QImage &picture, const ExportSettings &settings);
 /// Exports such a picture without the way through a document's pixel format and back to the encoder's.
-ExportResult exportAsDecoded(const QImage &picture, const ExportSettings &settings);
+std::optional<QByteArray> exportAsDecoded(const QImage &picture, const ExportSettings &settings, Error &error);
 
-/// Puts the bytes into the file, all or nothing: a failure leaves what was there, and its reason.
-bool writeWholeFile(const QString &path, const QByteArray &bytes, QString *reason);
-/// The same, with a sentence in error.
-bool writeExportedImage(const QString &path, const QByteArray &bytes, QString *error);
+/// Puts the bytes into the file, all or nothing: a failure leaves what was there. Its error is the bare reason, to be
+/// put into a sentence.
+bool writeWholeFile(const QString &path, const QByteArray &bytes, Error &error);
+/// The same, with a sentence of its own.
+bool writeExportedImage(const QString &path, const QByteArray &bytes, Error &error);
 
 } // namespace zm
