@@ -2,6 +2,7 @@
 #include "cli/commands.h"
 #include "cli/effect_description.h"
 #include "cli/effects_rendering.h"
+#include "cli/jobs.h"
 #include "cli/quiet_libraries.h"
 #include "filters/description/filter_catalog.h"
 #include "filters/filter_registry.h"
@@ -133,6 +134,8 @@ void renderSheet(const QString &folder, const QString &input, Console &console)
         error.fail(importErrorText(imported.error));
         return fail(input, error);
     }
+    if (!makeFolder(folder, error))
+        return fail(folder, error);
     const RenderedContent content = imported.layer->renderedContent(nullptr);
     const QImage picture = reducedPicture(content.image);
 

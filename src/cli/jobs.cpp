@@ -4,15 +4,26 @@
 #include <QFileInfo>
 #include <QSet>
 
+#include <filesystem>
+
 using namespace Qt::StringLiterals;
 
 namespace zm::cli {
 
+bool makeFolder(const QString &folder, Error &error)
+{
+    // Qt would not tell why it failed.
+    std::error_code code;
+    std::filesystem::create_directories(QFileInfo(folder).filesystemFilePath(), code);
+    return QFileInfo(folder).isDir()
+        || error.fail(u"Could not make the folder: %1"_s.arg(QString::fromStdString(code.message())));
+}
+
 QList<Job> jobsInto(const QString &folder, const QString &suffix, const QStringList &inputs, OwnInput ownInput,
                     Console &console)
 {
-    if (!QFileInfo(folder).isDir()) {
-        console.fail(folder, u"Choose an existing folder."_s);
+    if (Error error; !makeFolder(folder, error)) {
+        console.report(folder, error);
         return {};
     }
     QSet<QString> inputFiles;

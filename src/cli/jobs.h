@@ -19,8 +19,12 @@ struct Job
 /// Whether a result may take the place of the very input that it was made from.
 enum class OwnInput { Protected, Replaceable };
 
-/// One output in the folder for each input, under the input's base name. An output that is an input, or that an earlier
-/// input has taken, is a failure of that input: a batch must not lose a picture. Without the folder there are no jobs.
+/// Makes the folder, with those above it, unless it is there.
+bool makeFolder(const QString &folder, Error &error);
+
+/// One output in the folder, which is made, for each input, under the input's base name. An output that is an input, or
+/// that an earlier input has taken, is a failure of that input: a batch must not lose a picture. Without the folder
+/// there are no jobs.
 QList<Job> jobsInto(const QString &folder, const QString &suffix, const QStringList &inputs, OwnInput ownInput,
                     Console &console);
 

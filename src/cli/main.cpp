@@ -32,13 +32,13 @@ QList<Command> commands()
          "       zelmora export [options] --into DIR [--format jpeg|webp|webpTransparent|png|pngTransparent] "
          "INPUT..."_s,
          u"Writes flattened pictures of documents and pictures; an output's suffix (jpg, webp, png) gives its "
-         "format."_s,
+         "format. --into makes its folder."_s,
          runExport},
         {u"convert"_s,
          u"zelmora convert [--lossy] INPUT OUTPUT.zelmora\n"
          "       zelmora convert [--lossy] --into DIR INPUT..."_s,
          u"Makes editable documents of pictures, SVG files and documents. Pixels are kept exactly, or with --lossy "
-         "in less room."_s,
+         "in less room. --into makes its folder."_s,
          runConvert},
         {u"apply"_s, u"zelmora apply --effect ID [--set KEY=VALUE]... [--effect ID ...] INPUT OUTPUT"_s,
          u"Puts effects, the first one first, on a picture or on the top visible layer of a document. An output that "

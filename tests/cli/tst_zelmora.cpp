@@ -49,7 +49,9 @@ private slots:
             {"info --json cut.png", "cut.png: Could not load the selected image file."},
             {"export photo.jpg folder.png", "folder.png: Could not save the image: Filename refers to a directory"},
             {"export photo.jpg none/out.png", "none/out.png: Could not save the image: No such file or directory"},
-            {"export --into none photo.jpg tiny.png", "none: Choose an existing folder."},
+            {"export --into photo.jpg tiny.png", "photo.jpg: Could not make the folder: Not a directory"},
+            {"convert --into photo.jpg/out tiny.png", "photo.jpg/out: Could not make the folder: Not a directory"},
+            {"effects --sheet photo.jpg/out tiny.png", "photo.jpg/out: Could not make the folder: Not a directory"},
             {"convert photo.jpg none/out.zelmora",
              "none/out.zelmora: Could not open none/out.zelmora for writing: No such file or directory"},
             {"convert empty.png out.zelmora", "empty.png: Could not load the selected image file."},
@@ -157,9 +159,16 @@ private slots:
         QVERIFY(result.pixelColor(20, 150).green() > result.pixelColor(180, 150).green());
     }
 
+    void intoMakesItsFolder()
+    {
+        QCOMPARE(zelmora("export --into new/pictures/ photo.jpg"), Run(0));
+        QCOMPARE(zelmora("convert --into new/documents photo.jpg"), Run(0));
+        QCOMPARE(QImage(path("new/pictures/photo.jpg")).size(), QImage(path("photo.jpg")).size());
+        QVERIFY(QFile::exists(path("new/documents/photo.zelmora")));
+    }
+
     void oneBadInputDoesNotStopTheOthers()
     {
-        QVERIFY(m_program->makeFolder("out"));
         QCOMPARE(zelmora("export --into out --format webp photo.jpg empty.png tiny.png ./tiny.png"),
                  Run(1, {},
                      u"zelmora: ./tiny.png: The output out/tiny.webp would replace another file of this call.\n"
