@@ -4,7 +4,7 @@
 
 namespace zm {
 
-/// Swaps a layer's whole filter list, whatever was done to it.
+/// Swaps a layer's whole list of effects, whatever was done to it.
 class SetLayerFiltersCommand : public StateCommand<QList<FilterInstance>, Layer>
 {
 public:

@@ -15,7 +15,7 @@ struct RenderServices;
 
 enum class LayerType { Image = 0, Text = 1, Shape = 2 };
 
-/// A layer's pixels before filters, in QImage::Format_RGBA8888, and the logical size in layer units that they stand
+/// A layer's pixels before effects, in QImage::Format_RGBA8888, and the logical size in layer units that they stand
 /// for. The two differ when a fractional size was rendered to whole pixels.
 struct RenderedContent
 {
@@ -27,7 +27,7 @@ struct RenderedContent
 /// beyond what a raster may have.
 QImage transparentContentImage(const QSizeF &size);
 
-/// A scene object with content that can be drawn and a stack of filters over it.
+/// A scene object with content that can be drawn and a stack of effects over it.
 class Layer : public SceneObject
 {
 public:
@@ -35,7 +35,7 @@ public:
     ~Layer() override;
 
     virtual LayerType layerType() const = 0;
-    /// Draws the content at its own resolution, without filters and without the transform.
+    /// Draws the content at its own resolution, without effects and without the transform.
     virtual RenderedContent renderContent(const RenderServices *services) const = 0;
 
     /// The content's pixels, drawn again only when the content or the services changed since the last call.
@@ -45,7 +45,7 @@ public:
     /// Returns whether something changed; compares field by field.
     bool setFilters(const QList<FilterInstance> &filters);
 
-    /// Grows when the content changes, and not with placement, filters, name or visibility.
+    /// Grows when the content changes, and not with placement, effects, name or visibility.
     quint64 contentRevision() const { return m_contentRevision; }
 
 protected:

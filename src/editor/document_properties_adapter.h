@@ -44,7 +44,7 @@ public:
     Q_INVOKABLE void beginInspectorEdit() { m_mergeScope.begin(); }
     Q_INVOKABLE void endInspectorEdit() { m_mergeScope.end(); }
 
-    /// Makes the document just hold what its visible layers show after their filters, in whole units; layers keep
+    /// Makes the document just hold what its visible layers show after their effects, in whole units; layers keep
     /// their places among each other. One undo step. False when nothing shows or it fits already.
     Q_INVOKABLE bool fitWorkareaToContent();
     /// Shows the colour of a picker that is open; the accepted one becomes one undo step, and a rejected picker leaves

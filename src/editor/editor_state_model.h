@@ -37,10 +37,10 @@ public:
         ExposureBrush = 7,
         RasterFill = 8, ///< a click fills the raster selection
         TextEdit = 9,
-        MaskEdit = 10, ///< paint a filter's mask
+        MaskEdit = 10, ///< paint an effect's mask
         Crop = 11,
         Skew = 12,
-        MaskTransform = 13, ///< place a filter's mask shape
+        MaskTransform = 13, ///< place an effect's mask shape
         GradientPosition = 14,
         RasterRectangleSelection = 15,
         RasterEllipseSelection = 16,

@@ -82,7 +82,7 @@ public:
     void setLosslessDocumentFile(bool lossless);
     bool clipToDocument() const { return m_settings.clipToDocument; }
     bool transparentBackground() const;
-    /// A filter that shows asks for a transparent background.
+    /// An effect that shows asks for a transparent background.
     bool prefersTransparentExport() const { return m_prefersTransparentExport; }
 
     /// Named after the first picture of the document, beside the file that it is.

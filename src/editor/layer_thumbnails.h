@@ -16,9 +16,9 @@ class LayerThumbnailStore;
 class ScenePresentationModel;
 struct RenderServices;
 
-/// Keeps a small picture of every layer: its look after filters, upright and without its placement, as the scene model
-/// has rendered it anyway, so that no filter runs for a thumbnail. A layer that is not in the scene keeps its last one
-/// or shows its content without filters.
+/// Keeps a small picture of every layer: its look after effects, upright and without its placement, as the scene model
+/// has rendered it anyway, so that no effect runs for a thumbnail. A layer that is not in the scene keeps its last one
+/// or shows its content without effects.
 ///
 /// Cost: noticing a change is one comparison of keys a layer, at most once in kDelayMs; reducing runs on a worker, one
 /// job at a time. On the main thread only the content of hidden layers that were never shown is drawn, few at a time.

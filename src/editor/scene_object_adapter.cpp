@@ -283,9 +283,9 @@ void SceneObjectAdapter::setPivot(Axis axis, double fraction)
     if (!std::isfinite(fraction))
         return;
     const ObjectTransform transform = selectedTransform();
-    setSelectedTransform(
-        withPivot(transform, withComponent(transform.anchor(), axis, fraction), QRectF(QPointF(), selectedLayerSize())),
-        tr("Set Transform Pivot"));
+    setSelectedTransform(withAnchor(transform, withComponent(transform.anchor(), axis, fraction),
+                                    QRectF(QPointF(), selectedLayerSize())),
+                         tr("Set Transform Pivot"));
 }
 
 void SceneObjectAdapter::setScale(Axis axis, double scale, bool preserveAspect)

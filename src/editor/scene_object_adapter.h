@@ -98,7 +98,7 @@ public:
     void setScaleX(double scale) { setScale(Axis::X, scale, false); }
     double scaleY() const;
     void setScaleY(double scale) { setScale(Axis::Y, scale, false); }
-    /// Document units: the sides of the layer's own box, before filters, as its scale draws them; turning and skewing
+    /// Document units: the sides of the layer's own box, before effects, as its scale draws them; turning and skewing
     /// do not count. Setters change the scale, keep it mirrored, and raise a side to at least 1.
     double layerWidth() const;
     void setLayerWidth(double width) { setSide(Axis::X, width, false); }

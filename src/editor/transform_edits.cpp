@@ -18,10 +18,10 @@ ObjectTransform withScale(ObjectTransform transform, Axis axis, double scale, bo
     return transform;
 }
 
-ObjectTransform withPivot(ObjectTransform transform, const QPointF &pivot, const QRectF &box)
+ObjectTransform withAnchor(ObjectTransform transform, const QPointF &anchor, const QRectF &box)
 {
     const QPointF cornerBefore = transform.matrix(box).map(box.topLeft());
-    transform.setAnchor(pivot);
+    transform.setAnchor(anchor);
     const QPointF cornerAfter = transform.matrix(box).map(box.topLeft());
     transform.setPosition(transform.position() + cornerBefore - cornerAfter);
     return transform;

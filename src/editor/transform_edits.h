@@ -28,7 +28,7 @@ inline QPointF withComponent(const QPointF &point, Axis axis, double value)
 ObjectTransform withScale(ObjectTransform transform, Axis axis, double scale, bool preserveAspect);
 
 /// Turns and scales about another point from now on, and leaves the object where it shows. The box is the object's
-/// own; a pivot is in fractions of it.
-ObjectTransform withPivot(ObjectTransform transform, const QPointF &pivot, const QRectF &box);
+/// own; an anchor is in fractions of it.
+ObjectTransform withAnchor(ObjectTransform transform, const QPointF &anchor, const QRectF &box);
 
 } // namespace zm

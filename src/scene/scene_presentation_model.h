@@ -55,7 +55,7 @@ public:
     /// A layer is selected and in the picture.
     bool hasSelection() const;
     QRectF selectionRect() const { return m_selectionRect; }
-    /// After filters; invalid without a selection in the picture.
+    /// After effects; invalid without a selection in the picture.
     QSize selectedLayerPixelSize() const { return m_selectedLayerPixelSize; }
     /// A layer that is left out of the picture because something else draws it; null for none.
     QUuid suppressedObjectId() const { return m_suppressedObjectId; }

@@ -13,7 +13,7 @@ namespace zm {
 class Document;
 struct RenderServices;
 
-/// A visible layer as it is composed: the pixels after its filters, and where they go.
+/// A visible layer as it is composed: the pixels after its effects, and where they go.
 struct SceneRenderItem
 {
     QUuid objectId;
@@ -22,7 +22,7 @@ struct SceneRenderItem
     QString blendMode;
     /// QImage::Format_RGBA8888; null where nothing could be rendered, and then nothing is painted.
     QImage image;
-    /// What image covers, in the layer's units: larger than the layer, and not at (0, 0), when a filter grew it.
+    /// What image covers, in the layer's units: larger than the layer, and not at (0, 0), when an effect grew it.
     QSizeF imageSize;
     QPointF imageOrigin;
     /// The layer's own size, which the anchor of the transform refers to.
@@ -39,7 +39,7 @@ struct SceneSnapshot
     QList<SceneRenderItem> items;
 };
 
-/// Takes every visible layer but excludedId, and runs its filters over its cached content. Null services mean that
+/// Takes every visible layer but excludedId, and runs its effects over its cached content. Null services mean that
 /// there is no GPU. On the main thread only.
 SceneSnapshot buildSceneSnapshot(const Document &document, const QUuid &excludedId, const RenderServices *services);
 

@@ -6,7 +6,7 @@
 
 namespace zm {
 
-/// One use of a filter on a layer. The filter is named by id, so that a document with an effect that this version does
+/// One use of an effect on a layer. The effect is named by id, so that a document with an effect that this version does
 /// not know still loads and keeps it.
 struct FilterInstance
 {

@@ -8,7 +8,7 @@
 
 namespace zm {
 
-/// One stored value of a filter's or generator's control. The order of the alternatives follows the type codes of the
+/// One stored value of an effect's or generator's control. The order of the alternatives follows the type codes of the
 /// document file.
 using ParameterValue = std::variant<bool, qint64, double, QColor, QString, AssetName, EnabledColor, Stroke,
                                     GradientPosition, MaskTransform, ShapeMask, LightSources>;

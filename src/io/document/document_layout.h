@@ -10,7 +10,7 @@ namespace zm {
 inline constexpr QByteArrayView kDocumentMagic("ZMDC");
 inline constexpr QByteArrayView kSectionMagic("ZMSC");
 inline constexpr quint32 kDocumentFormatVersion = 5;
-/// The first version that tells whether a filter is limited to the selection.
+/// The first version that tells whether an effect is limited to the selection.
 inline constexpr quint32 kFilterSelectionFormatVersion = 4;
 /// Pixels.
 inline constexpr quint32 kMaximumDocumentSide = 1'000'000;

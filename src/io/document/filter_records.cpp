@@ -18,7 +18,7 @@ constexpr quint32 kRecordVersion = 1;
 constexpr quint32 kEnabledFlag = 1;
 constexpr quint32 kSelectionFlag = 2;
 
-/// What documents keep of a filter's controls.
+/// What documents keep of an effect's controls.
 struct StoredControls
 {
     QSet<QString> keys;
@@ -48,7 +48,7 @@ QHash<QString, StoredControls> controlsOfAllFilters()
     return all;
 }
 
-/// Null for a filter that this program does not know, or that has no controls: it keeps all of its values.
+/// Null for an effect that this program does not know, or that has no controls: it keeps all of its values.
 const StoredControls *storedControls(const QString &filterId)
 {
     static const QHash<QString, StoredControls> all = controlsOfAllFilters();
@@ -73,7 +73,7 @@ void migrateFadeTarget(ParameterValues &values)
     values.set(colorKey, color);
 }
 
-/// What the filter defines, with its defaults where the file has no value. Filters without values share one map:
+/// What the effect defines, with its defaults where the file has no value. Effects without values share one map:
 /// a short record must not take a long list's memory.
 ParameterValues definedValues(const QString &filterId, const ParameterValues &stored)
 {

@@ -5,11 +5,11 @@
 
 namespace zm {
 
-/// One filter of a stack: its id, flags and values, never pixels.
+/// One effect of a stack: its id, flags and values, never pixels.
 std::optional<QByteArray> encodeFilter(const FilterInstance &instance, Error &error);
 
-/// Takes one record. The values of a filter that this program knows are completed with its defaults, and those that it
-/// does not define are dropped; an unknown filter keeps all. Old files do not tell whether a filter is limited to the
+/// Takes one record. The values of an effect that this program knows are completed with its defaults, and those that it
+/// does not define are dropped; an unknown effect keeps all. Old files do not tell whether an effect is limited to the
 /// selection.
 std::optional<FilterInstance> decodeFilter(ByteReader &reader, bool honourSelectionFlag, Error &error);
 

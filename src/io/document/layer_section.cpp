@@ -20,8 +20,8 @@ struct Placement
     QPointF position;
     QPointF scale;
     double rotation;
-    QPointF skew;
-    QPointF origin;
+    QPointF shear;
+    QPointF anchor;
 };
 
 Placement placementOf(const Layer &layer)
@@ -43,8 +43,8 @@ void setPlacement(QByteArray &header, const Placement &placement)
     setPoint(header, 48, placement.position);
     setPoint(header, 64, placement.scale);
     setF64(header, 80, placement.rotation);
-    setPoint(header, 88, placement.skew);
-    setPoint(header, 104, placement.origin);
+    setPoint(header, 88, placement.shear);
+    setPoint(header, 104, placement.anchor);
 }
 
 // False for NaN, as are the checks below.
@@ -70,11 +70,11 @@ bool isValid(const Placement &placement)
     const auto isScale = [](double value) {
         return std::isfinite(value) && std::abs(value) >= ObjectTransform::kMinimumScale;
     };
-    const auto isSkew = [](double value) {
+    const auto isShear = [](double value) {
         return isWithin(value, -ObjectTransform::kMaximumShear, ObjectTransform::kMaximumShear);
     };
     return isFraction(placement.opacity) && both(placement.position, isFinite) && both(placement.scale, isScale)
-        && isFinite(placement.rotation) && both(placement.skew, isSkew) && both(placement.origin, isFraction);
+        && isFinite(placement.rotation) && both(placement.shear, isShear) && both(placement.anchor, isFraction);
 }
 
 ObjectTransform transformFrom(const Placement &placement)
@@ -83,8 +83,8 @@ ObjectTransform transformFrom(const Placement &placement)
     transform.setPosition(placement.position);
     transform.setScale(placement.scale);
     transform.setRotation(placement.rotation);
-    transform.setShear(placement.skew);
-    transform.setAnchor(placement.origin);
+    transform.setShear(placement.shear);
+    transform.setAnchor(placement.anchor);
     return transform;
 }
 
@@ -123,7 +123,7 @@ std::optional<LayerContent> decodeContent(quint32 type, QByteArrayView record, P
     }
 }
 
-/// The filters' records one after the other.
+/// The effects' records one after the other.
 std::optional<QByteArray> encodeFilters(const QList<FilterInstance> &filters, Error &error)
 {
     if (filters.size() > kMaximumFileCount)

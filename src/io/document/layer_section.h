@@ -27,7 +27,7 @@ SectionType sectionType(const Layer &layer);
 std::optional<QByteArray> encodeLayerSection(const Layer &layer, EmbeddedImageMode mode, Error &error);
 
 /// The layer in the payload of a section of that type. honourFilterSelectionFlag is false for the versions of the
-/// format that did not limit filters to the selection.
+/// format that did not limit effects to the selection.
 std::unique_ptr<Layer> decodeLayerSection(quint32 type, QByteArrayView payload, bool honourFilterSelectionFlag,
                                           Error &error);
 /// The same before it becomes a layer.

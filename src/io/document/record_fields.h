@@ -18,7 +18,7 @@ namespace zm {
 
 /// The longest text of a file, bytes.
 inline constexpr qsizetype kMaximumFileTextSize = 0x1000000;
-/// The most filters of a layer, parameters of a filter, contours of a path, and of everything else that is counted.
+/// The most effects of a layer, parameters of an effect, contours of a path, and of everything else that is counted.
 inline constexpr quint32 kMaximumFileCount = 1'000'000;
 /// The longest section, bytes.
 inline constexpr qsizetype kMaximumSectionSize = 0x40000000;
