@@ -39,14 +39,17 @@ public:
     {
         if (m_message.isEmpty())
             m_message = message;
+        m_isSet = true;
         return {};
     }
-    bool isSet() const { return !m_message.isEmpty(); }
+    /// Also true when a failure had nothing to say, as a device sometimes has.
+    bool isSet() const { return m_isSet; }
     /// Empty while nothing failed.
     const QString &message() const { return m_message; }
 
 private:
     QString m_message;
+    bool m_isSet = false;
 };
 
 } // namespace zm

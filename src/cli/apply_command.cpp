@@ -86,7 +86,7 @@ ExitStatus runApply(const QStringList &words, const QString &usage)
     Error error;
     const Arguments arguments(words, {{u"--effect"_s, true}, {u"--set"_s, true}}, error);
     const std::optional<QList<FilterInstance>> effects = effectsFrom(arguments, error);
-    const QStringList files = arguments.files();
+    const QStringList &files = arguments.files();
     if (files.size() != 2)
         error.fail(u"one input and one output are needed"_s);
     QString formatKey;

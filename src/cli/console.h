@@ -19,7 +19,7 @@ public:
     void print(const QString &text);
     /// One line "zelmora: FILE: MESSAGE".
     void fail(const QString &file, const QString &message);
-    /// The same, unless the error is not set.
+    /// The same, if the error is set.
     void report(const QString &file, const Error &error);
     /// A line that the next message or progress replaces.
     void progress(const QString &text);

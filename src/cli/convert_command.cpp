@@ -28,7 +28,7 @@ ExitStatus runConvert(const QStringList &words, const QString &usage)
     if (error.isSet())
         return wrongUsage(error.message(), usage);
 
-    const QStringList files = arguments.files();
+    const QStringList &files = arguments.files();
     Console console;
     QList<Job> jobs;
     if (arguments.has(u"--into"_s)) {

@@ -113,7 +113,7 @@ ExitStatus runExport(const QStringList &words, const QString &usage)
         return wrongUsage(error.message(), usage);
 
     const bool transparent = arguments.has(u"--transparent"_s);
-    const QStringList files = arguments.files();
+    const QStringList &files = arguments.files();
     Console console;
     QList<Job> jobs;
     if (arguments.has(u"--into"_s)) {

@@ -419,9 +419,9 @@ bool ExportController::failSessionSave(const QString &message)
 
 void ExportController::setLastError(const QString &message)
 {
-    if (m_errorString == message)
+    if (m_lastError == message)
         return;
-    m_errorString = message;
+    m_lastError = message;
     emit errorStringChanged();
 }
 

@@ -101,7 +101,7 @@ public:
     QUrl previewSource() const { return m_previewSource; }
 
     /// Empty after a success.
-    QString errorString() const { return m_errorString; }
+    QString errorString() const { return m_lastError; }
     /// The last picture that was written.
     QUrl lastExportUrl() const { return m_lastExportUrl; }
     /// There is an export of this document that saveToSessionExport() can repeat.
@@ -209,7 +209,7 @@ private:
     std::optional<SessionExport> m_session;
     QUrl m_savingImageUrl;
     bool m_sessionSaveBusy = false;
-    QString m_errorString;
+    QString m_lastError;
     QUrl m_lastExportUrl;
 
     Job<Preview> m_preview;

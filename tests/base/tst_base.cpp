@@ -1,3 +1,4 @@
+#include "base/error.h"
 #include "base/fuzzy.h"
 #include "base/pixel_limits.h"
 
@@ -6,6 +7,7 @@
 #include <limits>
 
 using namespace zm;
+using namespace Qt::StringLiterals;
 
 class TestBase : public QObject
 {
@@ -35,6 +37,19 @@ private slots:
         QCOMPARE(fuzzyEqual(b, a), equal);
         QCOMPARE(fuzzyEqual(QPointF(a, 1), QPointF(b, 1)), equal);
         QCOMPARE(fuzzyEqual(QRectF(0, 0, 1, a), QRectF(0, 0, 1, b)), equal);
+    }
+
+    void errorsKeepTheFirstSentenceAndEveryFailure()
+    {
+        Error error;
+        QVERIFY(!error.isSet());
+        const bool failed = error.fail(QString());
+        QVERIFY(!failed && error.isSet());
+        const std::optional<int> nothing = error.fail(u"in detail"_s);
+        QVERIFY(!nothing);
+        const std::unique_ptr<int> null = error.fail(u"in general"_s);
+        QVERIFY(!null);
+        QCOMPARE(error.message(), u"in detail"_s);
     }
 
     void picturesEndAtThePixelLimit()
