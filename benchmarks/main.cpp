@@ -33,6 +33,7 @@ constexpr BenchGroup kGroups[] = {
     {"text"_L1, zm::bench::benchText},           {"export"_L1, zm::bench::benchExport},
     {"documents"_L1, zm::bench::benchDocuments}, {"shapes"_L1, zm::bench::benchShapes},
     {"start"_L1, zm::bench::benchStartup},       {"window"_L1, zm::bench::benchWindow},
+    {"controls"_L1, zm::bench::benchControls},
 };
 
 void print(const QList<zm::bench::BenchRow> &rows)

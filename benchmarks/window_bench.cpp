@@ -7,7 +7,9 @@ using namespace Qt::StringLiterals;
 
 namespace zm::bench {
 
-QList<BenchRow> benchWindow()
+namespace {
+
+QList<BenchRow> benchPart(const QString &part)
 {
     const QTemporaryDir home;
     const bool hasDisplay = qEnvironmentVariableIsSet("DISPLAY") || qEnvironmentVariableIsSet("WAYLAND_DISPLAY");
@@ -19,7 +21,7 @@ QList<BenchRow> benchWindow()
     QProcess process;
     process.setProcessEnvironment(environment);
     process.setProcessChannelMode(QProcess::ForwardedErrorChannel);
-    process.start(QStringLiteral(WINDOW_CHILD_PROGRAM), {home.path()});
+    process.start(QStringLiteral(WINDOW_CHILD_PROGRAM), {home.path(), part});
     process.waitForFinished(-1);
 
     QList<BenchRow> rows;
@@ -29,6 +31,18 @@ QList<BenchRow> benchWindow()
             rows.append({QString::fromUtf8(fields[0]), fields[1].toDouble(), QString::fromUtf8(fields[2])});
     }
     return rows;
+}
+
+} // namespace
+
+QList<BenchRow> benchWindow()
+{
+    return benchPart(u"window"_s);
+}
+
+QList<BenchRow> benchControls()
+{
+    return benchPart(u"controls"_s);
 }
 
 } // namespace zm::bench

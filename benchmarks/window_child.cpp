@@ -1,5 +1,5 @@
-// Measures the real window and prints a line for each figure: name, milliseconds and note, separated by tabs. The one
-// argument is a folder for files.
+// Measures the real window and prints a line for each figure: name, milliseconds and note, separated by tabs. The
+// arguments are a folder for files and what to measure: window or controls.
 
 #include "application/application.h"
 #include "application/application_context.h"
@@ -8,9 +8,11 @@
 #include "io/image_allocation.h"
 #include "pictures.h"
 
+#include <QFile>
 #include <QImageReader>
 #include <QLoggingCategory>
 #include <QQmlApplicationEngine>
+#include <QQmlComponent>
 #include <QQmlContext>
 #include <QQuickItem>
 #include <QQuickWindow>
@@ -28,6 +30,7 @@ using namespace zm;
 namespace {
 
 constexpr int kRuns = 9;
+constexpr int kCreations = 60;
 constexpr int kLayers = 100;
 constexpr QSize kPhotograph(6000, 4000);
 constexpr QSize kDocument(1920, 1080);
@@ -161,7 +164,7 @@ void benchAnswer(const QString &name, const Frames &frames, Work &&work)
           u"goal 16 ms; %1 ms until it is on the screen"_s.arg(untilFrame[kRuns / 2], 0, 'f', 1));
 }
 
-void benchLayers(ApplicationContext &context, QQuickWindow *window, const Frames &frames)
+void makeLayers(ApplicationContext &context, QQuickWindow *window, const Frames &frames)
 {
     context.documentFileController.resetDocument(kDocument.width(), kDocument.height(), Qt::white);
     for (int index = 0; index < kLayers; ++index) {
@@ -173,6 +176,12 @@ void benchLayers(ApplicationContext &context, QQuickWindow *window, const Frames
     }
     QMetaObject::invokeMethod(window, "fitDocument");
     context.document.selectObject(context.document.objectAt(kLayers - 1)->id());
+    frames.settle();
+}
+
+void benchLayers(ApplicationContext &context, QQuickWindow *window, const Frames &frames)
+{
+    makeLayers(context, window, frames);
     if (QQuickItem *tab = itemNamed(window, "text", u"Layer"_s))
         QMetaObject::invokeMethod(tab, "click");
     frames.settle();
@@ -183,6 +192,74 @@ void benchLayers(ApplicationContext &context, QQuickWindow *window, const Frames
     benchAnswer(u"hide or show a layer of 100"_s, frames,
                 [&](int run) { adapter.setLayerHidden(id(kLayers - 1), run % 2 == 0); });
     benchAnswer(u"rename a layer of 100"_s, frames, [&](int run) { adapter.setName(u"Name %1"_s.arg(run)); });
+}
+
+/// Does at once what the next frame would do first: layouts give their items places and sizes.
+void layOut(QQuickItem *item)
+{
+    item->ensurePolished();
+    for (QQuickItem *child : item->childItems())
+        layOut(child);
+}
+
+/// Creates an item in the window and lays it out, many times. Some of the items are also drawn, which is not counted.
+void benchCreation(const QString &name, const QString &goal, QQmlComponent &component, QQuickWindow *window,
+                   const Frames &frames)
+{
+    QList<double> times;
+    for (int run = 0; run < kCreations; ++run) {
+        QElapsedTimer timer;
+        timer.start();
+        auto *item = qobject_cast<QQuickItem *>(component.beginCreate(component.engine()->rootContext()));
+        if (!item) {
+            std::fprintf(stderr, "%s\n", qUtf8Printable(component.errorString()));
+            return;
+        }
+        item->setParentItem(window->contentItem());
+        component.completeCreate();
+        layOut(item);
+        times.append(elapsedMs(timer));
+        if (run % 8 == 0)
+            frames.waitForNext();
+        delete item;
+    }
+    std::ranges::sort(times);
+    print(u"create %1"_s.arg(name), times[kCreations / 2],
+          u"%1best of %2: %3 ms"_s.arg(goal).arg(kCreations).arg(times.first(), 0, 'f', 3));
+}
+
+void benchControls(QQmlEngine &engine, QQuickWindow *window, const Frames &frames)
+{
+    frames.settle();
+    QQmlComponent card(&engine, QUrl(u"qrc:/EffectCard.qml"_s));
+    benchCreation(u"the card of an effect: 8 sliders and more"_s, u"goal 5 ms; "_s, card, window, frames);
+
+    const std::pair<QString, QByteArray> controls[] = {
+        {u"a slider"_s, "ZmSlider { value: 0.5 }"},
+        {u"a number field"_s, "NumericInput { value: 12.5; decimals: 1; unit: 'px' }"},
+        {u"a select box"_s, "ZmSelectBox { options: [{ text: 'One', value: 1 }]; value: 1 }"},
+        {u"a colour button"_s, "ColorPickerButton {}"},
+        {u"a small icon button"_s, "ZmIconButton { size: 26; icon.name: 'close'; toolTip: 'Remove' }"},
+        {u"a row with a label"_s, "InspectorRow { label: 'Strength' }"},
+    };
+    for (const auto &[name, source] : controls) {
+        QQmlComponent component(&engine);
+        component.setData("import QtQuick\nimport ZelmoraAtelier\n" + source, {});
+        benchCreation(name, {}, component, window, frames);
+    }
+}
+
+void benchFacts(ApplicationContext &context, QQuickWindow *window, const Frames &frames)
+{
+    makeLayers(context, window, frames);
+    const auto id = [&](int index) { return context.document.objectAt(index)->id().toString(); };
+    benchAnswer(u"select another layer, its facts shown"_s, frames,
+                [&](int run) { context.sceneObjectAdapter.selectLayer(id(run)); });
+    benchAnswer(u"select none and again one, facts shown"_s, frames, [&](int run) {
+        context.document.clearSelection();
+        QCoreApplication::sendPostedEvents();
+        context.sceneObjectAdapter.selectLayer(id(run));
+    });
 }
 
 void benchPreview(ApplicationContext &context, QQuickWindow *window, const Frames &frames, const QString &photograph)
@@ -236,10 +313,15 @@ int main(int argc, char **argv)
     setContextProperties(*engine.rootContext(), application, context);
     engine.loadFromModule("ZelmoraAtelier"_L1, "Main"_L1);
     auto *window = qobject_cast<QQuickWindow *>(engine.rootObjects().value(0));
-    if (!window || argc < 2)
+    if (!window || argc < 3)
         return 1;
     const Frames frames(window, context.scenePresentationModel);
     frames.settle();
+    if (QByteArrayView(argv[2]) == "controls") {
+        benchControls(engine, window, frames);
+        benchFacts(context, window, frames);
+        return 0;
+    }
     const QString photograph = QString::fromLocal8Bit(argv[1]) + "/photograph.jpg"_L1;
     benchOpening(context, window, frames, photograph);
     benchLayers(context, window, frames);
