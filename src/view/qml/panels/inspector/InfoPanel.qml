@@ -1,8 +1,10 @@
+pragma ComponentBehavior: Bound
+
 import QtQuick
 import ZelmoraAtelier
 
-// What is selected: a layer, or the document when no layer is.
-Loader {
+// What is selected: a layer, or the document when no layer is. Both panels are kept once they are made.
+Item {
     id: root
 
     required property SceneObjectAdapter sceneObjectAdapter
@@ -10,20 +12,20 @@ Loader {
     required property size layerPixelSize
     required property string kind
 
-    sourceComponent: sceneObjectAdapter.hasSelection ? layerSummary : documentPanel
+    InspectorPanelLoader {
+        anchors.fill: parent
+        shown: !root.sceneObjectAdapter.hasSelection
 
-    Component {
-        id: documentPanel
-
-        DocumentPanel {
+        sourceComponent: DocumentPanel {
             documentPropertiesAdapter: root.documentPropertiesAdapter
         }
     }
 
-    Component {
-        id: layerSummary
+    InspectorPanelLoader {
+        anchors.fill: parent
+        shown: root.sceneObjectAdapter.hasSelection
 
-        LayerSummary {
+        sourceComponent: LayerSummary {
             sceneObjectAdapter: root.sceneObjectAdapter
             layerPixelSize: root.layerPixelSize
             kind: root.kind
