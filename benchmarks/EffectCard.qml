@@ -64,13 +64,10 @@ ColumnLayout {
         Repeater {
             model: ["visibility_on", "swap", "close"]
 
-            ZmIconButton {
+            ZmSmallIconButton {
                 required property string modelData
 
-                size: 26
                 icon.name: modelData
-                icon.width: Theme.iconSize
-                icon.height: Theme.iconSize
                 toolTip: modelData
             }
         }

@@ -239,7 +239,7 @@ void benchControls(QQmlEngine &engine, QQuickWindow *window, const Frames &frame
         {u"a number field"_s, "NumericInput { value: 12.5; decimals: 1; unit: 'px' }"},
         {u"a select box"_s, "ZmSelectBox { options: [{ text: 'One', value: 1 }]; value: 1 }"},
         {u"a colour button"_s, "ColorPickerButton {}"},
-        {u"a small icon button"_s, "ZmIconButton { size: 26; icon.name: 'close'; toolTip: 'Remove' }"},
+        {u"a small icon button"_s, "ZmSmallIconButton { icon.name: 'close'; toolTip: 'Remove' }"},
         {u"a row with a label"_s, "InspectorRow { label: 'Strength' }"},
     };
     for (const auto &[name, source] : controls) {

@@ -163,15 +163,13 @@ ZmDialog {
                         color: Theme.surface
                     }
 
-                    ZmIconButton {
+                    ZmSmallIconButton {
                         id: linkButton
 
                         anchors.verticalCenter: parent.verticalCenter
                         size: Theme.controlHeight
                         focusPolicy: Qt.StrongFocus     // a field that is being typed into takes its text over first
                         icon.name: root.controller.keepAspectRatio ? "link" : "unlink"
-                        icon.width: Theme.iconSize
-                        icon.height: Theme.iconSize
                         checked: root.controller.keepAspectRatio
                         toolTip: qsTr("Keep the proportions")
                         Accessible.role: Accessible.CheckBox

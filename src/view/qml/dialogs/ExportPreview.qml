@@ -263,11 +263,9 @@ ColumnLayout {
     RowLayout {
         spacing: Theme.spaceXS
 
-        ZmIconButton {
+        ZmSmallIconButton {
             size: Theme.controlHeight
             icon.name: "zoom_out"
-            icon.width: Theme.iconSize
-            icon.height: Theme.iconSize
             toolTip: qsTr("Zoom out")
             enabled: root.zoom > root.minimumZoom
             onClicked: root.zoomBy(1 / root.zoomStep)
@@ -281,11 +279,9 @@ ColumnLayout {
             color: Theme.mutedText
         }
 
-        ZmIconButton {
+        ZmSmallIconButton {
             size: Theme.controlHeight
             icon.name: "zoom_in"
-            icon.width: Theme.iconSize
-            icon.height: Theme.iconSize
             toolTip: qsTr("Zoom in")
             enabled: root.zoom < root.maximumZoom
             onClicked: root.zoomBy(root.zoomStep)

@@ -202,12 +202,10 @@ ZmDialog {
                     onEdited: value => root.setSize(Math.round(value), root.documentHeight)
                 }
 
-                ZmIconButton {
+                ZmSmallIconButton {
                     size: Theme.controlHeight
                     focusPolicy: Qt.StrongFocus     // a field that is being typed into takes its text over first
                     icon.name: "swap"
-                    icon.width: Theme.iconSize
-                    icon.height: Theme.iconSize
                     toolTip: qsTr("Swap width and height")
                     onClicked: root.setSize(root.documentHeight, root.documentWidth)
                 }

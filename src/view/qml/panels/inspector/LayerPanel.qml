@@ -55,9 +55,9 @@ Item {
             Layout.rightMargin: Theme.spaceL
             title: qsTr("Layers")
             tools: [
-                ToolAction { action: root.actions.moveUp },
-                ToolAction { action: root.actions.moveDown },
-                ToolAction { action: root.actions.remove }
+                ZmSmallIconButton { action: root.actions.moveUp },
+                ZmSmallIconButton { action: root.actions.moveDown },
+                ZmSmallIconButton { action: root.actions.remove }
             ]
         }
 
@@ -79,9 +79,4 @@ Item {
         }
     }
 
-    component ToolAction: ZmIconButton {
-        size: 26
-        icon.width: Theme.iconSize
-        icon.height: Theme.iconSize
-    }
 }

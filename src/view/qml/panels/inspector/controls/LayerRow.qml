@@ -77,12 +77,9 @@ Item {
         anchors.rightMargin: root.endMargin
         spacing: Theme.spaceS
 
-        ZmIconButton {
-            size: 26
+        ZmSmallIconButton {
             focusPolicy: root.buttonFocus
             icon.name: root.hidden ? "visibility_off" : "visibility_on"
-            icon.width: Theme.iconSize
-            icon.height: Theme.iconSize
             icon.color: root.hidden ? Theme.mutedText : Theme.text
             toolTip: root.hidden ? qsTr("Show layer") : qsTr("Hide layer")
             onClicked: root.hiddenRequested(!root.hidden)
@@ -146,12 +143,9 @@ Item {
             visible: root.hasRasterSelection
         }
 
-        ZmIconButton {
-            size: 26
+        ZmSmallIconButton {
             focusPolicy: root.buttonFocus
             icon.name: "collapse_layer_down"
-            icon.width: Theme.iconSize
-            icon.height: Theme.iconSize
             toolTip: qsTr("Merge with layer below")
             enabled: root.selected && (root.mergeAction?.enabled ?? false)
             visible: !root.lifted && root.mergeAction
