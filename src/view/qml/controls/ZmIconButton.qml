@@ -1,4 +1,4 @@
-import QtQuick.Controls
+import QtQuick.Templates as T
 
 // A square tool button that shows only its icon.
 ZmToolButton {
@@ -6,8 +6,7 @@ ZmToolButton {
 
     implicitWidth: size
     implicitHeight: size
-    padding: 0
     leftPadding: 0
     rightPadding: 0
-    display: AbstractButton.IconOnly
+    display: T.AbstractButton.IconOnly
 }

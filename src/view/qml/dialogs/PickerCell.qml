@@ -74,35 +74,10 @@ Item {
         textFormat: Text.PlainText
     }
 
-    HoverHandler { id: hover }
+    HoverHandler {
+        id: hover
 
-    Loader {
-        active: hover.hovered && root.tooltipSource
-
-        sourceComponent: ToolTip {
-            parent: root
-            delay: Application.styleHints.mousePressAndHoldInterval
-            visible: true
-            padding: Theme.spaceS
-            background: PopupSurface {}
-
-            contentItem: Item {
-                implicitWidth: large.paintedWidth
-                implicitHeight: large.paintedHeight
-
-                Image {
-                    id: large
-
-                    anchors.centerIn: parent
-                    width: root.tooltipSize.width
-                    height: root.tooltipSize.height
-                    source: root.tooltipSource
-                    sourceSize: Qt.size(width, height)
-                    fillMode: Image.PreserveAspectFit
-                    asynchronous: true
-                }
-            }
-        }
+        onHoveredChanged: ToolTips.askForPicture(root, hovered ? root.tooltipSource : "", root.tooltipSize)
     }
 
     TapHandler {

@@ -19,11 +19,7 @@ ZmMenu {
 
             text: qsTr("%1. %2").arg(index + 1).arg(root.settings.recentFileDisplayName(modelData).replace(/&/g, "&&"))
             onTriggered: root.fileChosen(modelData)
-
-            ZmToolTip {
-                visible: parent.hovered
-                text: parent.modelData
-            }
+            onHoveredChanged: ToolTips.ask(this, hovered ? modelData : "", true)
         }
         onObjectAdded: (index, item) => root.insertItem(index, item)
         onObjectRemoved: (index, item) => root.removeItem(item)

@@ -42,6 +42,7 @@ Pane {
 
             size: root.buttonSize
             pointedAt: pointer.hovered
+            toolTipBeside: true
         }
 
         HoverHandler { id: pointer }

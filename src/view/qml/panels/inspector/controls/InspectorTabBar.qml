@@ -61,11 +61,8 @@ Rectangle {
                 Keys.onLeftPressed: root.step(index, -1)
                 Keys.onRightPressed: root.step(index, 1)
                 onClicked: root.tabRequested(modelData.panelIndex)
-
-                ZmToolTip {
-                    visible: parent.hovered && parent.width < parent.implicitContentWidth
-                    text: parent.text
-                }
+                onHoveredChanged: ToolTips.ask(this, hovered && width < implicitContentWidth ? text : "", false)
+                onPressed: ToolTips.dismiss(this)
             }
         }
     }
