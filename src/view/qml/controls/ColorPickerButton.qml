@@ -1,12 +1,13 @@
+pragma ComponentBehavior: Bound
+
 import QtQuick
-import QtQuick.Controls
 import QtQuick.Dialogs
-import ZelmoraAtelier
+import QtQuick.Templates as T
 
 // A swatch that opens a dialog to choose another colour. Shows `currentColor` and asks for others by `colorChanged`: in
 // a stream while the dialog is open, once with DialogAccepted at its end, or once with DialogRejected and the colour
 // that it began with.
-AbstractButton {
+T.AbstractButton {
     id: root
 
     property color currentColor: "white"
@@ -19,7 +20,9 @@ AbstractButton {
     property color dialogInitialColor
     property color lastReportedColor
     property color pendingColor
+    // Both are made when they are first needed.
     property ColorDialog dialog: null
+    property Timer previewPause: null
     readonly property bool dialogOpen: dialog?.visible ?? false
 
     signal colorChanged(color color, int reason)
@@ -27,8 +30,10 @@ AbstractButton {
     function openDialog() {
         if (dialogOpen)
             return
-        if (!dialog)
-            dialog = dialogComponent.createObject(root)
+        if (!dialog) {
+            previewPause = previewPauseComponent.createObject(root) as Timer
+            dialog = dialogComponent.createObject(root) as ColorDialog
+        }
         dialogInitialColor = currentColor
         lastReportedColor = currentColor
         dialog.selectedColor = currentColor
@@ -36,12 +41,12 @@ AbstractButton {
     }
 
     // The owner follows previews by setting currentColor, so that is nothing to compare with.
-    function previewColor(color) {
+    function previewColor(color: color) {
         if (!dialogOpen || !livePreviewEnabled)
             return
         pendingColor = color
-        if (!previewTimer.running)
-            previewTimer.start()
+        if (!previewPause.running)
+            previewPause.start()
     }
 
     function flushPreview() {
@@ -51,12 +56,12 @@ AbstractButton {
         colorChanged(pendingColor, ColorChange.DialogSelection)
     }
 
-    function finish(color, reason) {
-        previewTimer.stop()
+    function finish(color: color, reason: int) {
+        previewPause.stop()
         colorChanged(color, reason)
     }
 
-    function sameColor(a, b) {
+    function sameColor(a: color, b: color): bool {
         return a.r === b.r && a.g === b.g && a.b === b.b && a.a === b.a
     }
 
@@ -74,35 +79,30 @@ AbstractButton {
         Checkerboard {
             anchors.fill: parent
             cell: root.checkerSize
-            visible: root.currentColor.a < 1
+            shown: root.currentColor.a < 1
         }
 
         Rectangle {
             anchors.fill: parent
             color: root.currentColor
-            border.color: Qt.alpha(Theme.text, 0.3)
+            border.color: Theme.swatchOutline
         }
     }
 
     background: Rectangle {
         radius: Theme.radius
-        color: Theme.raised
-        border.color: Theme.outline
-
-        Rectangle {
-            anchors.fill: parent
-            radius: parent.radius
-            color: root.down ? Theme.pressedFill : root.hovered ? Theme.hoverFill : "transparent"
-        }
-
-        FocusFrame { control: root }
+        color: root.down ? Theme.raisedPressed : root.hovered ? Theme.raisedHovered : Theme.raised
+        border.width: root.visualFocus ? Theme.focusWidth : 1
+        border.color: root.visualFocus ? Theme.accent : Theme.outline
     }
 
-    Timer {
-        id: previewTimer
+    Component {
+        id: previewPauseComponent
 
-        interval: root.livePreviewInterval
-        onTriggered: root.flushPreview()
+        Timer {
+            interval: root.livePreviewInterval
+            onTriggered: root.flushPreview()
+        }
     }
 
     Component {
@@ -110,7 +110,10 @@ AbstractButton {
 
         ColorDialog {
             title: root.dialogTitle
+            // Qt does not describe the type of these.
+            // qmllint disable missing-type missing-property
             options: root.showAlphaChannel ? ColorDialog.ShowAlphaChannel : 0
+            // qmllint enable missing-type missing-property
             onSelectedColorChanged: root.previewColor(selectedColor)
             onAccepted: root.finish(selectedColor, ColorChange.DialogAccepted)
             onRejected: root.finish(root.dialogInitialColor, ColorChange.DialogRejected)

@@ -1,8 +1,11 @@
+pragma ComponentBehavior: Bound
+
 import QtQuick
-import QtQuick.Controls
+import QtQuick.Templates as T
 
 // A number that is typed or stepped by the arrow keys (ten steps with Shift) and the wheel. Shows `value`; asks for
-// another through `edited`. Steps in a row are one edit, which `editStarted` and `editFinished` bracket.
+// another through `edited`. Steps in a row are one edit, which `editStarted` and `editFinished` bracket. What few fields
+// ever need is made when one of them does.
 ZmTextField {
     id: root
 
@@ -12,82 +15,112 @@ ZmTextField {
     property real step: 1
     property int decimals: 0
     property string unit
+    // Whose number it is, by a name or an id. What is typed for one is dropped when another takes its place.
+    property string subject
+    // What a click on the unit does; empty where it cannot be switched.
     property string unitToolTip
-    property string shownText                           // of the value
-    readonly property bool typing: text !== shownText   // and not yet taken over
+
+    property string shownText           // of the value
+    property bool complete: false
+    property T.AbstractButton unitButton: null
+    property Timer pause: null          // ends a row of steps
 
     signal edited(real value)
     signal editStarted()
     signal editFinished()
     signal unitClicked()
 
-    function shown(number) {
-        const locale = Qt.locale()
-        const text = Number(number).toLocaleString(locale, "f", decimals)
-        // Zeros after the point say nothing, and thousands need no mark here.
-        const plain = text.split(locale.groupSeparator).join("")
-        return decimals > 0 && plain.includes(locale.decimalPoint)
-                ? plain.replace(new RegExp("\\" + locale.decimalPoint + "?0+$"), "") : plain
+    // Typed and not yet taken over.
+    function isTyped(): bool {
+        return text !== shownText
     }
 
-    // Undefined for a text that is no number. Takes the locale's decimal point and the plain one.
-    function parsed(text) {
-        // Some languages write a minus of their own.
-        const cleaned = text.trim().replace(Qt.locale().negativeSign, "-").replace(Qt.locale().decimalPoint, ".")
-        const number = Number(cleaned)
-        return cleaned && isFinite(number) ? Math.min(Math.max(number, from), to) : undefined
+    function isStepping(): bool {
+        return pause?.running ?? false
+    }
+
+    // NaN for a text that is no number.
+    function typedNumber(): real {
+        return Math.min(Math.max(NumberSpelling.read(text), from), to)
     }
 
     function showValue() {
-        shownText = shown(value)
+        shownText = NumberSpelling.spelled(value, decimals)
         text = shownText
     }
 
     function commit() {
-        const number = parsed(text)
-        if (typing && number !== undefined && shown(number) !== shown(value))
+        const number = typedNumber()
+        if (isTyped() && !isNaN(number) && NumberSpelling.spelled(number, decimals)
+                !== NumberSpelling.spelled(value, decimals))
             edited(number)
         showValue()
     }
 
-    function stepBy(steps) {
-        if (!stepping.running)
+    function stepBy(steps: real) {
+        if (!isStepping())
             editStarted()
-        stepping.restart()
-        const number = parsed(text) ?? value
+        pause.restart()
+        const typed = typedNumber()
+        const number = isNaN(typed) ? value : typed
         edited(Math.min(Math.max(Math.round(number / step + steps) * step, from), to))
         showValue()
         selectAll()
     }
 
     function finishStepping() {
-        if (!stepping.running)
+        if (!isStepping())
             return
-        stepping.stop()
+        pause.stop()
         editFinished()
     }
 
-    horizontalAlignment: TextInput.AlignLeft
     inputMethodHints: Qt.ImhFormattedNumbersOnly
-    rightPadding: root.unit ? unitButton.width + Theme.spaceS : Theme.spaceM
+    rightPadding: unit ? unitLabel.implicitWidth + Theme.spaceM + 2 * Theme.spaceS : Theme.spaceM
     Accessible.role: Accessible.SpinBox
     Accessible.description: unit
 
     onValueChanged: {
-        if (typing && activeFocus && !stepping.running)
+        if (!complete || (isTyped() && activeFocus && !isStepping()))
             return
         showValue()
         if (activeFocus)
             selectAll()
     }
-    onDecimalsChanged: showValue()
-    Component.onCompleted: showValue()
+    onSubjectChanged: {
+        if (complete)
+            showValue()
+    }
+    // Nothing half typed comes back later, and keys find no field that is not seen. To commit is no way out: what hides
+    // the field may be a step of the history.
+    onVisibleChanged: {
+        if (visible || !complete)
+            return
+        showValue()
+        focus = false
+    }
+    onDecimalsChanged: {
+        if (complete)
+            showValue()
+    }
+    onUnitToolTipChanged: {
+        if (unitToolTip && !unitButton)
+            unitButton = unitButtonComponent.createObject(root) as T.AbstractButton
+    }
+    Component.onCompleted: {
+        showValue()
+        complete = true
+    }
     onAccepted: {
         commit()
         selectAll()
     }
     onActiveFocusChanged: {
         if (activeFocus) {
+            if (!pause) {
+                pause = pauseComponent.createObject(root) as Timer
+                wheelComponent.createObject(root)
+            }
             selectAll()
         } else {
             finishStepping()
@@ -97,57 +130,69 @@ ZmTextField {
     Keys.onUpPressed: event => stepBy(event.modifiers & Qt.ShiftModifier ? 10 : 1)
     Keys.onDownPressed: event => stepBy(event.modifiers & Qt.ShiftModifier ? -10 : -1)
     Keys.onEscapePressed: event => {
-        event.accepted = shown(value) !== text
+        event.accepted = text !== NumberSpelling.spelled(value, decimals)
         showValue()
         selectAll()
     }
 
-    Timer {
-        id: stepping
+    Text {
+        id: unitLabel
 
-        interval: 800
-        onTriggered: root.editFinished()
+        x: root.width - width - Theme.spaceM
+        height: root.height
+        verticalAlignment: Text.AlignVCenter
+        textFormat: Text.PlainText
+        text: root.unit
+        color: root.unitButton?.hovered ? Theme.text : Theme.mutedText
+        font.pixelSize: Theme.fontSmall
+        font.underline: root.unitButton?.hovered ?? false
     }
 
-    WheelHandler {
-        enabled: root.activeFocus
-        onWheel: event => root.stepBy(event.angleDelta.y > 0 ? 1 : -1)
+    Component {
+        id: pauseComponent
+
+        Timer {
+            interval: 800
+            onTriggered: root.editFinished()
+        }
     }
 
-    // A button where the unit can be switched.
-    AbstractButton {
-        id: unitButton
+    Component {
+        id: wheelComponent
 
-        anchors.right: parent.right
-        height: parent.height
-        visible: root.unit
-        enabled: root.unitToolTip
-        focusPolicy: Qt.TabFocus
-        hoverEnabled: true
-        leftPadding: Theme.spaceS
-        rightPadding: Theme.spaceM
-        Accessible.name: root.unitToolTip || root.unit
-        Accessible.ignored: !enabled
-        onClicked: root.unitClicked()
-
-        contentItem: Text {
-            verticalAlignment: Text.AlignVCenter
-            text: root.unit
-            color: unitButton.enabled && unitButton.hovered ? Theme.text : Theme.mutedText
-            font.pixelSize: Theme.fontSmall
-            font.underline: unitButton.enabled && unitButton.hovered
+        WheelHandler {
+            enabled: root.activeFocus
+            onWheel: event => root.stepBy(event.angleDelta.y > 0 ? 1 : -1)
         }
+    }
 
-        background: FocusFrame { control: unitButton }
+    // Lies over the unit where that can be switched.
+    Component {
+        id: unitButtonComponent
 
-        HoverHandler {
-            enabled: unitButton.enabled
-            cursorShape: Qt.PointingHandCursor
-        }
+        T.AbstractButton {
+            id: button
 
-        ZmToolTip {
-            visible: unitButton.hovered && text
-            text: root.unitToolTip
+            function tellToolTip() {
+                ToolTips.ask(button, hovered ? root.unitToolTip : "", false)
+            }
+
+            x: root.width - width
+            width: unitLabel.width + Theme.spaceM + Theme.spaceS
+            height: root.height
+            visible: root.unit && root.unitToolTip
+            focusPolicy: Qt.TabFocus
+            hoverEnabled: true
+            Accessible.name: root.unitToolTip
+            onClicked: root.unitClicked()
+            onHoveredChanged: tellToolTip()
+            onPressed: ToolTips.dismiss(button)
+
+            background: FocusFrame { control: button }
+
+            HoverHandler {
+                cursorShape: Qt.PointingHandCursor
+            }
         }
     }
 }

@@ -1,3 +1,5 @@
+pragma ComponentBehavior: Bound
+
 import QtQuick
 
 // What menus, lists and dialogs lie on: set off from the window by an outline and a soft shadow.

@@ -36,8 +36,14 @@ QtObject {
     readonly property color surface: palette.window
     readonly property color sunken: palette.base
     readonly property color raised: palette.button
+    readonly property color raisedHovered: Qt.tint(raised, hoverFill)
+    readonly property color raisedPressed: Qt.tint(raised, pressedFill)
     readonly property color hairline: Qt.alpha(palette.windowText, dark ? 0.13 : 0.14)
     readonly property color outline: Qt.alpha(palette.windowText, dark ? 0.22 : 0.26)
+    readonly property color strongOutline: Qt.alpha(palette.windowText, 0.4)    // of a field under the pointer
+    readonly property color swatchOutline: Qt.alpha(palette.windowText, 0.3)
+    readonly property color handle: dark ? "#e8eaed" : "white"
+    readonly property color handleOutline: Qt.alpha("black", 0.35)
     readonly property color hoverFill: Qt.alpha(palette.windowText, dark ? 0.08 : 0.06)
     readonly property color pressedFill: Qt.alpha(palette.windowText, dark ? 0.15 : 0.13)
     readonly property color accent: palette.highlight

@@ -1,12 +1,12 @@
 import QtQuick
-import QtQuick.Controls
 import QtQuick.Shapes
+import QtQuick.Templates as T
 
-CheckBox {
+T.CheckBox {
     id: root
 
+    implicitWidth: Math.max(implicitIndicatorWidth, implicitContentWidth) + leftPadding + rightPadding
     implicitHeight: Theme.controlHeight
-    padding: 0
     spacing: Theme.spaceM
     opacity: enabled ? 1 : Theme.disabledOpacity
     Accessible.name: text
@@ -20,7 +20,7 @@ CheckBox {
         color: root.checked ? Theme.accent : Theme.sunken
         border.width: root.visualFocus ? Theme.focusWidth : root.checked ? 0 : 1
         border.color: root.visualFocus ? (root.checked ? Theme.text : Theme.accent)
-                                       : root.hovered ? Qt.alpha(Theme.text, 0.45) : Theme.outline
+                                       : root.hovered ? Theme.strongOutline : Theme.outline
 
         Shape {
             anchors.fill: parent

@@ -1,8 +1,8 @@
 import QtQuick
-import QtQuick.Controls
+import QtQuick.Templates as T
 
 // Text that leads somewhere.
-AbstractButton {
+T.AbstractButton {
     id: root
 
     implicitWidth: label.implicitWidth

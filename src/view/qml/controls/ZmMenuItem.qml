@@ -79,7 +79,7 @@ MenuItem {
         anchors.right: parent.right
         anchors.rightMargin: Theme.spaceL
         anchors.verticalCenter: parent.verticalCenter
-        text: root.action?.keys ?? ""
+        text: (root.action as ZmAction)?.keys ?? ""
         color: root.textColor
         opacity: 0.65
     }

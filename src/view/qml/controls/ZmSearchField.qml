@@ -1,5 +1,5 @@
 import QtQuick
-import QtQuick.Controls
+import QtQuick.Controls.impl
 
 // A field for words to search. Escape empties it first.
 ZmTextField {
@@ -22,7 +22,19 @@ ZmTextField {
         color: Theme.mutedText
     }
 
-    ZmIconButton {
+    PlaceholderText {
+        x: root.leftPadding
+        width: root.width - root.leftPadding - root.rightPadding
+        height: root.height
+        verticalAlignment: Text.AlignVCenter
+        visible: !root.length && !root.preeditText
+        text: root.placeholderText
+        font: root.font
+        color: Theme.palette.placeholderText
+        elide: Text.ElideRight
+    }
+
+    ZmSmallIconButton {
         id: clearButton
 
         anchors.right: parent.right
@@ -32,8 +44,6 @@ ZmTextField {
         visible: root.text
         focusPolicy: Qt.NoFocus
         icon.name: "close"
-        icon.width: Theme.iconSize
-        icon.height: Theme.iconSize
         toolTip: qsTr("Clear")
         onClicked: {
             root.clear()

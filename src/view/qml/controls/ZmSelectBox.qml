@@ -1,45 +1,44 @@
+pragma ComponentBehavior: Bound
+
 import QtQuick
-import QtQuick.Controls
+import QtQuick.Templates as T
 
 // One of several options. `options` is a list of maps with `text` and `value`; `selected` tells the choice of a person.
-ComboBox {
+T.ComboBox {
     id: root
 
-    property var options: []
-    property var value
+    property list<var> options
+    property var value      // of any type that options have
+    readonly property int optionIndex: options.findIndex(option => option.value === value)
+    // Told without asking for the popup, which is made when it is first opened.
+    readonly property bool listShown: down && !pressed
 
     signal selected(var value)
-
-    function indexOfValue() {
-        return Array.from(options).findIndex(option => option.value === value)
-    }
 
     implicitHeight: Theme.controlHeight
     implicitWidth: 150
     leftPadding: Theme.spaceM
     rightPadding: 26
-    topPadding: 0
-    bottomPadding: 0
     textRole: "text"
     valueRole: "value"
     model: options
     opacity: enabled ? 1 : Theme.disabledOpacity
-    currentIndex: indexOfValue()
-    // New options and a choice move the index by themselves.
-    onModelChanged: currentIndex = Qt.binding(indexOfValue)
+    // New options and a choice move the index by themselves; what is chosen is for the owner to say.
+    onOptionIndexChanged: currentIndex = optionIndex
+    onModelChanged: currentIndex = optionIndex
     onActivated: index => {
         const chosen = valueAt(index)
-        currentIndex = Qt.binding(indexOfValue)
+        currentIndex = optionIndex
         selected(chosen)
     }
 
     contentItem: Text {
         text: root.displayText
+        textFormat: Text.PlainText
         font: root.font
         color: Theme.text
         verticalAlignment: Text.AlignVCenter
         elide: Text.ElideRight
-        textFormat: Text.PlainText
     }
 
     indicator: Chevron {
@@ -50,18 +49,12 @@ ComboBox {
 
     background: Rectangle {
         radius: Theme.radius
-        color: Theme.raised
-        border.width: root.visualFocus || root.popup.visible ? Theme.focusWidth : 1
-        border.color: root.visualFocus || root.popup.visible ? Theme.accent : Theme.outline
-
-        Rectangle {
-            anchors.fill: parent
-            radius: parent.radius
-            color: root.down ? Theme.pressedFill : root.hovered ? Theme.hoverFill : "transparent"
-        }
+        color: root.down ? Theme.raisedPressed : root.hovered ? Theme.raisedHovered : Theme.raised
+        border.width: root.visualFocus || root.listShown ? Theme.focusWidth : 1
+        border.color: root.visualFocus || root.listShown ? Theme.accent : Theme.outline
     }
 
-    delegate: ItemDelegate {
+    delegate: T.ItemDelegate {
         id: option
 
         required property var model
@@ -75,12 +68,12 @@ ComboBox {
 
         contentItem: Text {
             text: option.text
+            textFormat: Text.PlainText
             color: option.highlighted ? Theme.accentText : Theme.text
             font.pixelSize: Theme.fontBody
             font.weight: root.currentIndex === option.index ? Font.DemiBold : Font.Normal
             verticalAlignment: Text.AlignVCenter
             elide: Text.ElideRight
-            textFormat: Text.PlainText
         }
 
         background: Rectangle {
@@ -89,7 +82,7 @@ ComboBox {
         }
     }
 
-    popup: Popup {
+    popup: T.Popup {
         y: root.height + Theme.spaceXS
         width: root.width
         height: Math.min(contentItem.implicitHeight + 2 * padding, root.Window.height - 2 * Theme.spaceM)
@@ -101,7 +94,7 @@ ComboBox {
             implicitHeight: contentHeight
             model: root.popup.visible ? root.delegateModel : null
             currentIndex: root.highlightedIndex
-            ScrollBar.vertical: ZmScrollBar {}
+            T.ScrollBar.vertical: ZmScrollBar {}
         }
 
         background: PopupSurface {}

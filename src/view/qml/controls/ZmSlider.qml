@@ -1,8 +1,8 @@
 import QtQuick
-import QtQuick.Controls
+import QtQuick.Templates as T
 
 // A slider. `moved` comes many times in one drag, which `editStarted` and `editFinished` bracket; each key is an edit.
-Slider {
+T.Slider {
     id: root
 
     signal editStarted()
@@ -10,34 +10,32 @@ Slider {
 
     implicitHeight: Theme.controlHeight
     implicitWidth: 120
-    padding: 0
     opacity: enabled ? 1 : Theme.disabledOpacity
     onPressedChanged: pressed ? editStarted() : editFinished()
 
     background: Rectangle {
-        x: root.leftPadding
         y: (root.height - height) / 2
-        width: root.availableWidth
+        width: root.width
         height: 4
         radius: 2
         color: Theme.outline
 
         Rectangle {
             width: root.handle.x + root.handle.width / 2
-            height: parent.height
-            radius: parent.radius
+            height: 4
+            radius: 2
             color: Theme.accent
         }
     }
 
     handle: Rectangle {
-        x: root.leftPadding + root.visualPosition * (root.availableWidth - width)
+        x: root.visualPosition * (root.width - width)
         y: (root.height - height) / 2
         width: 14
         height: 14
         radius: 7
-        color: root.pressed ? Theme.accent : Theme.dark ? "#e8eaed" : "white"
+        color: root.pressed ? Theme.accent : Theme.handle
         border.width: root.visualFocus ? Theme.focusWidth : 1
-        border.color: root.visualFocus || root.hovered || root.pressed ? Theme.accent : Qt.alpha("black", 0.35)
+        border.color: root.visualFocus || root.hovered || root.pressed ? Theme.accent : Theme.handleOutline
     }
 }

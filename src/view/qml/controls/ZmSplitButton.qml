@@ -1,11 +1,11 @@
 import QtQuick
-import QtQuick.Controls
+import QtQuick.Templates as T
 
 // An icon button with a narrow arrow beside it, which opens a menu of related actions.
 Row {
     id: root
 
-    required property Action action
+    required property T.Action action
     property string menuName
     default property alias entries: menu.contentData
 
@@ -37,7 +37,7 @@ Row {
             id: menu
 
             // The arrow itself closes it, too.
-            closePolicy: Popup.CloseOnEscape | Popup.CloseOnPressOutsideParent
+            closePolicy: T.Popup.CloseOnEscape | T.Popup.CloseOnPressOutsideParent
             y: arrow.height + Theme.spaceXS
             x: -root.width + arrow.width
         }

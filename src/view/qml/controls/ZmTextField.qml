@@ -1,33 +1,39 @@
 import QtQuick
-import QtQuick.Controls
+import QtQuick.Templates as T
 
 // One line of text.
-TextField {
+T.TextField {
     id: root
 
+    // False if the window is one without a history.
+    function stepHistory(window: var, redo: bool): bool {
+        if (window?.stepHistory === undefined)
+            return false
+        window.stepHistory(redo)
+        return true
+    }
+
+    implicitWidth: contentWidth + leftPadding + rightPadding
     implicitHeight: Theme.controlHeight
     leftPadding: Theme.spaceM
     rightPadding: Theme.spaceM
-    topPadding: 0
-    bottomPadding: 0
     verticalAlignment: TextInput.AlignVCenter
-    selectByMouse: true
     color: Theme.text
+    selectionColor: Theme.accent
+    selectedTextColor: Theme.accentText
     opacity: enabled ? 1 : Theme.disabledOpacity
 
-    // With nothing typed to take back, the keys of the history mean the document's, if the window has one.
+    // With nothing typed to take back, the keys of the history mean the document's.
     Keys.onPressed: event => {
         const undoes = event.matches(StandardKey.Undo) && !canUndo
         const redoes = event.matches(StandardKey.Redo) && !canRedo
-        event.accepted = (undoes || redoes) && ApplicationWindow.window?.stepHistory !== undefined
-        if (event.accepted)
-            ApplicationWindow.window.stepHistory(redoes)
+        event.accepted = (undoes || redoes) && stepHistory(T.ApplicationWindow.window, redoes)
     }
 
     background: Rectangle {
         radius: Theme.radius
         color: Theme.sunken
         border.width: root.activeFocus ? Theme.focusWidth : 1
-        border.color: root.activeFocus ? Theme.accent : root.hovered ? Qt.alpha(Theme.text, 0.4) : Theme.outline
+        border.color: root.activeFocus ? Theme.accent : root.hovered ? Theme.strongOutline : Theme.outline
     }
 }

@@ -1,5 +1,6 @@
 import QtQuick
 import QtQuick.Controls
+import QtQuick.Templates as T // what all fields are, whatever the style
 import ZelmoraAtelier
 
 // The pane beside the canvas: a strip of tabs and below it the panel of the current one. Tabs of tools come and go with
@@ -108,17 +109,19 @@ Pane {
             activateInfoTab()
     }
 
-    function finishTyping(event) {
-        event.accepted = Window.activeFocusItem instanceof TextField
-        if (event.accepted)
+    // Takes over what is being typed. False if nothing is.
+    function finishTyping(): bool {
+        const typing = Window.activeFocusItem instanceof T.TextField
+        if (typing)
             typingFinished()
+        return typing
     }
 
     padding: 0
     implicitWidth: 300
     onActiveToolsChanged: syncToolTabSelection()
-    Keys.onReturnPressed: event => finishTyping(event)
-    Keys.onEnterPressed: event => finishTyping(event)
+    Keys.onReturnPressed: event => event.accepted = finishTyping()
+    Keys.onEnterPressed: event => event.accepted = finishTyping()
 
     background: Rectangle {
         color: Theme.surface
@@ -162,7 +165,10 @@ Pane {
             width: parent.width
             tabs: root.tabs
             currentPanel: root.currentPanel
-            onTabRequested: panelIndex => root.currentPanel = panelIndex
+            onTabRequested: panelIndex => {
+                root.finishTyping()
+                root.currentPanel = panelIndex
+            }
         }
 
         Repeater {

@@ -1,6 +1,5 @@
 import QtQuick
 import QtQuick.Layouts
-import QtQuick.Controls
 import ZelmoraAtelier
 
 // What the selected layer is: its look, kind, size and place.
@@ -60,11 +59,10 @@ ZmInspectorPanel {
     component Fact: InspectorRow {
         property alias fact: value.text
 
-        Label {
+        ZmLabel {
             id: value
 
             Layout.fillWidth: true
-            color: Theme.text
             wrapMode: Text.Wrap
         }
     }

@@ -1,3 +1,5 @@
+pragma ComponentBehavior: Bound
+
 import QtQuick
 import QtQuick.Layouts
 import QtQuick.Controls
@@ -8,7 +10,7 @@ ZmInspectorPanel {
     id: root
 
     required property SceneObjectAdapter sceneObjectAdapter
-    // The overlay on the canvas, with the mode in which its handles skew.
+    // The overlay on the canvas, with the mode in which its handles skew. Null, and so of no type, without one.
     property var overlayModel: null
 
     property bool sizeInPercent: false
@@ -157,6 +159,7 @@ ZmInspectorPanel {
     }
 
     component EditRow: NumberRow {
+        subject: root.sceneObjectAdapter.selectionId
         from: -100000
         to: 100000
         decimals: 1

@@ -1,6 +1,5 @@
 import QtQuick
 import QtQuick.Layouts
-import QtQuick.Controls
 
 // A titled block of a panel. `tools` stand on the right of the title.
 ColumnLayout {
@@ -27,13 +26,11 @@ ColumnLayout {
         Layout.minimumHeight: 26    // with tools or without
         spacing: 0
 
-        Label {
+        ZmLabel {
             Layout.fillWidth: true
             text: root.title
-            color: Theme.text
             font.weight: Font.DemiBold
             elide: Text.ElideRight
-            textFormat: Text.PlainText
         }
 
         Row {

@@ -8,6 +8,7 @@ InspectorRow {
     // For screen readers, where the label alone could be another row's.
     property string accessibleName: label
     property alias value: field.value
+    property alias subject: field.subject
     property alias from: field.from
     property alias to: field.to
     property alias step: field.step
