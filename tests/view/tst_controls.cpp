@@ -121,6 +121,22 @@ private slots:
         QTRY_VERIFY(!m_driver->shows("resetBoardDialog"));
     }
 
+    void toolTipShowsAPictureInTheSizeTold()
+    {
+        const QString square = u"data:image/svg+xml;utf8,<svg xmlns='http://www.w3.org/2000/svg' viewBox='0 0 2 1'>"
+                               "<rect width='2' height='1' fill='red'/></svg>"_s;
+        QQuickItem *const control = m_driver->named(u"New"_s);
+        QVERIFY(QMetaObject::invokeMethod(toolTips(), "askForPicture", Q_ARG(QQuickItem *, control),
+                                          Q_ARG(QString, square), Q_ARG(QSizeF, QSizeF(120, 90))));
+        QTRY_VERIFY(toolTipObject()->property("visible").toBool());
+        const auto *content = toolTipObject()->property("contentItem").value<QQuickItem *>();
+        QTRY_COMPARE(content->size(), QSizeF(120, 60));
+        QVERIFY(QMetaObject::invokeMethod(toolTips(), "ask", Q_ARG(QQuickItem *, control), Q_ARG(QString, u"Words"_s),
+                                          Q_ARG(bool, false)));
+        QTRY_COMPARE(toolTip(), u"Words"_s);
+        QVERIFY(content->height() < 60);
+    }
+
     void panelsAreKeptAndShowTheNewSelection()
     {
         insertLayers({u"a"_s, u"b"_s});
@@ -272,12 +288,13 @@ private:
         return buttons;
     }
 
-    /// Null before the first one was asked for.
-    QObject *toolTipObject() const
+    QObject *toolTips() const
     {
-        auto *toolTips = qmlEngine(m_driver->window())->singletonInstance<QObject *>("ZelmoraAtelier", "ToolTips");
-        return toolTips->property("toolTip").value<QObject *>();
+        return qmlEngine(m_driver->window())->singletonInstance<QObject *>("ZelmoraAtelier", "ToolTips");
     }
+
+    /// Null before the first one was asked for.
+    QObject *toolTipObject() const { return toolTips()->property("toolTip").value<QObject *>(); }
 
     /// What the tool tip says; empty if none is shown.
     QString toolTip() const

@@ -47,7 +47,8 @@ QtObject {
             return
         if (!toolTip)
             toolTip = component.createObject(root) as ZmToolTip
-        toolTip.close()
+        if (subject !== control)
+            toolTip.close()
         subject = control
         toolTip.parent = control
         toolTip.text = text

@@ -36,6 +36,15 @@ T.ToolTip {
     delay: Application.styleHints.mousePressAndHoldInterval
     closePolicy: T.Popup.CloseOnEscape | T.Popup.CloseOnPressOutsideParent | T.Popup.CloseOnReleaseOutsideParent
     onAboutToShow: place()
+    // A picture may come late.
+    onWidthChanged: {
+        if (visible)
+            place()
+    }
+    onHeightChanged: {
+        if (visible)
+            place()
+    }
 
     contentItem: Item {
         implicitWidth: root.pictureSource ? picture.paintedWidth : label.implicitWidth
