@@ -15,8 +15,8 @@ ZmTextField {
     property real step: 1
     property int decimals: 0
     property string unit
-    // Whose number it is, by a name or an id. What is typed for one is dropped when another takes its place.
-    property string subject
+    // Changes with what the number is of. What is typed for one is dropped when another takes its place.
+    property int subject: 0
     // What a click on the unit does; empty where it cannot be switched.
     property string unitToolTip
 

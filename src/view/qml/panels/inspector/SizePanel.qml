@@ -13,6 +13,8 @@ ZmInspectorPanel {
     // The overlay on the canvas, with the mode in which its handles skew. Null, and so of no type, without one.
     property var overlayModel: null
 
+    // Counted, for the fields: what is typed for one layer must not move another.
+    property int selections: 0
     property bool sizeInPercent: false
     property bool keepAspectRatio: true
 
@@ -30,6 +32,14 @@ ZmInspectorPanel {
             keepAspectRatio ? adapter.setScaleYPreservingAspect(value / 100) : adapter.scaleY = value / 100
         else
             keepAspectRatio ? adapter.setLayerHeightPreservingAspect(value) : adapter.layerHeight = value
+    }
+
+    Connections {
+        target: root.sceneObjectAdapter
+
+        function onSelectionChanged() {
+            ++root.selections
+        }
     }
 
     InspectorHint {
@@ -159,7 +169,7 @@ ZmInspectorPanel {
     }
 
     component EditRow: NumberRow {
-        subject: root.sceneObjectAdapter.selectionId
+        subject: root.selections
         from: -100000
         to: 100000
         decimals: 1
