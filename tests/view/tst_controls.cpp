@@ -96,17 +96,29 @@ private slots:
         QTRY_COMPARE(toolTip(), u"More ways to save"_s);
     }
 
+    void toolTipGoesWithItsControl_data()
+    {
+        QTest::addColumn<bool>("shown");
+        QTest::newRow("while it is shown") << true;
+        QTest::newRow("before it is shown") << false;
+    }
+
     void toolTipGoesWithItsControl()
     {
+        QFETCH(bool, shown);
         insertLayers({u"a"_s});
         m_driver->click(m_driver->tab(u"Layer"_s));
         QTRY_VERIFY(m_driver->named(u"Hide layer"_s));
         QTest::qWait(50); // the row gets its place
         hover(u"Hide layer"_s);
-        QTRY_COMPARE(toolTip(), u"Hide layer"_s);
+        QTRY_VERIFY(toolTips()->property("subject").value<QQuickItem *>());
+        if (shown)
+            QTRY_COMPARE(toolTip(), u"Hide layer"_s);
         document().clearSelection();
         (void)document().takeObject(document().objectAt(0)->id());
-        QTRY_VERIFY(toolTip().isEmpty());
+        QTRY_VERIFY(toolTip().isEmpty() && !toolTips()->property("subject").value<QQuickItem *>());
+        QTest::qWait(3 * kToolTipDelayMs);
+        QVERIFY(toolTip().isEmpty());
     }
 
     void toolTipShowsForTheKeysAndInDialogs()

@@ -186,7 +186,7 @@ ZmTextField {
             Accessible.name: root.unitToolTip
             onClicked: root.unitClicked()
             onHoveredChanged: tellToolTip()
-            onPressed: ToolTips.dismiss(button)
+            onPressed: ToolTips.end(button)
 
             background: FocusFrame { control: button }
 

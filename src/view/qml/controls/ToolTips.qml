@@ -11,8 +11,6 @@ QtObject {
     property ZmToolTip toolTip: null
     // What the tool tip is about, from when it is asked for; null for nothing.
     property Item subject: null
-    // Has had its press. It gets no tool tip again before it is left.
-    property Item pressed: null
     readonly property bool subjectVisible: subject?.visible ?? false
 
     readonly property Component component: Component {
@@ -36,15 +34,7 @@ QtObject {
             end(control)
     }
 
-    function dismiss(control: Item) {
-        pressed = control
-        if (subject === control)
-            hide()
-    }
-
     function begin(control: Item, text: string, source: string, pictureSize: size, beside: bool) {
-        if (pressed === control)
-            return
         if (!toolTip)
             toolTip = component.createObject(root) as ZmToolTip
         if (subject !== control)
@@ -58,9 +48,8 @@ QtObject {
         toolTip.open()
     }
 
+    // A control that is pressed ends it, too.
     function end(control: Item) {
-        if (pressed === control)
-            pressed = null
         if (subject === control)
             hide()
     }

@@ -36,7 +36,7 @@ T.ToolButton {
     Accessible.description: toolTip
     onPointedAtChanged: tellToolTip()
     onVisualFocusChanged: tellToolTip()
-    onPressed: ToolTips.dismiss(root)
+    onPressed: ToolTips.end(root)
 
     contentItem: IconLabel {
         spacing: root.spacing

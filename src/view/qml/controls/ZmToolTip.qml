@@ -10,23 +10,12 @@ T.ToolTip {
     property bool beside: false     // of the parent, rather than below
 
     readonly property real gap: Theme.spaceS
+    readonly property real parentWidth: parent?.width ?? 0
+    readonly property real parentHeight: parent?.height ?? 0
 
-    // Where the window has room for all of it.
-    function place() {
-        const corner = parent.mapToItem(null, 0, 0)
-        const window = parent.Window.window
-        const right = parent.width + gap
-        const fitsRight = corner.x + right + width + margins <= window.width
-        if (beside && (fitsRight || corner.x - gap - width >= margins)) {
-            x = fitsRight ? right : -width - gap
-            y = (parent.height - height) / 2
-            return
-        }
-        const below = parent.height + gap
-        x = (parent.width - width) / 2
-        y = corner.y + below + height + margins <= window.height ? below : -height - gap
-    }
-
+    // Where the window ends, Qt flips it to the other side.
+    x: beside ? parentWidth + gap : (parentWidth - width) / 2
+    y: beside ? (parentHeight - height) / 2 : parentHeight + gap
     implicitWidth: contentWidth + leftPadding + rightPadding
     implicitHeight: contentHeight + topPadding + bottomPadding
     margins: Theme.spaceS + Theme.spaceXS
@@ -35,16 +24,6 @@ T.ToolTip {
     rightPadding: leftPadding
     delay: Application.styleHints.mousePressAndHoldInterval
     closePolicy: T.Popup.CloseOnEscape | T.Popup.CloseOnPressOutsideParent | T.Popup.CloseOnReleaseOutsideParent
-    onAboutToShow: place()
-    // A picture may come late.
-    onWidthChanged: {
-        if (visible)
-            place()
-    }
-    onHeightChanged: {
-        if (visible)
-            place()
-    }
 
     contentItem: Item {
         implicitWidth: root.pictureSource ? picture.paintedWidth : label.implicitWidth

@@ -62,7 +62,7 @@ Rectangle {
                 Keys.onRightPressed: root.step(index, 1)
                 onClicked: root.tabRequested(modelData.panelIndex)
                 onHoveredChanged: ToolTips.ask(this, hovered && width < implicitContentWidth ? text : "", false)
-                onPressed: ToolTips.dismiss(this)
+                onPressed: ToolTips.end(this)
             }
         }
     }
