@@ -9,6 +9,7 @@
 #include <QFileOpenEvent>
 #include <QIcon>
 #include <QLocale>
+#include <QQuickStyle>
 #include <QStandardPaths>
 
 using namespace Qt::StringLiterals;
@@ -37,6 +38,7 @@ Application::Application(int &argc, char **argv)
     setWindowIcon(QIcon(u":/zelmoraatelier/assets/app-icon.png"_s));
     QIcon::setThemeSearchPaths({u":/icons"_s});
     QIcon::setThemeName(u"zelmoraatelier"_s);
+    QQuickStyle::setStyle(u"Fusion"_s); // follows a theme's palette; the environment may name one that does not
 
     const QString dataFolder = QStandardPaths::writableLocation(QStandardPaths::AppDataLocation);
     const bool hasDataFolder = QDir().mkpath(dataFolder);

@@ -7,13 +7,14 @@
 
 namespace zm {
 
-/// The process: its name, icons and log, the installed language, and the files it was asked to open. Main thread only.
+/// The process: its name, icons, style of controls and log, the installed language, and the files it was asked to open.
+/// Main thread only.
 class Application : public QGuiApplication
 {
     Q_OBJECT
 
 public:
-    /// Names the application, makes its data folder and starts the log.
+    /// Names the application, chooses the style of its controls, makes its data folder and starts the log.
     Application(int &argc, char **argv);
 
     /// Queues a local file as an absolute path. Anything else, and a file that waits already, is dropped.

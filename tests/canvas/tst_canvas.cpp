@@ -8,6 +8,7 @@
 #include <QQmlEngine>
 #include <QQmlExtensionPlugin>
 #include <QQuickItem>
+#include <QQuickStyle>
 #include <QQuickWindow>
 #include <QtQuickTest>
 
@@ -93,7 +94,11 @@ class CanvasTestSetup : public QObject
     Q_OBJECT
 
 public slots:
-    void applicationAvailable() { QQuickWindow::setGraphicsApi(QSGRendererInterface::OpenGL); }
+    void applicationAvailable()
+    {
+        QQuickWindow::setGraphicsApi(QSGRendererInterface::OpenGL);
+        QQuickStyle::setStyle(u"Fusion"_s);
+    }
 
     void qmlEngineAvailable(QQmlEngine *engine)
     {

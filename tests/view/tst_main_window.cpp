@@ -5,6 +5,7 @@
 
 #include <QOpenGLContext>
 #include <QQuickItem>
+#include <QQuickStyle>
 #include <QTest>
 
 using namespace Qt::StringLiterals;
@@ -38,6 +39,7 @@ private slots:
         QQuickWindow *window = m_driver->window();
         QCOMPARE(window->title(), u"Untitled - Zelmora Atelier"_s);
         QCOMPARE(window->minimumSize(), QSize(800, 520));
+        QCOMPARE(QQuickStyle::name(), u"Fusion"_s);
         QVERIFY(m_driver->item(u"No layer selected"_s));
         QVERIFY(m_driver->canvas()->hasFocus());
         QTRY_COMPARE(m_driver->item(u"StatusBar"_s)->height(), 34.0);

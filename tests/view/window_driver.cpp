@@ -200,7 +200,8 @@ int runWindowTest(QObject &test, int argc, char **argv)
     const QTemporaryDir home;
     qputenv("XDG_CONFIG_HOME", home.path().toLocal8Bit());
     qputenv("XDG_DATA_HOME", home.path().toLocal8Bit());
-    QAccessible::setActive(true); // as with a screen reader
+    qputenv("QT_QUICK_CONTROLS_STYLE", "Material"); // as the user of another program may have set it
+    QAccessible::setActive(true);                   // as with a screen reader
     QQuickWindow::setGraphicsApi(QSGRendererInterface::OpenGL);
     Application application(argc, argv);
     return QTest::qExec(&test, argc, argv);
