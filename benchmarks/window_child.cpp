@@ -13,7 +13,6 @@
 #include <QLoggingCategory>
 #include <QQmlApplicationEngine>
 #include <QQmlComponent>
-#include <QQmlContext>
 #include <QQuickItem>
 #include <QQuickWindow>
 #include <QTimer>
@@ -309,8 +308,7 @@ int main(int argc, char **argv)
     QLoggingCategory::setFilterRules(u"*.debug=false\n*.info=false"_s);
     ApplicationContext context;
     QQmlApplicationEngine engine;
-    addImageProviders(engine, context);
-    setContextProperties(*engine.rootContext(), application, context);
+    prepareEngine(engine, application, context);
     engine.loadFromModule("ZelmoraAtelier"_L1, "Main"_L1);
     auto *window = qobject_cast<QQuickWindow *>(engine.rootObjects().value(0));
     if (!window || argc < 3)

@@ -6,8 +6,8 @@
 #include "editor/shape_preview_image_provider.h"
 #include "services/user_notification_center.h"
 
+#include <QQmlApplicationEngine>
 #include <QQmlContext>
-#include <QQmlEngine>
 
 using namespace Qt::StringLiterals;
 
@@ -35,6 +35,12 @@ ApplicationContext::ApplicationContext()
                      &ApplicationSettings::addRecentFile);
     QObject::connect(&documentFileController, &DocumentFileController::documentSaved, &applicationSettings,
                      &ApplicationSettings::addRecentFile);
+    QObject::connect(&documentFlow, &DocumentFlow::imageImported, &applicationSettings,
+                     &ApplicationSettings::rememberImageImportFolder);
+    QObject::connect(&documentFlow, &DocumentFlow::imageExported, &applicationSettings,
+                     &ApplicationSettings::rememberExportFolder);
+    QObject::connect(&documentFlow, &DocumentFlow::recentFileFailed, &applicationSettings,
+                     &ApplicationSettings::removeRecentFile);
     QObject::connect(&layerThumbnails, &LayerThumbnails::thumbnailChanged, sceneObjectAdapter.layerListModel(),
                      &SceneLayerListModel::setThumbnailSource);
     // A new text looks like the one that the user last had in hand.
@@ -46,33 +52,43 @@ ApplicationContext::ApplicationContext()
     QObject::connect(&document, &Document::textLayerChanged, &editorController, rememberTextStyle);
 }
 
-void addImageProviders(QQmlEngine &engine, const ApplicationContext &context)
+void prepareEngine(QQmlApplicationEngine &engine, Application &application, ApplicationContext &context)
 {
     engine.addImageProvider(u"export-preview"_s, new ExportPreviewImageProvider(context.exportPreviewStore));
     engine.addImageProvider(kShapePreviewProviderId, new ShapePreviewImageProvider);
     engine.addImageProvider(u"layer-thumbnail"_s, new LayerThumbnailProvider(context.layerThumbnailStore));
-}
 
-void setContextProperties(QQmlContext &qmlContext, Application &application, ApplicationContext &context)
-{
-    qmlContext.setContextProperty(u"debugBuild"_s, kDebugBuild);
-    qmlContext.setContextProperty(u"applicationFileOpenRequests"_s, &application);
-    qmlContext.setContextProperty(u"runtimeFlags"_s, &context.runtimeFlags);
-    qmlContext.setContextProperty(u"applicationInfoController"_s, &context.applicationInfoController);
-    qmlContext.setContextProperty(u"applicationSettings"_s, &context.applicationSettings);
-    qmlContext.setContextProperty(u"applicationTheme"_s, &context.applicationTheme);
-    qmlContext.setContextProperty(u"commandHistory"_s, &context.commandHistory);
-    qmlContext.setContextProperty(u"sceneObjectAdapter"_s, &context.sceneObjectAdapter);
-    qmlContext.setContextProperty(u"scenePresentationModel"_s, &context.scenePresentationModel);
-    qmlContext.setContextProperty(u"editorStateModel"_s, &context.editorStateModel);
-    qmlContext.setContextProperty(u"documentPropertiesAdapter"_s, &context.documentPropertiesAdapter);
-    qmlContext.setContextProperty(u"shapePickerModel"_s, &context.shapePickerModel);
-    qmlContext.setContextProperty(u"noticeCatalogModel"_s, &context.noticeCatalogModel);
-    qmlContext.setContextProperty(u"editorController"_s, &context.editorController);
-    qmlContext.setContextProperty(u"fileManager"_s, &context.fileManager);
-    qmlContext.setContextProperty(u"documentFileController"_s, &context.documentFileController);
-    qmlContext.setContextProperty(u"exportController"_s, &context.exportController);
-    qmlContext.setContextProperty(u"userNotifications"_s, &UserNotificationCenter::instance());
+    const auto object = [](QObject &of) { return QVariant::fromValue(&of); };
+    const QList<QQmlContext::PropertyPair> objects{
+        {u"debugBuild"_s, kDebugBuild},
+        {u"runtimeFlags"_s, object(context.runtimeFlags)},
+        {u"applicationInfoController"_s, object(context.applicationInfoController)},
+        {u"applicationSettings"_s, object(context.applicationSettings)},
+        {u"applicationTheme"_s, object(context.applicationTheme)},
+        {u"commandHistory"_s, object(context.commandHistory)},
+        {u"sceneObjectAdapter"_s, object(context.sceneObjectAdapter)},
+        {u"scenePresentationModel"_s, object(context.scenePresentationModel)},
+        {u"editorStateModel"_s, object(context.editorStateModel)},
+        {u"documentPropertiesAdapter"_s, object(context.documentPropertiesAdapter)},
+        {u"shapePickerModel"_s, object(context.shapePickerModel)},
+        {u"noticeCatalogModel"_s, object(context.noticeCatalogModel)},
+        {u"editorController"_s, object(context.editorController)},
+        {u"fileManager"_s, object(context.fileManager)},
+        {u"documentFileController"_s, object(context.documentFileController)},
+        {u"exportController"_s, object(context.exportController)},
+        {u"documentFlow"_s, object(context.documentFlow)},
+        {u"userNotifications"_s, object(UserNotificationCenter::instance())},
+    };
+    QVariantMap windowProperties;
+    for (const QQmlContext::PropertyPair &named : objects)
+        windowProperties.insert(named.name, named.value);
+    engine.setInitialProperties(windowProperties);
+    engine.rootContext()->setContextProperties(objects);
+    engine.rootContext()->setContextProperty(u"applicationFileOpenRequests"_s, &application);
+
+    context.documentFlow.setFileOpenRequests([&application] { return application.takePendingFileOpenRequest(); });
+    QObject::connect(&application, &Application::pendingFileOpenRequestAvailable, &context.documentFlow,
+                     &DocumentFlow::processFileOpenRequestsLater);
 }
 
 } // namespace zm

@@ -6,6 +6,7 @@
 #include "commands/command_history.h"
 #include "document/document.h"
 #include "editor/document_file_controller.h"
+#include "editor/document_flow.h"
 #include "editor/document_properties_adapter.h"
 #include "editor/editor_controller.h"
 #include "editor/editor_state_model.h"
@@ -24,8 +25,7 @@
 #include "services/render_services.h"
 #include "services/runtime_flags.h"
 
-class QQmlContext;
-class QQmlEngine;
+class QQmlApplicationEngine;
 
 namespace zm {
 
@@ -64,12 +64,13 @@ struct ApplicationContext
     /// Shared with the engine's image provider.
     std::shared_ptr<ExportPreviewImageStore> exportPreviewStore = std::make_shared<ExportPreviewImageStore>();
     ExportController exportController{&document, &documentFileController, exportPreviewStore};
+    DocumentFlow documentFlow{&commandHistory, &documentFileController, &editorController, &editorStateModel,
+                              &exportController};
 };
 
-/// Gives the engine, which owns them, the providers of pictures that are made at run time.
-void addImageProviders(QQmlEngine &engine, const ApplicationContext &context);
-
-/// Makes the objects known to the interface by their names.
-void setContextProperties(QQmlContext &qmlContext, Application &application, ApplicationContext &context);
+/// Gives the engine what the window needs, before the window is made: the objects by their names, as context properties
+/// and as what the window requires of whoever makes it, and the providers of pictures that are made at run time. Files
+/// that the application is asked to open go to the context's flow of documents from here on.
+void prepareEngine(QQmlApplicationEngine &engine, Application &application, ApplicationContext &context);
 
 } // namespace zm

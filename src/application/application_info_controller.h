@@ -2,6 +2,7 @@
 
 #include <QObject>
 #include <QUrl>
+#include <QtQml/qqmlregistration.h>
 
 namespace zm {
 
@@ -9,6 +10,8 @@ namespace zm {
 class ApplicationInfoController : public QObject
 {
     Q_OBJECT
+    QML_ELEMENT
+    QML_UNCREATABLE("The application owns it.")
     Q_PROPERTY(QString version READ version CONSTANT)
     Q_PROPERTY(QString copyrightNotice READ copyrightNotice CONSTANT)
     Q_PROPERTY(QUrl webSiteUrl READ webSiteUrl CONSTANT)

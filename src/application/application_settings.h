@@ -5,6 +5,7 @@
 #include <QSettings>
 #include <QStringList>
 #include <QUrl>
+#include <QtQml/qqmlregistration.h>
 
 namespace zm {
 
@@ -14,6 +15,8 @@ namespace zm {
 class ApplicationSettings : public QObject
 {
     Q_OBJECT
+    QML_ELEMENT
+    QML_UNCREATABLE("The application owns the one store of settings.")
     Q_PROPERTY(int rulerPlacement READ rulerPlacement WRITE setRulerPlacement NOTIFY rulerPlacementChanged)
     Q_PROPERTY(int inspectorPosition READ inspectorPosition WRITE setInspectorPosition NOTIFY inspectorPositionChanged)
     Q_PROPERTY(bool canvasClipMode READ canvasClipMode WRITE setCanvasClipMode NOTIFY canvasClipModeChanged)

@@ -2,6 +2,7 @@
 
 #include <QObject>
 #include <QPalette>
+#include <QtQml/qqmlregistration.h>
 
 namespace zm {
 
@@ -13,6 +14,8 @@ class ApplicationSettings;
 class ApplicationThemeController : public QObject
 {
     Q_OBJECT
+    QML_ELEMENT
+    QML_UNCREATABLE("The application owns it.")
     Q_PROPERTY(QPalette palette READ palette NOTIFY paletteChanged)
 
 public:

@@ -80,8 +80,7 @@ int main(int argc, char **argv)
     // The engine, and with it the window, goes before what it shows.
     zm::ApplicationContext context;
     QQmlApplicationEngine engine;
-    zm::addImageProviders(engine, context);
-    zm::setContextProperties(*engine.rootContext(), application, context);
+    zm::prepareEngine(engine, application, context);
     followLanguage(application, context.applicationSettings, engine);
 
     engine.setOutputWarningsToStandardError(false); // the log passes them on

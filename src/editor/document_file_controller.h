@@ -3,6 +3,7 @@
 #include <QColor>
 #include <QObject>
 #include <QUrl>
+#include <QtQml/qqmlregistration.h>
 
 namespace zm {
 
@@ -16,6 +17,8 @@ class RuntimeFlags;
 class DocumentFileController : public QObject
 {
     Q_OBJECT
+    QML_ELEMENT
+    QML_UNCREATABLE("The application owns it.")
     Q_PROPERTY(QUrl documentUrl READ documentUrl NOTIFY documentUrlChanged)
     Q_PROPERTY(bool hasDocumentUrl READ hasDocumentUrl NOTIFY documentUrlChanged)
     Q_PROPERTY(QUrl pairedImageUrl READ pairedImageUrl NOTIFY pairedImageUrlChanged)

@@ -5,6 +5,7 @@
 #include <QObject>
 #include <QRectF>
 #include <QUrl>
+#include <QtQml/qqmlregistration.h>
 
 #include <memory>
 #include <optional>
@@ -24,6 +25,8 @@ class ShapeLayer;
 class EditorController : public QObject
 {
     Q_OBJECT
+    QML_ELEMENT
+    QML_UNCREATABLE("The application owns it.")
     Q_PROPERTY(QRectF addLayerViewportRect READ addLayerViewportRect WRITE setAddLayerViewportRect NOTIFY
                    addLayerViewportRectChanged)
     Q_PROPERTY(double viewScale READ viewScale WRITE setViewScale NOTIFY viewScaleChanged)

@@ -6,6 +6,7 @@
 #include <QObject>
 #include <QTimer>
 #include <QUrl>
+#include <QtQml/qqmlregistration.h>
 
 #include <memory>
 
@@ -23,6 +24,8 @@ struct RenderServices;
 class ExportController : public QObject
 {
     Q_OBJECT
+    QML_ELEMENT
+    QML_UNCREATABLE("The application owns it.")
     Q_PROPERTY(int outputWidth READ outputWidth WRITE setOutputWidth NOTIFY settingsChanged)
     Q_PROPERTY(int outputHeight READ outputHeight WRITE setOutputHeight NOTIFY settingsChanged)
     Q_PROPERTY(int maximumDimension READ maximumDimension NOTIFY settingsChanged)

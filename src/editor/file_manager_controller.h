@@ -2,6 +2,7 @@
 
 #include <QObject>
 #include <QUrl>
+#include <QtQml/qqmlregistration.h>
 
 namespace zm {
 
@@ -9,6 +10,8 @@ namespace zm {
 class FileManagerController : public QObject
 {
     Q_OBJECT
+    QML_ELEMENT
+    QML_UNCREATABLE("The application owns it.")
 
 public:
     using QObject::QObject;

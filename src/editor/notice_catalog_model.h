@@ -3,6 +3,7 @@
 #include <QAbstractListModel>
 #include <QList>
 #include <QUrl>
+#include <QtQml/qqmlregistration.h>
 
 namespace zm {
 
@@ -12,6 +13,8 @@ namespace zm {
 class NoticeCatalogModel : public QAbstractListModel
 {
     Q_OBJECT
+    QML_ELEMENT
+    QML_UNCREATABLE("The application owns it.")
 
 public:
     /// In QML: name, version, licenseName, homePage, text.

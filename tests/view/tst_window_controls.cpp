@@ -10,6 +10,23 @@
 using namespace Qt::StringLiterals;
 using namespace zm;
 
+namespace {
+
+/// Stands where a tool for painting will.
+class Painter : public QObject
+{
+    Q_OBJECT
+
+public:
+    Q_INVOKABLE bool canRasterizeAt(const QPointF &) const { return canRasterize; }
+    Q_INVOKABLE void rasterizeAt(const QPointF &point) { rasterized.append(point); }
+
+    bool canRasterize = false;
+    QList<QPointF> rasterized;
+};
+
+} // namespace
+
 /// Tools, tabs and panels of the window under pointer and keys, and what screen readers are told of them.
 class TestWindowControls : public QObject
 {
@@ -172,6 +189,27 @@ private slots:
         m_driver->key(Qt::Key_Return); // gives the keys back to the canvas
         m_driver->key(Qt::Key_T);
         QCOMPARE(document().objectCount(), 2);
+    }
+
+    void canvasMenuIsAboutItsPoint()
+    {
+        Painter painter;
+        for (QObject *object : m_driver->window()->findChildren<QObject *>()) {
+            if (QByteArray(object->metaObject()->className()).startsWith("ActionContext_QMLTYPE"))
+                QVERIFY(object->setProperty("paintController", QVariant::fromValue<QObject *>(&painter)));
+        }
+        QVERIFY(m_driver->context().editorController.addText());
+        for (bool possible : {false, true}) {
+            painter.canRasterize = possible;
+            m_driver->click(m_driver->canvas(), Qt::RightButton);
+            QTRY_VERIFY(m_driver->item(u"Rasterize Layer"_s));
+            QVERIFY(m_driver->item(u"Cut"_s));
+            QCOMPARE(m_driver->item(u"Rasterize Layer"_s)->isEnabled(), possible);
+            QVERIFY(m_driver->click(possible ? u"Rasterize Layer"_s : u"Remove Layer"_s));
+            QTRY_VERIFY(!m_driver->item(u"Rasterize Layer"_s));
+        }
+        QCOMPARE(document().objectCount(), 0);
+        QCOMPARE(painter.rasterized, QList{m_driver->canvas()->property("contextDocumentPoint").toPointF()});
     }
 
     void tabsFollowTheSelection()

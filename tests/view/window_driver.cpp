@@ -5,7 +5,6 @@
 #include <QAccessible>
 #include <QDropEvent>
 #include <QMimeData>
-#include <QQmlContext>
 #include <QQuickItem>
 #include <QSignalBlocker>
 #include <QTest>
@@ -62,8 +61,7 @@ bool WindowDriver::open()
     m_engine = std::make_unique<QQmlApplicationEngine>();
     QObject::connect(m_engine.get(), &QQmlEngine::warnings, m_engine.get(),
                      [this](const QList<QQmlError> &warnings) { m_warnings += warnings; });
-    addImageProviders(*m_engine, *m_context);
-    setContextProperties(*m_engine->rootContext(), application(), *m_context);
+    prepareEngine(*m_engine, application(), *m_context);
     m_engine->loadFromModule("ZelmoraAtelier"_L1, "Main"_L1);
     m_window = qobject_cast<QQuickWindow *>(m_engine->rootObjects().value(0));
     if (!m_window || !QTest::qWaitForWindowExposed(m_window))
@@ -124,7 +122,7 @@ QObject *WindowDriver::dialog(const char *name) const
     for (QList<QQuickItem *> items{m_window->contentItem()}; !items.isEmpty();) {
         QQuickItem *item = items.takeFirst();
         if (QByteArray(item->metaObject()->className()).startsWith("WindowDialogs_QMLTYPE"))
-            return item->property(name).value<QObject *>();
+            return name ? item->property(name).value<QObject *>() : item;
         items = item->childItems() + items;
     }
     return nullptr;

@@ -39,7 +39,7 @@ public:
     QQuickItem *tab(const QString &text) const;
     QQuickItem *canvas() const { return item(QStringLiteral("Canvas")); }
     double zoom() const;
-    /// A dialog of the window, whether it is shown or not.
+    /// A dialog of the window, whether it is shown or not; for null, what holds them all.
     QObject *dialog(const char *name) const;
     bool shows(const char *dialogName) const;
 

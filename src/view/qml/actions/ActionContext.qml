@@ -9,16 +9,16 @@ QtObject {
     required property ApplicationWindow window
     required property Canvas canvas
     required property WindowDialogs dialogs
+    required property DocumentFlow flow
     required property bool forDevelopers
     required property url webSiteUrl
-    required property var settings
-    required property var flags
-    required property var exporter
-    required property var history
-    required property var editor
-    required property var editorState
-    required property var sceneAdapter
-    // Null while the program has no such tool; its actions are then disabled.
+    required property ApplicationSettings settings
+    required property RuntimeFlags flags
+    required property CommandHistory history
+    required property EditorController editor
+    required property EditorStateModel editorState
+    required property SceneObjectAdapter sceneAdapter
+    // Tools that the program does not have yet, and so no types either. While one is null its actions are disabled.
     property var clipboard: null
     property var paintController: null
     property var selectionModel: null
@@ -27,7 +27,7 @@ QtObject {
     readonly property bool fixedDocumentBounds: settings.canvasClipMode
     readonly property bool textEditing: editorState.textEditActive
     // Nothing else has the keys: the document can be changed.
-    readonly property bool editable: !textEditing && !dialogs.fileDialogOpen
+    readonly property bool editable: !textEditing && !OpenDialogs.anyFileDialog
 
     function commitTextEditing() {
         canvas.commitTextEditing()

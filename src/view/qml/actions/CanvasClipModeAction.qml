@@ -1,5 +1,5 @@
 ModeAction {
-    required property var settings
+    required property ApplicationSettings settings
 
     text: qsTr("&Limit Canvas to Document Bounds")
     active: settings.canvasClipMode

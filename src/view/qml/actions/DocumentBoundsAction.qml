@@ -1,5 +1,5 @@
 ModeAction {
-    required property var settings
+    required property ApplicationSettings settings
 
     text: qsTr("Show Document &Bounds")
     active: settings.documentBoundsVisible

@@ -1,13 +1,12 @@
 import QtQuick
-import QtQuick.Controls
 
 // The history and the clipboard.
 QtObject {
     id: root
 
     required property ActionContext context
-    readonly property var history: context.history
-    readonly property var clipboard: context.clipboard
+    readonly property CommandHistory history: context.history
+    readonly property var clipboard: context.clipboard     // see there
 
     readonly property ZmAction undo: ZmAction {
         text: qsTr("&Undo")

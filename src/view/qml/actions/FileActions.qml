@@ -1,41 +1,12 @@
 import QtQuick
-import QtQuick.Controls
 
 // Documents and their files. A save writes the picture and the editable document beside it as a pair.
 QtObject {
     id: root
 
     required property ActionContext context
-    readonly property bool saveInProgress: context.exporter.sessionSaveBusy
-                                           || context.dialogs.saveProgressDialog.visible
-    readonly property bool available: !saveInProgress && !context.dialogs.fileDialogOpen
-
-    // No save has begun, or it could not be carried out; the reason is on the screen.
-    signal saveFailed()
-
-    function openExportDialog() {
-        if (context.exporter.begin(context.fixedDocumentBounds))
-            context.dialogs.exportDialog.open()
-        else
-            reportSaveFailure()
-    }
-
-    // The progress shows before the document is written, which takes the thread.
-    function saveSessionExport() {
-        context.dialogs.saveProgressDialog.open()
-        context.window.carryOut(startSessionSave)
-    }
-
-    function startSessionSave() {
-        if (!context.exporter.saveToSessionExport())
-            reportSaveFailure()
-    }
-
-    function reportSaveFailure() {
-        context.dialogs.saveProgressDialog.close()
-        context.dialogs.exportErrorDialog.open()
-        saveFailed()
-    }
+    readonly property bool saveInProgress: context.flow.saveInProgress || context.dialogs.saveProgressDialog.visible
+    readonly property bool available: !saveInProgress && !OpenDialogs.anyFileDialog
 
     readonly property ZmAction newDocument: ZmAction {
         text: qsTr("&New")
@@ -43,10 +14,7 @@ QtObject {
         shortcut: StandardKey.New
         icon.name: "new_file"
         enabled: root.available
-        onTriggered: {
-            root.context.commitTextEditing()
-            root.context.window.requestNewDocument()
-        }
+        onTriggered: root.context.flow.requestNewDocument()
     }
 
     readonly property ZmAction openDocument: ZmAction {
@@ -55,10 +23,7 @@ QtObject {
         shortcut: StandardKey.Open
         icon.name: "open"
         enabled: root.available
-        onTriggered: {
-            root.context.commitTextEditing()
-            root.context.window.requestOpenDocument()
-        }
+        onTriggered: root.context.flow.requestOpenDocument()
     }
 
     readonly property ZmAction saveDocument: ZmAction {
@@ -67,23 +32,14 @@ QtObject {
         shortcut: StandardKey.Save
         icon.name: "save"
         enabled: root.available
-        onTriggered: {
-            root.context.commitTextEditing()
-            if (root.context.exporter.hasSessionExport)
-                root.saveSessionExport()
-            else
-                root.openExportDialog()
-        }
+        onTriggered: root.context.flow.saveDocument(root.context.fixedDocumentBounds)
     }
 
     readonly property ZmAction saveDocumentAs: ZmAction {
         text: qsTr("Save &As…")
         shortcut: StandardKey.SaveAs
         enabled: root.available
-        onTriggered: {
-            root.context.commitTextEditing()
-            root.openExportDialog()
-        }
+        onTriggered: root.context.flow.saveDocumentAs(root.context.fixedDocumentBounds)
     }
 
     readonly property ZmAction quitApplication: ZmAction {

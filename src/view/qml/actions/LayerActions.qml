@@ -1,21 +1,20 @@
 import QtQuick
-import QtQuick.Controls
 
 // What adds layers, and what is done with the selected one.
 QtObject {
     id: root
 
     required property ActionContext context
-    readonly property var editor: context.editor
-    readonly property var sceneAdapter: context.sceneAdapter
-    readonly property var paintController: context.paintController
+    readonly property EditorController editor: context.editor
+    readonly property SceneObjectAdapter sceneAdapter: context.sceneAdapter
+    readonly property var paintController: context.paintController      // see there
     readonly property bool editable: context.editable
 
     readonly property ZmAction addImage: ZmAction {
         text: qsTr("&Image")
         toolTip: qsTr("Insert an image as a new layer")
         icon.name: "insert_image"
-        enabled: !root.context.dialogs.fileDialogOpen
+        enabled: !OpenDialogs.anyFileDialog
         onTriggered: root.context.dialogs.openImageFileDialog()
     }
 
@@ -35,7 +34,7 @@ QtObject {
         toolTip: qsTr("Insert a text layer")
         toolKey: "T"
         icon.name: "insert_text"
-        enabled: !root.context.dialogs.fileDialogOpen
+        enabled: !OpenDialogs.anyFileDialog
         onTriggered: {
             root.editor.addText()
             root.context.activateSelectionMode()
@@ -47,7 +46,7 @@ QtObject {
         toolTip: qsTr("Insert a shape or sticker")
         toolKey: "U"
         icon.name: "insert_shape"
-        enabled: !root.context.dialogs.fileDialogOpen
+        enabled: !OpenDialogs.anyFileDialog
         onTriggered: root.context.dialogs.shapePickerDialog.open()
     }
 

@@ -1,12 +1,13 @@
+pragma ComponentBehavior: Bound
+
 import QtQuick
-import QtQuick.Controls
 
 // Selections of pixels in an image layer.
 QtObject {
     id: root
 
     required property ActionContext context
-    readonly property var model: context.selectionModel
+    readonly property var model: context.selectionModel     // see there
     readonly property var clipboard: context.clipboard
     readonly property bool editable: context.editable
 
@@ -79,7 +80,7 @@ QtObject {
     readonly property Shortcut invertRasterToo: Shortcut {
         sequence: "Ctrl+Shift+I"
         context: Qt.ApplicationShortcut
-        enabled: root.invertRaster.enabled && !root.context.dialogs.anyVisible
+        enabled: root.invertRaster.enabled && !OpenDialogs.any
         onActivated: root.invertRaster.trigger()
     }
 

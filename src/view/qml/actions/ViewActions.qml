@@ -1,11 +1,30 @@
+pragma ComponentBehavior: Bound
+
 import QtQuick
-import QtQuick.Controls
 
 // How the document is shown. Nothing here changes it; the modes are kept in the settings.
 QtObject {
     id: root
 
     required property ActionContext context
+    property int visibilityBeforeFullScreen: Window.Maximized
+
+    function toggleFullScreen() {
+        const window = context.window
+        if (fullScreen.active) {
+            window.visibility = visibilityBeforeFullScreen
+        } else {
+            visibilityBeforeFullScreen = window.visibility
+            window.showFullScreen()
+        }
+    }
+
+    // The question is put in the old language and in the new one.
+    function chooseLanguage(language: string) {
+        if (language !== context.settings.language)
+            context.dialogs.languageRestartDialog.openAfterLanguageSwitch()
+        context.settings.language = language
+    }
 
     readonly property ZmAction zoomIn: ZmAction {
         text: qsTr("Zoom &In")
@@ -33,7 +52,7 @@ QtObject {
     readonly property ZmAction zoomToFit: ZmAction {
         text: qsTr("Zoom to &Fit")
         shortcut: "Ctrl+0"
-        onTriggered: root.context.window.fitDocument()
+        onTriggered: root.context.canvas.fitDocument()
     }
 
     readonly property ZmAction zoomToActualSize: ZmAction {
@@ -46,8 +65,8 @@ QtObject {
     readonly property ModeAction fullScreen: ModeAction {
         text: qsTr("F&ull Screen")
         shortcut: "F11"
-        active: root.context.window.fullScreen
-        onChosen: root.context.window.toggleFullScreen()
+        active: root.context.window.visibility === Window.FullScreen
+        onChosen: root.toggleFullScreen()
     }
 
     readonly property ModeAction unlimitedCanvas: ModeAction {

@@ -1,3 +1,5 @@
+pragma ComponentBehavior: Bound
+
 import QtQuick
 
 // Everything that the window can be asked for, declared once for menus, bars and keys.

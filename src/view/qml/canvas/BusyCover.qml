@@ -1,39 +1,22 @@
 import QtQuick
 import ZelmoraAtelier
 
-// Carries out work that holds the interface's thread. The pointer tells of it at once; of work that is expected to take
-// long a turning ring tells, too, over the canvas. The ring's animations run on the thread that draws, so they go on
-// meanwhile; they cost a frame before the work begins, and without a graphics card some of the processor.
+// Has the work carried out that holds the interface's thread. The pointer tells of it at once; of work that is expected
+// to take long a turning ring tells, too, over the canvas. The ring's animations run on the thread that draws, so they go
+// on meanwhile; they cost a frame before the work begins, and without a graphics card some of the processor.
 Item {
     id: root
 
-    readonly property bool running: works.length > 0
-    property var works: []      // maps with work, a function, and slow
-    readonly property bool showsRing: running && works[0].slow
-
-    signal finished()
-
-    function during(work, slow) {
-        works = works.concat([{ work, slow }])
-    }
-
-    function carryOutNext() {
-        try {
-            works[0].work()
-        } finally {
-            works = works.slice(1)
-            if (!running)
-                finished()
-        }
-    }
+    required property WorkQueue work
+    readonly property bool showsRing: work.running && work.slow
 
     visible: showsRing
     Accessible.role: Accessible.Indicator
     Accessible.name: qsTr("Busy")
-    Accessible.ignored: !running
+    Accessible.ignored: !work.running
 
     BusyPointer {
-        active: root.running
+        active: root.work.running
     }
 
     // The ring is on the screen.
@@ -43,7 +26,7 @@ Item {
 
         function onFrameSwapped() {
             if (root.showsRing)
-                root.carryOutNext()
+                root.work.carryOutNext()
         }
     }
 
@@ -51,8 +34,8 @@ Item {
     Timer {
         interval: root.showsRing ? 50 : 1
         repeat: true
-        running: root.running
-        onTriggered: root.carryOutNext()
+        running: root.work.running
+        onTriggered: root.work.carryOutNext()
     }
 
     MouseArea {
@@ -62,6 +45,8 @@ Item {
     }
 
     Rectangle {
+        id: ground
+
         anchors.centerIn: parent
         width: 56
         height: 56
@@ -70,7 +55,8 @@ Item {
         opacity: 0
 
         // Next to nothing until Theme.busyDelayMs have passed.
-        OpacityAnimator on opacity {
+        OpacityAnimator {
+            target: ground
             from: 0
             to: 1
             duration: 2 * Theme.busyDelayMs

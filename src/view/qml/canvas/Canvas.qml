@@ -1,3 +1,5 @@
+pragma ComponentBehavior: Bound
+
 import QtQuick
 import QtQuick.Controls
 
@@ -8,14 +10,8 @@ Pane {
 
     required property ScenePresentationModel sceneModel
     property EditorStateModel editorState: null
-    property var paintController: null
-    // What the context menu offers; an entry without an action is left out.
-    property Action cutAction: null
-    property Action copyAction: null
-    property Action pasteAction: null
-    property Action removeLayerAction: null
-    property Action clearRasterSelectionAction: null
-    property Action invertRasterSelectionAction: null
+    // What the right mouse button opens. It comes from outside, for its actions work on the canvas.
+    property Menu contextMenu: null
     property real zoom: 1.0
     property bool fixedDocumentBounds: false
     property bool documentBoundsVisible: false
@@ -26,7 +22,8 @@ Pane {
     readonly property bool textEditing: editorState?.textEditActive ?? false
     // Where the context menu was last asked for.
     property point contextDocumentPoint
-    readonly property alias contextMenu: contextMenu
+    // The whole document is in view and stays so while the view changes its size, until it is moved.
+    property bool documentFitted: false
 
     readonly property real minimumZoom: 0.05
     readonly property real maximumZoom: 48.0
@@ -90,6 +87,15 @@ Pane {
             return false
         showDocumentRect(bounds, 1.0)
         return true
+    }
+
+    function fitDocument() {
+        documentFitted = sceneModel !== null && fitDocumentRect(sceneModel.documentRect)
+    }
+
+    function fitDocumentAgain() {
+        if (documentFitted)
+            Qt.callLater(fitDocument)
     }
 
     // Zooms out and centres only if `bounds` are not in view yet; true if the view changed.
@@ -183,7 +189,14 @@ Pane {
     }
 
     onVisibleDocumentRectChanged: sceneUpdates.apply()
-    onZoomChanged: sceneUpdates.apply()
+    onZoomChanged: {
+        documentFitted = false
+        sceneUpdates.apply()
+    }
+    onBoardCenterChanged: documentFitted = false
+    onWidthChanged: fitDocumentAgain()
+    onHeightChanged: fitDocumentAgain()
+    onRulersVisibleChanged: fitDocumentAgain()
     onPixelRatioChanged: sceneUpdates.apply()
     onSceneModelChanged: sceneUpdates.apply()
     onFixedDocumentBoundsChanged: resetFixedDocumentView()
@@ -260,7 +273,7 @@ Pane {
             function openContextMenu(x, y) {
                 root.forceCanvasFocus()
                 root.contextDocumentPoint = root.viewToDocument(Qt.point(x, y))
-                contextMenu.openAt(x, y)
+                root.contextMenu?.popup(viewport, x, y)
             }
 
             // Asked for by the keyboard, the menu is about the selected layer, if any of it is in view.
@@ -323,19 +336,6 @@ Pane {
                 anchors.fill: parent
                 acceptedButtons: Qt.RightButton
                 onClicked: mouse => viewport.openContextMenu(mouse.x, mouse.y)
-
-                CanvasContextMenu {
-                    id: contextMenu
-
-                    documentPoint: root.contextDocumentPoint
-                    paintController: root.paintController
-                    cutAction: root.cutAction
-                    copyAction: root.copyAction
-                    pasteAction: root.pasteAction
-                    removeLayerAction: root.removeLayerAction
-                    clearRasterSelectionAction: root.clearRasterSelectionAction
-                    invertRasterSelectionAction: root.invertRasterSelectionAction
-                }
             }
 
             PanArea {

@@ -1,58 +1,32 @@
 import QtQuick
-import QtQuick.Controls
 
-// What the right mouse button offers on the canvas. An action that is not there has no entry.
+// What the right mouse button offers on the canvas.
 ZmMenu {
     id: root
 
-    property Action cutAction: null
-    property Action copyAction: null
-    property Action pasteAction: null
-    property Action removeLayerAction: null
-    property Action invertRasterSelectionAction: null
-    property Action clearRasterSelectionAction: null
-    property var paintController: null
+    required property WindowActions actions
     // Where the menu was asked for.
-    property point documentPoint
+    required property point documentPoint
     property bool rasterizable: false
 
-    // Opens at a point of the parent.
-    function openAt(x, y) {
-        rasterizable = paintController?.canRasterizeAt(documentPoint) ?? false
-        popup(x, y)
-    }
+    onAboutToShow: rasterizable = actions.context.paintController?.canRasterizeAt(documentPoint) ?? false
 
-    Entry { action: root.cutAction }
-    Entry { action: root.copyAction }
-    Entry { action: root.pasteAction }
+    ZmMenuItem { action: root.actions.edit.cut }
+    ZmMenuItem { action: root.actions.edit.copy }
+    ZmMenuItem { action: root.actions.edit.paste }
+    ZmMenuSeparator {}
 
-    Separator { needed: !!(root.cutAction || root.copyAction || root.pasteAction) }
-
-    Entry {
-        action: Action {
+    ZmMenuItem {
+        action: ZmAction {
             text: qsTr("Rasterize Layer")
             icon.name: "add_paint_layer"
             enabled: root.rasterizable
-            onTriggered: root.paintController.rasterizeAt(root.documentPoint)
+            onTriggered: root.actions.context.paintController.rasterizeAt(root.documentPoint)
         }
     }
-    Entry { action: root.removeLayerAction }
 
-    Separator { needed: !!(root.invertRasterSelectionAction || root.clearRasterSelectionAction) }
-
-    Entry { action: root.invertRasterSelectionAction }
-    Entry { action: root.clearRasterSelectionAction }
-
-    // What is in a closed menu is not visible, so a height must not follow from that.
-    component Entry: ZmMenuItem {
-        visible: !!action
-        height: action ? implicitHeight : 0
-    }
-
-    component Separator: ZmMenuSeparator {
-        property bool needed
-
-        visible: needed
-        height: needed ? implicitHeight : 0
-    }
+    ZmMenuItem { action: root.actions.layers.removeLayer }
+    ZmMenuSeparator {}
+    ZmMenuItem { action: root.actions.selection.invertRaster }
+    ZmMenuItem { action: root.actions.selection.clearRaster }
 }

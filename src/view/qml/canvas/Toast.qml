@@ -10,14 +10,6 @@ QtObject {
     // Options for what went wrong, which takes longer to read.
     readonly property var failure: ({ durationMs: 2500 })
 
-    readonly property Connections notificationConnections: Connections {
-        target: typeof userNotifications === "undefined" ? null : userNotifications
-
-        function onToastRequested(message, hint, delayMs, durationMs, persistent) {
-            root.show(message, { hint, delayMs, durationMs, persistent })
-        }
-    }
-
     signal showRequested(string message, string hint, int delayMs, int durationMs, bool persistent, var clickHandler)
     signal hideRequested()
 

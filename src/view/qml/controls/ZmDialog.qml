@@ -31,6 +31,9 @@ Dialog {
             defaultButton.clicked()     // click() would take the focus along
     }
 
+    onVisibleChanged: OpenDialogs.report(root, visible)
+    Component.onDestruction: OpenDialogs.report(root, false)
+
     anchors.centerIn: Overlay.overlay
     modal: true
     focus: true

@@ -6,8 +6,8 @@ import QtQuick.Controls
 ZmDialog {
     id: root
 
-    required property var applicationInfoController
-    required property var noticeCatalogModel    // roles name, version, licenseName, homePage, text
+    required property ApplicationInfoController applicationInfoController
+    required property NoticeCatalogModel noticeCatalogModel
     property url webSite
 
     width: Math.min(780, room.width - 2 * Theme.spaceXXL)

@@ -7,7 +7,7 @@ import QtQuick.Controls
 ZmDialog {
     id: root
 
-    required property var controller
+    required property ExportController controller
 
     // The session outlives the dialog, for the file dialog that follows.
     property bool preserveControllerOnHide: false

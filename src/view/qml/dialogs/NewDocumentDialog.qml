@@ -1,3 +1,5 @@
+pragma ComponentBehavior: Bound
+
 import QtQuick
 import QtQuick.Layouts
 import QtQuick.Controls
@@ -6,7 +8,7 @@ import QtQuick.Controls
 ZmDialog {
     id: root
 
-    required property var documentFileController
+    required property DocumentFileController documentFileController
 
     property int documentWidth: 1920
     property int documentHeight: 1080
@@ -15,17 +17,17 @@ ZmDialog {
 
     readonly property int minimumSide: 1
     readonly property int maximumSide: 10000
-    readonly property var presets: [
-        preset(qsTr("Screen"), qsTr("HD"), 1280, 720),
-        preset(qsTr("Screen"), qsTr("Full HD"), 1920, 1080),
-        preset(qsTr("Screen"), qsTr("4K"), 3840, 2160),
-        preset(qsTr("Social"), qsTr("Square"), 1080, 1080),
-        preset(qsTr("Social"), qsTr("Story"), 1080, 1920),
-        preset(qsTr("Photo"), qsTr("Photo 3:2"), 3000, 2000),
-        preset(qsTr("Photo"), qsTr("Photo 4:3"), 4000, 3000),
-        preset(qsTr("Print, 300 ppi"), qsTr("A4"), 2480, 3508),
-        preset(qsTr("Print, 300 ppi"), qsTr("A5"), 1748, 2480),
-        preset(qsTr("Print, 300 ppi"), qsTr("Letter"), 2550, 3300)
+    readonly property list<DocumentPreset> presets: [
+        DocumentPreset { group: qsTr("Screen"); name: qsTr("HD"); width: 1280; height: 720 },
+        DocumentPreset { group: qsTr("Screen"); name: qsTr("Full HD"); width: 1920; height: 1080 },
+        DocumentPreset { group: qsTr("Screen"); name: qsTr("4K"); width: 3840; height: 2160 },
+        DocumentPreset { group: qsTr("Social"); name: qsTr("Square"); width: 1080; height: 1080 },
+        DocumentPreset { group: qsTr("Social"); name: qsTr("Story"); width: 1080; height: 1920 },
+        DocumentPreset { group: qsTr("Photo"); name: qsTr("Photo 3:2"); width: 3000; height: 2000 },
+        DocumentPreset { group: qsTr("Photo"); name: qsTr("Photo 4:3"); width: 4000; height: 3000 },
+        DocumentPreset { group: qsTr("Print, 300 ppi"); name: qsTr("A4"); width: 2480; height: 3508 },
+        DocumentPreset { group: qsTr("Print, 300 ppi"); name: qsTr("A5"); width: 1748; height: 2480 },
+        DocumentPreset { group: qsTr("Print, 300 ppi"); name: qsTr("Letter"); width: 2550; height: 3300 }
     ]
     // The preset that the size is, if need be lying on its side.
     readonly property int presetIndex: {
@@ -35,10 +37,6 @@ ZmDialog {
     }
 
     signal boardReset()
-
-    function preset(group, name, width, height) {
-        return {group: group, name: name, width: width, height: height}
-    }
 
     function setSize(width, height) {
         failure = ""
@@ -112,7 +110,6 @@ ZmDialog {
 
                 delegate: NewDocumentPreset {
                     width: presetList.width - (presetList.contentHeight > presetList.height ? Theme.spaceL : 0)
-                    preset: modelData
                     beginsGroup: index === 0 || root.presets[index - 1]?.group !== modelData.group
                     current: index === root.presetIndex
                     onChosen: {

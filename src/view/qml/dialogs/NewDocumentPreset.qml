@@ -1,5 +1,4 @@
 import QtQuick
-import QtQuick.Layouts
 import QtQuick.Controls
 
 // A size to choose: its page drawn small, its name and its sides; the first of a group under the name of the group.
@@ -7,8 +6,8 @@ Item {
     id: root
 
     required property int index
-    required property var modelData
-    property var preset
+    required property DocumentPreset modelData
+    readonly property DocumentPreset preset: modelData
     property bool beginsGroup: false
     property bool current: false
 

@@ -1,3 +1,5 @@
+pragma ComponentBehavior: Bound
+
 import QtQuick
 import QtQuick.Controls
 
@@ -7,7 +9,16 @@ Rectangle {
 
     property alias model: list.model
     property alias currentIndex: list.currentIndex
-    readonly property Item currentItem: list.currentItem
+    readonly property Notice currentItem: list.currentItem as Notice
+
+    component Notice: ItemDelegate {
+        required property int index
+        required property string name
+        required property string version
+        required property string licenseName
+        required property url homePage
+        required text
+    }
 
     radius: Theme.radius
     color: Theme.sunken
@@ -27,15 +38,9 @@ Rectangle {
         Accessible.name: qsTr("Licenses")
         ScrollBar.vertical: ZmScrollBar {}
 
-        delegate: ItemDelegate {
+        delegate: Notice {
             id: entry
 
-            required property int index
-            required property string name
-            required property string version
-            required property string licenseName
-            required property url homePage
-            required text
             readonly property bool current: ListView.isCurrentItem
             readonly property color inkColor: current ? Theme.accentText : Theme.text
 

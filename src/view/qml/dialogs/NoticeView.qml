@@ -6,7 +6,7 @@ import QtQuick.Controls
 Rectangle {
     id: root
 
-    property Item notice: null      // an entry of the list of notices
+    property NoticeList.Notice notice: null
 
     radius: Theme.radius
     color: Theme.sunken

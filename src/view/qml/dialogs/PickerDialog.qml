@@ -1,3 +1,5 @@
+pragma ComponentBehavior: Bound
+
 import QtQuick
 import QtQuick.Layouts
 import QtQuick.Controls
@@ -16,7 +18,7 @@ ZmDialog {
     property var sourceCategoryGroups: null     // a list of maps of `category` and `items`
     property bool categoryNavigationEnabled: false
     property string categoryNavigationIconRole: "iconName"
-    property var categorySearchKeys: ["displayName", "filterName", "generatorId", "keywords"]
+    property list<string> categorySearchKeys: ["displayName", "filterName", "generatorId", "keywords"]
     property real categoryCellWidth: 128
     property real categoryCellHeight: 132
     property real categoryCellPadding: 6

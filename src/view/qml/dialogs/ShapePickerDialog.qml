@@ -4,8 +4,8 @@ import QtQuick
 PickerDialog {
     id: root
 
-    required property var shapeModel
-    required property var controller
+    required property ShapePickerModel shapeModel
+    required property EditorController controller
 
     pickerTitle: qsTr("Insert Shape or Sticker")
     searchPlaceholderText: qsTr("Search shapes and stickers")

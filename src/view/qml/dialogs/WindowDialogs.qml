@@ -1,17 +1,20 @@
+pragma ComponentBehavior: Bound
+
 import QtQuick
 import QtQuick.Dialogs
 
-// The dialogs of the window. What a person decides in them goes to the window as a signal.
+// The dialogs of the window. The flow of documents opens them, and what a person decides in them goes back to it.
 Item {
     id: root
 
-    required property var files
-    required property var editor
-    required property var exporter
-    required property var settings
-    required property var applicationInfo
-    required property var notices
-    required property var shapes
+    required property DocumentFlow flow
+    required property DocumentFileController files
+    required property EditorController editor
+    required property ExportController exporter
+    required property ApplicationSettings settings
+    required property ApplicationInfoController applicationInfo
+    required property NoticeCatalogModel notices
+    required property ShapePickerModel shapes
 
     readonly property alias documentOpenDialog: documentOpenDialog
     readonly property alias imageFileDialog: imageFileDialog
@@ -27,25 +30,7 @@ Item {
     readonly property alias exportDialog: exportDialog
     readonly property alias shapePickerDialog: shapePickerDialog
 
-    // They may be windows of their own, which let the keys of actions through.
-    readonly property bool fileDialogOpen: documentOpenDialog.visible || imageFileDialog.visible
-                                           || exportFileDialog.visible
-    readonly property bool anyVisible: aboutDialog.visible || shapePickerDialog.visible || exportDialog.visible
-                                       || saveProgressDialog.visible || resetBoardDialog.visible
-                                       || fileDialogOpen || exportErrorDialog.visible
-                                       || documentFileErrorDialog.visible || imageLoadErrorDialog.visible
-                                       || unsavedChangesDialog.visible || languageRestartDialog.visible
-
-    signal documentChosen(url fileUrl)
-    signal imageChosen(url fileUrl)
-    signal exportFileChosen(url fileUrl)
-    // The export was given up, in its dialog or in the file dialog after it.
-    signal exportCanceled()
-    signal openErrorRead()
     signal boardReset()
-    signal saveRequested()
-    signal continueRequested()
-    signal unsavedQuestionDismissed()
 
     function openImageFileDialog() {
         if (settings.imageImportFolderUrl.toString())
@@ -70,7 +55,46 @@ Item {
         progressPreview.start()
     }
 
-    FileDialog {
+    Connections {
+        target: root.flow
+
+        function onUnsavedQuestionRequested(question) {
+            unsavedChangesDialog.showForAction(question)
+        }
+
+        function onNewDocumentDialogRequested() {
+            resetBoardDialog.open()
+        }
+
+        function onOpenDialogRequested() {
+            documentOpenDialog.open()
+        }
+
+        function onExportDialogRequested() {
+            exportDialog.open()
+        }
+
+        function onSaveProgressShownChanged() {
+            if (root.flow.saveProgressShown)
+                saveProgressDialog.open()
+            else
+                saveProgressDialog.close()
+        }
+
+        function onOpenFailed() {
+            documentFileErrorDialog.open()
+        }
+
+        function onInsertFailed() {
+            imageLoadErrorDialog.open()
+        }
+
+        function onExportFailed() {
+            exportErrorDialog.open()
+        }
+    }
+
+    ZmFileDialog {
         id: documentOpenDialog
 
         title: qsTr("Open Document or Image")
@@ -81,10 +105,10 @@ Item {
             qsTr("All files (*)")
         ]
         currentFolder: root.settings.imageImportFolderUrl
-        onAccepted: root.documentChosen(selectedFile)
+        onAccepted: Qt.callLater(root.flow.loadChosenFile, selectedFile)
     }
 
-    FileDialog {
+    ZmFileDialog {
         id: imageFileDialog
 
         title: qsTr("Insert Image Layer")
@@ -92,10 +116,10 @@ Item {
             qsTr("All image files (%1)").arg(root.editor.supportedImageFilePatterns),
             qsTr("All files (*)")
         ]
-        onAccepted: root.imageChosen(selectedFile)
+        onAccepted: Qt.callLater(root.flow.insertImage, selectedFile)
     }
 
-    FileDialog {
+    ZmFileDialog {
         id: exportFileDialog
 
         title: qsTr("Save Image As")
@@ -103,11 +127,8 @@ Item {
         fileMode: FileDialog.SaveFile
         nameFilters: [root.exporter.fileNameFilter]
         defaultSuffix: root.exporter.defaultSuffix
-        onAccepted: root.exportFileChosen(selectedFile)
-        onRejected: {
-            root.exporter.end()
-            root.exportCanceled()
-        }
+        onAccepted: root.flow.exportTo(selectedFile)
+        onRejected: root.flow.cancelExport()
     }
 
     ImageLoadErrorDialog {
@@ -116,7 +137,7 @@ Item {
         title: qsTr("Unable to Open File")
         message: root.files.lastError
         showHeifInstallHelp: root.files.lastErrorOffersHeifInstallHelp
-        onClosed: root.openErrorRead()
+        onClosed: root.flow.openErrorRead()
     }
 
     ImageLoadErrorDialog {
@@ -153,9 +174,9 @@ Item {
     UnsavedChangesDialog {
         id: unsavedChangesDialog
 
-        onSaveRequested: root.saveRequested()
-        onContinueRequested: root.continueRequested()
-        onDismissed: root.unsavedQuestionDismissed()
+        onSaveRequested: root.flow.saveDocument(root.settings.canvasClipMode)
+        onContinueRequested: root.flow.continuePendingUnsavedAction()
+        onDismissed: root.flow.abandonPendingUnsavedAction()
     }
 
     NewDocumentDialog {
@@ -187,7 +208,7 @@ Item {
         component: ExportDialog {
             controller: root.exporter
             onSaveRequested: root.openExportFileDialog()
-            onSaveSetupCanceled: root.exportCanceled()
+            onSaveSetupCanceled: root.flow.abandonPendingUnsavedAction()
         }
     }
 

@@ -1,17 +1,16 @@
 import QtQuick
-import QtQuick.Controls
 
 // Switches and short cuts for developers.
 ZmMenu {
     id: root
 
-    required property ActionContext context
-    required property ZmAction addExampleImage
-    readonly property WindowDialogs dialogs: context.dialogs
+    required property WindowActions actions
+    readonly property RuntimeFlags flags: actions.context.flags
+    readonly property WindowDialogs dialogs: actions.context.dialogs
 
     title: qsTr("&Debug")
 
-    ZmMenuItem { action: root.addExampleImage }
+    ZmMenuItem { action: root.actions.layers.addExampleImage }
     ZmMenuSeparator {}
 
     ZmMenu {
@@ -20,8 +19,8 @@ ZmMenu {
         ZmMenuItem {
             action: ModeAction {
                 text: qsTr("&Missing HEVC Codec")
-                active: root.context.flags.noHevcCodec
-                onChosen: root.context.flags.noHevcCodec = !active
+                active: root.flags.noHevcCodec
+                onChosen: root.flags.noHevcCodec = !active
             }
         }
     }

@@ -1,11 +1,12 @@
+pragma ComponentBehavior: Bound
+
 import QtQuick
-import QtQuick.Controls
 
 // The languages of the interface, each by its own name.
 ZmMenu {
     id: root
 
-    required property var settings
+    required property ApplicationSettings settings
 
     signal languageChosen(string language)
 
@@ -14,12 +15,14 @@ ZmMenu {
     Instantiator {
         model: root.settings.availableLanguages
         delegate: ZmMenuItem {
+            id: entry
+
             required property string modelData
 
             action: ModeAction {
-                text: root.settings.languageDisplayName(modelData)
-                active: root.settings.language === modelData
-                onChosen: root.languageChosen(modelData)
+                text: root.settings.languageDisplayName(entry.modelData)
+                active: root.settings.language === entry.modelData
+                onChosen: root.languageChosen(entry.modelData)
             }
         }
         onObjectAdded: (index, item) => root.insertItem(index, item)

@@ -1,12 +1,13 @@
+pragma ComponentBehavior: Bound
+
 import QtQuick
-import QtQuick.Controls
 
 // The menus of the window.
 ZmMenuBar {
     id: root
 
-    required property ActionContext context
     required property WindowActions actions
+    readonly property ActionContext context: actions.context
 
     ZmMenu {
         title: qsTr("&File")
@@ -16,7 +17,7 @@ ZmMenuBar {
         RecentFilesMenu {
             settings: root.context.settings
             enabled: !root.actions.file.saveInProgress && settings.recentFilePaths.length > 0
-            onFileChosen: path => root.context.window.requestOpenRecent(path)
+            onFileChosen: path => root.context.flow.requestOpenRecent(path)
         }
         ZmMenuSeparator {}
         ZmMenuItem { action: root.actions.file.saveDocument }
@@ -86,7 +87,7 @@ ZmMenuBar {
 
         LanguageMenu {
             settings: root.context.settings
-            onLanguageChosen: language => root.context.window.chooseLanguage(language)
+            onLanguageChosen: language => root.actions.view.chooseLanguage(language)
         }
 
         ZmMenuSeparator {}
@@ -144,8 +145,7 @@ ZmMenuBar {
     Instantiator {
         active: root.context.forDevelopers
         delegate: DebugMenu {
-            context: root.context
-            addExampleImage: root.actions.layers.addExampleImage
+            actions: root.actions
         }
         onObjectAdded: (index, menu) => root.insertMenu(root.count - 1, menu)
         onObjectRemoved: (index, menu) => root.removeMenu(menu)

@@ -1,11 +1,12 @@
+pragma ComponentBehavior: Bound
+
 import QtQuick
-import QtQuick.Controls
 
 // The documents that were opened or saved last.
 ZmMenu {
     id: root
 
-    required property var settings
+    required property ApplicationSettings settings
 
     signal fileChosen(string path)
 
@@ -14,12 +15,14 @@ ZmMenu {
     Instantiator {
         model: root.settings.recentFilePaths
         delegate: ZmMenuItem {
+            id: entry
+
             required property string modelData
             required property int index
 
             text: qsTr("%1. %2").arg(index + 1).arg(root.settings.recentFileDisplayName(modelData).replace(/&/g, "&&"))
             onTriggered: root.fileChosen(modelData)
-            onHoveredChanged: ToolTips.ask(this, hovered ? modelData : "", true)
+            onHoveredChanged: ToolTips.ask(entry, entry.hovered ? entry.modelData : "", true)
         }
         onObjectAdded: (index, item) => root.insertItem(index, item)
         onObjectRemoved: (index, item) => root.removeItem(item)

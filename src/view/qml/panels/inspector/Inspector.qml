@@ -1,3 +1,5 @@
+pragma ComponentBehavior: Bound
+
 import QtQuick
 import QtQuick.Controls
 import QtQuick.Templates as T // what all fields are, whatever the style
@@ -25,17 +27,8 @@ Pane {
     required property DocumentPropertiesAdapter documentAdapter
     // Of the selected layer; empty when there is none.
     required property size layerPixelSize
-    required property Action showHideLayerAction
-    required property Action cutLayerAction
-    required property Action copyLayerAction
-    required property Action pasteLayerAction
-    required property Action moveLayerUpAction
-    required property Action moveLayerDownAction
-    required property Action rasterizeLayerAction
-    required property Action mergeLayerBelowAction
-    required property Action removeLayerAction
+    required property WindowActions actions
 
-    property var overlayModel: null
     property bool positionedOnLeft: false
 
     property int currentPanel: Inspector.Info
@@ -43,7 +36,7 @@ Pane {
     // The first of these that is active takes the tab.
     readonly property list<int> toolPrecedence: [Inspector.DrawTool, Inspector.FillTool, Inspector.SelectionTool,
         Inspector.CropTool, Inspector.RelightTool, Inspector.PathTool]
-    readonly property var activeTools: toolPrecedence.filter(
+    readonly property list<int> activeTools: toolPrecedence.filter(
         panel => Array.from(tabs).some(tab => tab.panelIndex === panel && tab.available))
 
     // What is selected, in a word, and its icon.
@@ -80,7 +73,7 @@ Pane {
             iconName: "tab_layers"
             panel: LayerPanel {
                 sceneObjectAdapter: root.sceneObjectAdapter
-                actions: layerActions
+                actions: root.actions
             }
         },
         InspectorTab {
@@ -89,7 +82,7 @@ Pane {
             iconName: "tab_size"
             panel: SizePanel {
                 sceneObjectAdapter: root.sceneObjectAdapter
-                overlayModel: root.overlayModel
+                overlayModel: root.actions.context.selectionModel
             }
         }
     ]
@@ -138,20 +131,6 @@ Pane {
         id: selectedLayer
 
         model: root.sceneObjectAdapter.layerListModel
-    }
-
-    LayerRowActions {
-        id: layerActions
-
-        showHide: root.showHideLayerAction
-        cut: root.cutLayerAction
-        copy: root.copyLayerAction
-        paste: root.pasteLayerAction
-        moveUp: root.moveLayerUpAction
-        moveDown: root.moveLayerDownAction
-        rasterize: root.rasterizeLayerAction
-        mergeBelow: root.mergeLayerBelowAction
-        remove: root.removeLayerAction
     }
 
     Item {

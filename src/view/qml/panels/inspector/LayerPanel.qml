@@ -1,6 +1,5 @@
 import QtQuick
 import QtQuick.Layouts
-import QtQuick.Controls
 import ZelmoraAtelier
 
 // The selected layer's name and blending, and below it the list of all layers, which takes the height that is left.
@@ -8,7 +7,7 @@ Item {
     id: root
 
     required property SceneObjectAdapter sceneObjectAdapter
-    required property LayerRowActions actions
+    required property WindowActions actions
 
     // A press beside the fields ends the edit of a field.
     TapHandler {
@@ -55,9 +54,9 @@ Item {
             Layout.rightMargin: Theme.spaceL
             title: qsTr("Layers")
             tools: [
-                ZmSmallIconButton { action: root.actions.moveUp },
-                ZmSmallIconButton { action: root.actions.moveDown },
-                ZmSmallIconButton { action: root.actions.remove }
+                ZmSmallIconButton { action: root.actions.layers.moveUp },
+                ZmSmallIconButton { action: root.actions.layers.moveDown },
+                ZmSmallIconButton { action: root.actions.layers.removeLayer }
             ]
         }
 

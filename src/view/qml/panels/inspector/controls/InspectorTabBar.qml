@@ -1,6 +1,7 @@
+pragma ComponentBehavior: Bound
+
 import QtQuick
 import QtQuick.Layouts
-import QtQuick.Controls
 
 // The strip of tabs. Wide names take room from narrow ones before any is cut. Left and Right go to the next tab.
 Rectangle {
@@ -11,10 +12,15 @@ Rectangle {
 
     signal tabRequested(int panelIndex)
 
+    component Tab: ZmTabButton {
+        required property InspectorTab modelData
+        required property int index
+    }
+
     function step(from, by) {
         const count = repeater.count
         for (let i = (from + by + count) % count; i !== from; i = (i + by + count) % count) {
-            const button = repeater.itemAt(i)
+            const button = repeater.itemAt(i) as Tab
             if (!button.visible)
                 continue
             tabRequested(button.modelData.panelIndex)
@@ -46,9 +52,8 @@ Rectangle {
 
             model: root.tabs
 
-            ZmTabButton {
-                required property InspectorTab modelData
-                required property int index
+            Tab {
+                id: button
 
                 Layout.fillWidth: true
                 Layout.minimumWidth: 34
@@ -61,8 +66,8 @@ Rectangle {
                 Keys.onLeftPressed: root.step(index, -1)
                 Keys.onRightPressed: root.step(index, 1)
                 onClicked: root.tabRequested(modelData.panelIndex)
-                onHoveredChanged: ToolTips.ask(this, hovered && width < implicitContentWidth ? text : "", false)
-                onPressed: ToolTips.end(this)
+                onHoveredChanged: ToolTips.ask(button, hovered && width < implicitContentWidth ? text : "", false)
+                onPressed: ToolTips.end(button)
             }
         }
     }

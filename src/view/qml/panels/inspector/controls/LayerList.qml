@@ -1,3 +1,5 @@
+pragma ComponentBehavior: Bound
+
 import QtQuick
 import QtQuick.Controls
 import ZelmoraAtelier
@@ -9,7 +11,7 @@ ScrollView {
     id: root
 
     required property SceneObjectAdapter sceneObjectAdapter
-    required property LayerRowActions actions
+    required property WindowActions actions
 
     readonly property SceneLayerListModel layers: sceneObjectAdapter.layerListModel
     readonly property alias count: list.count
@@ -43,7 +45,7 @@ ScrollView {
 
     function finishRename() {
         if (renamingId)
-            list.itemAtIndex(selection.row)?.finishRename()
+            (list.itemAtIndex(selection.row) as LayerRow)?.finishRename()
     }
 
     function openMenu(position) {
@@ -57,10 +59,10 @@ ScrollView {
         const moves = event.modifiers & (Qt.ControlModifier | Qt.AltModifier)
         switch (event.key) {
         case Qt.Key_Up:
-            moves ? actions.moveUp.trigger() : selectRow(Math.max(selection.row - 1, 0))
+            moves ? actions.layers.moveUp.trigger() : selectRow(Math.max(selection.row - 1, 0))
             break
         case Qt.Key_Down:
-            moves ? actions.moveDown.trigger() : selectRow(Math.min(selection.row + 1, list.count - 1))
+            moves ? actions.layers.moveDown.trigger() : selectRow(Math.min(selection.row + 1, list.count - 1))
             break
         case Qt.Key_Home:
             selectRow(0)
@@ -69,10 +71,10 @@ ScrollView {
             selectRow(list.count - 1)
             break
         case Qt.Key_Space:
-            actions.showHide.trigger()
+            actions.layers.toggleVisibility.trigger()
             break
         case Qt.Key_Delete:
-            actions.remove.trigger()
+            actions.layers.removeLayer.trigger()
             break
         case Qt.Key_F2:
             renameSelected()
@@ -144,7 +146,7 @@ ScrollView {
             width: ListView.view.width
             height: root.rowHeight
             endMargin: root.endMargin
-            mergeAction: root.actions.mergeBelow
+            mergeAction: root.actions.layers.collapseDown
             keyboardFocus: root.keyboardFocus && selected
             dimmed: drag.dragging && root.liftedLayer?.layerId === layerId
             hoverable: !drag.dragging
@@ -175,7 +177,7 @@ ScrollView {
             onRowDoubleClicked: root.renameSelected()
             onMenuRequested: (row, position) => root.openMenu(position)
             onLifted: row => {
-                const item = list.itemAtIndex(row)
+                const item = list.itemAtIndex(row) as LayerRow
                 root.liftedLayer = { layerId: item.layerId, name: item.name, hidden: item.hidden,
                     layerType: item.layerType, hasRasterSelection: item.hasRasterSelection,
                     thumbnailSource: item.thumbnailSource }

@@ -4,11 +4,11 @@ import QtQuick
 ZmMenu {
     id: root
 
-    required property LayerRowActions actions
+    required property WindowActions actions
 
     signal renameRequested()
 
-    ZmMenuItem { action: root.actions.showHide }
+    ZmMenuItem { action: root.actions.layers.toggleVisibility }
 
     ZmMenuItem {
         action: ZmAction {
@@ -19,15 +19,15 @@ ZmMenu {
     }
 
     ZmMenuSeparator {}
-    ZmMenuItem { action: root.actions.cut }
-    ZmMenuItem { action: root.actions.copy }
-    ZmMenuItem { action: root.actions.paste }
+    ZmMenuItem { action: root.actions.edit.cut }
+    ZmMenuItem { action: root.actions.edit.copy }
+    ZmMenuItem { action: root.actions.edit.paste }
     ZmMenuSeparator {}
-    ZmMenuItem { action: root.actions.moveUp }
-    ZmMenuItem { action: root.actions.moveDown }
+    ZmMenuItem { action: root.actions.layers.moveUp }
+    ZmMenuItem { action: root.actions.layers.moveDown }
     ZmMenuSeparator {}
-    ZmMenuItem { action: root.actions.rasterize }
-    ZmMenuItem { action: root.actions.mergeBelow }
+    ZmMenuItem { action: root.actions.layers.rasterize }
+    ZmMenuItem { action: root.actions.layers.collapseDown }
     ZmMenuSeparator {}
-    ZmMenuItem { action: root.actions.remove }
+    ZmMenuItem { action: root.actions.layers.removeLayer }
 }

@@ -1,3 +1,5 @@
+pragma ComponentBehavior: Bound
+
 import QtQuick
 import QtQuick.Layouts
 import QtQuick.Controls
@@ -34,7 +36,7 @@ Item {
     signal selectionRequested()
 
     function finishRename() {
-        renameField.item?.finish(true)
+        (renameField.item as RenameField)?.finish(true)
     }
 
     implicitHeight: 44
