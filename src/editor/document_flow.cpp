@@ -266,6 +266,8 @@ void DocumentFlow::finishApplicationFileOpenRequest()
 void DocumentFlow::saveDocument(bool clipToDocument)
 {
     commitTextEditing();
+    if (m_exportAskedFor)
+        return;
     if (m_exporter->hasSessionExport())
         saveSessionExport();
     else
@@ -275,12 +277,14 @@ void DocumentFlow::saveDocument(bool clipToDocument)
 void DocumentFlow::saveDocumentAs(bool clipToDocument)
 {
     commitTextEditing();
-    openExportDialog(clipToDocument);
+    if (!m_exportAskedFor)
+        openExportDialog(clipToDocument);
 }
 
 void DocumentFlow::openExportDialog(bool clipToDocument)
 {
-    if (m_exporter->begin(clipToDocument))
+    m_exportAskedFor = m_exporter->begin(clipToDocument);
+    if (m_exportAskedFor)
         emit exportDialogRequested();
     else
         failSave();
@@ -327,6 +331,7 @@ void DocumentFlow::failSave()
 void DocumentFlow::exportTo(const QUrl &url)
 {
     const auto write = [this, url] {
+        m_exportAskedFor = false;
         if (m_exporter->exportTo(url)) {
             emit imageExported(url);
         } else {
@@ -339,6 +344,7 @@ void DocumentFlow::exportTo(const QUrl &url)
 
 void DocumentFlow::cancelExport()
 {
+    m_exportAskedFor = false;
     m_exporter->end();
     abandonPendingUnsavedAction();
 }

@@ -125,12 +125,12 @@ public:
 
     // --- Saving. Clip is as in ExportController::begin(). ---
 
-    /// Repeats the last export, or asks for the first one.
+    /// Repeats the last export, or asks for the first one. One that is being asked for goes on instead.
     Q_INVOKABLE void saveDocument(bool clipToDocument);
     Q_INVOKABLE void saveDocumentAs(bool clipToDocument);
     /// Writes what the export dialog has prepared.
     Q_INVOKABLE void exportTo(const QUrl &url);
-    /// No file was chosen for it.
+    /// It was given up in its dialog, or no file was chosen for it.
     Q_INVOKABLE void cancelExport();
 
     // --- Layers from files ---
@@ -205,6 +205,7 @@ private:
     QUrl m_activeApplicationFileOpenUrl;
     bool m_applicationFileOpenUiBlocked = false;
     bool m_processingDue = false;
+    bool m_exportAskedFor = false; // its dialog is open, or that for its file
     bool m_saveProgressShown = false;
 };
 

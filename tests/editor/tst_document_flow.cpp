@@ -407,13 +407,15 @@ private slots:
         QVERIFY(!fixture.exporter.previewReady());
 
         askToClose();
+        fixture.flow.saveDocument(true); // as the answer to a second question beside the file dialog
         fixture.flow.exportTo(fixture.url(u"x.jpg"_s));
         QCOMPARE(fixture.takeAsked(), QStringList({u"exported x.jpg"_s, u"close"_s}));
         fixture.flow.saveDocumentAs(true);
         QTRY_VERIFY(fixture.exporter.previewReady());
         fixture.flow.exportTo(fixture.url(u"no/such/folder/x.jpg"_s));
+        QCOMPARE(fixture.takeAsked(), QStringList({u"export dialog"_s, u"export failed"_s}));
         fixture.flow.saveDocument(true); // where the good one went
-        QCOMPARE(fixture.takeAsked(), QStringList({u"export dialog"_s, u"export failed"_s, u"saved x.jpg"_s}));
+        QCOMPARE(fixture.takeAsked(), QStringList(u"saved x.jpg"_s));
     }
 
     void changesMadeDuringASaveAreAskedAboutAgain()

@@ -208,7 +208,7 @@ Item {
         component: ExportDialog {
             controller: root.exporter
             onSaveRequested: root.openExportFileDialog()
-            onSaveSetupCanceled: root.flow.abandonPendingUnsavedAction()
+            onSaveSetupCanceled: root.flow.cancelExport()
         }
     }
 
