@@ -66,6 +66,8 @@ Item {
 
         Ring {
             anchors.centerIn: parent
+            width: 28       // a shape takes the size of its path for its own, and the path would follow that
+            height: 28
             turning: root.showsRing
         }
     }
