@@ -39,7 +39,9 @@ ApplicationWindow {
     function requestNewDocument() { documentFlow.requestNewDocument() }
     function requestOpenDocument() { documentFlow.requestOpenDocument() }
     function requestOpenRecent(path: string) { documentFlow.requestOpenRecent(path) }
-    function requestOpenFile(url: url, asked: bool) { documentFlow.requestOpenFile(url, asked) }
+    function requestOpenFile(url: url, applicationRequest: bool) {
+        documentFlow.requestOpenFile(url, applicationRequest)
+    }
     function loadDocumentFile(url: url) { documentFlow.loadDocumentFile(url) }
     function loadRecentDocument(path: string) { documentFlow.loadRecentDocument(path) }
     function processPendingApplicationFileOpenRequest() { documentFlow.processPendingApplicationFileOpenRequest() }

@@ -6,7 +6,7 @@ QtObject {
 
     required property ActionContext context
     readonly property CommandHistory history: context.history
-    readonly property var clipboard: context.clipboard     // see there
+    readonly property var clipboard: context.clipboard     // see ActionContext
 
     readonly property ZmAction undo: ZmAction {
         text: qsTr("&Undo")

@@ -5,7 +5,7 @@ QtObject {
     id: root
 
     required property ActionContext context
-    readonly property bool saveInProgress: context.flow.saveInProgress || context.dialogs.saveProgressDialog.visible
+    readonly property bool saveInProgress: context.flow.saveInProgress
     readonly property bool available: !saveInProgress && !OpenDialogs.anyFileDialog
 
     readonly property ZmAction newDocument: ZmAction {

@@ -7,7 +7,7 @@ QtObject {
     required property ActionContext context
     readonly property EditorController editor: context.editor
     readonly property SceneObjectAdapter sceneAdapter: context.sceneAdapter
-    readonly property var paintController: context.paintController      // see there
+    readonly property var paintController: context.paintController      // see ActionContext
     readonly property bool editable: context.editable
 
     readonly property ZmAction addImage: ZmAction {

@@ -7,7 +7,7 @@ QtObject {
     id: root
 
     required property ActionContext context
-    readonly property var model: context.selectionModel     // see there
+    readonly property var model: context.selectionModel     // see ActionContext
     readonly property var clipboard: context.clipboard
     readonly property bool editable: context.editable
 

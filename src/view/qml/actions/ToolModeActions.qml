@@ -6,7 +6,7 @@ QtObject {
     id: root
 
     required property ActionContext context
-    readonly property var selectionModel: context.selectionModel    // see there
+    readonly property var selectionModel: context.selectionModel    // see ActionContext
     readonly property var paintController: context.paintController
     readonly property bool editable: context.editable
 

@@ -4,8 +4,6 @@ import QtQuick
 
 // Where any part of the interface asks for a toast; the canvas shows it.
 QtObject {
-    id: root
-
     readonly property int defaultDurationMs: 750
     // Options for what went wrong, which takes longer to read.
     readonly property var failure: ({ durationMs: 2500 })

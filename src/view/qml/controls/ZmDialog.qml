@@ -31,9 +31,6 @@ Dialog {
             defaultButton.clicked()     // click() would take the focus along
     }
 
-    onVisibleChanged: OpenDialogs.report(root, visible)
-    Component.onDestruction: OpenDialogs.report(root, false)
-
     anchors.centerIn: Overlay.overlay
     modal: true
     focus: true
@@ -41,6 +38,8 @@ Dialog {
     padding: Theme.spaceXXL - Theme.spaceS
     topPadding: Theme.spaceM
     bottomPadding: Theme.spaceXL
+    onVisibleChanged: OpenDialogs.report(root, visible)
+    Component.onDestruction: OpenDialogs.report(root, false)
 
     header: Label {
         text: root.title

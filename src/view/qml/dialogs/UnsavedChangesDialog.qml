@@ -11,7 +11,7 @@ ZmMessageDialog {
     readonly property int openDocumentAction: 2
 
     property int action: exitApplicationAction
-    property var answer: dismissed
+    property var answer: dismissed      // a signal
 
     signal saveRequested()
     signal continueRequested()
