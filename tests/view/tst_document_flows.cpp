@@ -93,6 +93,20 @@ private slots:
             QTRY_VERIFY(m_driver->shows(nextDialog));
     }
 
+    void windowHandsOnWhatIsAskedOfIt()
+    {
+        makeDirty();
+        QWindow *window = m_driver->window();
+        const int newDocument = window->property("newDocumentPendingUnsavedAction").toInt();
+        QVERIFY(QMetaObject::invokeMethod(window, "requestUnsavedAction", newDocument, 1, QString(), QUrl()));
+        QCOMPARE(window->property("pendingUnsavedAction").toInt(), newDocument);
+        QTRY_VERIFY(m_driver->item(u"Create Anyway"_s));
+        QMetaObject::invokeMethod(m_driver->dialog("unsavedChangesDialog"), "close");
+        QTRY_COMPARE(window->property("pendingUnsavedAction").toInt(), 0);
+        QVERIFY(QMetaObject::invokeMethod(window, "executeUnsavedAction", newDocument, QString(), QUrl()));
+        QTRY_VERIFY(m_driver->shows("resetBoardDialog"));
+    }
+
     void savesThroughTheDialogsThenWithoutThenCloses()
     {
         const QUrl target = file(u"saved.jpg"_s);
