@@ -1,5 +1,3 @@
-import QtQuick
-
 // An icon button for rows, titles and fields.
 ZmIconButton {
     size: 26

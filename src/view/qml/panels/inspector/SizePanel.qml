@@ -2,7 +2,6 @@ pragma ComponentBehavior: Bound
 
 import QtQuick
 import QtQuick.Layouts
-import QtQuick.Controls
 import ZelmoraAtelier
 
 // Where the selected layer is, how large, and how it is turned and skewed.
