@@ -59,8 +59,10 @@ void prepareEngine(QQmlApplicationEngine &engine, Application &application, Appl
     engine.addImageProvider(u"layer-thumbnail"_s, new LayerThumbnailProvider(context.layerThumbnailStore));
 
     const auto object = [](QObject &of) { return QVariant::fromValue(&of); };
+    const QString fileOpenRequests = u"applicationFileOpenRequests"_s;
     const QList<QQmlContext::PropertyPair> objects{
         {u"debugBuild"_s, kDebugBuild},
+        {fileOpenRequests, object(application)},
         {u"runtimeFlags"_s, object(context.runtimeFlags)},
         {u"applicationInfoController"_s, object(context.applicationInfoController)},
         {u"applicationSettings"_s, object(context.applicationSettings)},
@@ -82,9 +84,9 @@ void prepareEngine(QQmlApplicationEngine &engine, Application &application, Appl
     QVariantMap windowProperties;
     for (const QQmlContext::PropertyPair &named : objects)
         windowProperties.insert(named.name, named.value);
+    windowProperties.remove(fileOpenRequests); // the flow takes them
     engine.setInitialProperties(windowProperties);
     engine.rootContext()->setContextProperties(objects);
-    engine.rootContext()->setContextProperty(u"applicationFileOpenRequests"_s, &application);
 
     context.documentFlow.setFileOpenRequests([&application] { return application.takePendingFileOpenRequest(); });
     QObject::connect(&application, &Application::pendingFileOpenRequestAvailable, &context.documentFlow,

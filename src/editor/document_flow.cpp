@@ -324,7 +324,7 @@ void DocumentFlow::finishSave(const QUrl &imageUrl)
 void DocumentFlow::failSave()
 {
     setSaveProgressShown(false);
-    emit exportFailed();
+    emit saveFailed();
     abandonPendingUnsavedAction();
 }
 

@@ -162,7 +162,7 @@ signals:
     void documentOpened();
     void openFailed();
     void insertFailed();
-    void exportFailed();
+    void saveFailed();
     void saved(const QUrl &imageUrl);
     void closeRefusedWhileSaving();
 

@@ -46,7 +46,7 @@ struct Fixture
         note(&DocumentFlow::documentOpened, u"opened"_s);
         note(&DocumentFlow::openFailed, u"open failed"_s);
         note(&DocumentFlow::insertFailed, u"insert failed"_s);
-        note(&DocumentFlow::exportFailed, u"export failed"_s);
+        note(&DocumentFlow::saveFailed, u"save failed"_s);
         note(&DocumentFlow::closeRefusedWhileSaving, u"close refused"_s);
         const auto noteFile = [this](const QString &what) {
             return [this, what](const QUrl &url) { asked.append(what + u' ' + url.fileName()); };
@@ -209,7 +209,7 @@ private slots:
                  f.block(u"out.zelmora"_s);
                  f.flow.saveDocument(true);
              },
-             {u"export failed"_s},
+             {u"save failed"_s},
              false,
              true},
             {"save, and the picture fails",
@@ -217,7 +217,7 @@ private slots:
                  f.block(u"out.png"_s);
                  f.flow.saveDocument(true);
              },
-             {u"export failed"_s},
+             {u"save failed"_s},
              false,
              true},
         };
@@ -402,7 +402,7 @@ private slots:
 
         askToClose();
         fixture.flow.exportTo(fixture.url(u"no/such/folder/x.jpg"_s));
-        QCOMPARE(fixture.takeAsked(), QStringList(u"export failed"_s));
+        QCOMPARE(fixture.takeAsked(), QStringList(u"save failed"_s));
         QCOMPARE(fixture.flow.pendingUnsavedAction(), Action::None);
         QVERIFY(!fixture.exporter.previewReady());
 
@@ -413,7 +413,7 @@ private slots:
         fixture.flow.saveDocumentAs(true);
         QTRY_VERIFY(fixture.exporter.previewReady());
         fixture.flow.exportTo(fixture.url(u"no/such/folder/x.jpg"_s));
-        QCOMPARE(fixture.takeAsked(), QStringList({u"export dialog"_s, u"export failed"_s}));
+        QCOMPARE(fixture.takeAsked(), QStringList({u"export dialog"_s, u"save failed"_s}));
         fixture.flow.saveDocument(true); // where the good one went
         QCOMPARE(fixture.takeAsked(), QStringList(u"saved x.jpg"_s));
     }

@@ -13,11 +13,11 @@ layout(std140, binding = 1) uniform LibraryUniforms {
          u_param10, u_param11, u_param12, u_param13, u_param14, u_param15, u_param16;
 };
 #define u_size u_param0.xy          // width and height, pixels
-#define u_style u_param1            // of the stock: x contrast; y chroma; z how far black is lifted; w exposure in stops
+#define u_style u_param1            // contrast; chroma; how far black is lifted; exposure in stops: the stock's
 #define u_strength u_param2.x       // share of the graded picture, 0..1
 #define u_saturation u_param3.x     // -1..1, 0 is the stock's own
 #define u_contrast u_param4.x       // -1..1, 0 is the stock's own
-#define u_fade u_param5.x           // x how far black is lifted, 0..1
+#define u_fade u_param5.x           // how far black is lifted, 0..1
 #define u_grain u_param6.x          // 0..1, with the stock's own
 #define u_vignette u_param7.x       // loss of light in the corners, 0..1
 #define u_artifacts u_param8.x      // dust and scratches, 0..1

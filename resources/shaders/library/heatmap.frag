@@ -10,7 +10,7 @@ layout(binding = 1) uniform sampler2D u_lut;  // one row, cold to hot
 layout(std140, binding = 2) uniform LibraryUniforms {
     vec4 u_param0, u_param1, u_param2, u_param3, u_param4, u_param5;
 };
-#define u_lutSize u_param0.x   // x width of the palette, pixels
+#define u_lutSize u_param0.xy  // of the palette, pixels
 #define u_mix u_param1.x       // share of the palette's colours, 0..1
 #define u_contrast u_param2.x  // -1..1
 #define u_gamma u_param3.x     // exponent, below 1 makes midtones hotter
@@ -36,7 +36,7 @@ void main()
         heat = banded(heat, u_bands);
     heat = mix(heat, 1.0 - heat, u_reverse);
 
-    float width = max(u_lutSize, 1.0);
+    float width = max(u_lutSize.x, 1.0);
     vec3 color = texture(u_lut, vec2((heat * (width - 1.0) + 0.5) / width, 0.5)).rgb;
     fragColor = vec4(mix(src.rgb, color, u_mix), src.a);
 }

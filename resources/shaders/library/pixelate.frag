@@ -13,7 +13,7 @@ layout(std140, binding = 1) uniform LibraryUniforms {
 };
 #define u_size u_param0.xy       // of the picture, pixels
 #define u_block u_param1.x       // side, pixels
-#define u_palette u_param2.x     // 0 original, 1 handheld, 2 8-bit, 3 console, 4 home computer, 5 amber, 6 black and white
+#define u_palette u_param2.x     // 0 original, 1 handheld, 2 8-bit, 3 console, 4 computer, 5 amber, 6 black and white
 #define u_saturation u_param3.x  // 1 changes nothing, 0..2
 #define u_contrast u_param4.x    // 1 changes nothing, 0.5..2
 #define u_dither u_param5.x      // 0..1

@@ -18,7 +18,7 @@ layout(std140, binding = 2) uniform LibraryUniforms {
 #define u_sparkleColor u_param1.rgb  // red, green, blue, 0..1
 #define u_sparkSeed u_param2.x
 #define u_fineSeed u_param3.x
-#define u_sparkParams u_param4       // cell of a star, pixels; density 0..1; length of a ray, pixels; rays: 0 four, 1 six, 2 mixed
+#define u_sparkParams u_param4       // cell, pixels; density, 0..1; ray, pixels; 0 four, 1 six, 2 mixed rays
 #define u_fineParams u_param5        // cell of a grain, pixels; density 0..1; diameter of a grain, pixels
 #define u_styleParams u_param6       // glow 0..1; twinkle 0..1; variation of the colour 0..1
 #define u_renderParams u_param7.xy   // x: how much bright places are preferred, 0..1; y: 1 draws u_mask

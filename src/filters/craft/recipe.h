@@ -54,7 +54,7 @@ public:
 
     // Pictures for the samplers after the first, in the order of the shader's row.
 
-    /// The mask of the controls "mask", "mask.transform" and "mask.feather".
+    /// The mask of the controls "mask", "mask.transform" and "mask.feather", over the picture that came.
     RecipePass &withShapeMask();
     /// What the pass draws over, blurred by a sigma that is a share of its diagonal, at a reduced size.
     RecipePass &withSoftCopy(double share);

@@ -1,7 +1,9 @@
 #include "filters/craft/film_look.h"
 #include "filters/library_filter.h"
 
+#include <algorithm>
 #include <array>
+#include <iterator>
 
 using namespace Qt::StringLiterals;
 
@@ -49,7 +51,7 @@ public:
 
     FilterRenderResult render(const FilterRenderRequest &request) const override
     {
-        const Stock &stock = kStocks[request.choice(u"style"_s)];
+        const Stock &stock = kStocks[std::min<size_t>(size_t(request.choice(u"style"_s)), std::size(kStocks) - 1)];
 
         LibraryUniformBlock film(u"film-grader"_s);
         film.setSize("u_size"_L1, request.size());

@@ -3,6 +3,7 @@
 #include <QImage>
 #include <QRgb>
 
+#include <algorithm>
 #include <cmath>
 #include <iterator>
 
@@ -28,7 +29,7 @@ constexpr QRgb kPalettes[][kStops] = {
 /// One row of colours.
 QImage palette(int index)
 {
-    const QRgb *stops = kPalettes[index];
+    const QRgb *stops = kPalettes[std::min<size_t>(size_t(index), std::size(kPalettes) - 1)];
     QImage row(kPaletteWidth, 1, QImage::Format_RGBA8888);
     for (int x = 0; x < kPaletteWidth; ++x) {
         const double position = double(x) * (kStops - 1) / (kPaletteWidth - 1);

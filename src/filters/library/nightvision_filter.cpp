@@ -65,8 +65,12 @@ private:
         const QPointF center(0.5 * size.width(), 0.5 * size.height());
         QPainterPath path;
         path.setFillRule(Qt::WindingFill);
-        switch (request.choice(u"view"_s)) {
-        case 0: {
+        const QString view = request.text(u"view"_s);
+        if (view == "full"_L1) {
+            path.addRect(QRectF({}, size));
+        } else if (view == "monocular"_L1) {
+            path.addEllipse(center, 0.96 * radius, 0.96 * radius);
+        } else {
             const bool wide = size.width() >= size.height();
             const double length = std::max(size.width(), size.height());
             const double tube = std::min(0.96 * radius, 0.36 * length);
@@ -74,13 +78,6 @@ private:
             const QPointF apart = wide ? QPointF(offset, 0.0) : QPointF(0.0, offset);
             path.addEllipse(center - apart, tube, tube);
             path.addEllipse(center + apart, tube, tube);
-            break;
-        }
-        case 1:
-            path.addEllipse(center, 0.96 * radius, 0.96 * radius);
-            break;
-        default:
-            path.addRect(QRectF({}, size));
         }
         const PassChain::Picture mask = chain.source(filledShapeMask(path, size, maskSize));
         return chain.gaussianBlur(mask, featherSigma(8.0, maskSize));

@@ -89,7 +89,7 @@ Item {
             imageLoadErrorDialog.open()
         }
 
-        function onExportFailed() {
+        function onSaveFailed() {
             exportErrorDialog.open()
         }
     }

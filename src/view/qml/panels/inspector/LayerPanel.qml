@@ -77,5 +77,4 @@ Item {
             actions: root.actions
         }
     }
-
 }
